@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QSqlDatabase>
 #include <QString>
+#include <QVariantMap>
 #include <memory>
 
 class KalSqlTableModel;
@@ -42,6 +43,12 @@ public:
     bool commitTransaction();
     bool rollbackTransaction();
     KalTransactions &transactions() { return m_transactions; }
+
+    // Inserts a defect with the defaults of a new defect (priority "Normal",
+    // today's creation date, no plan, no photos) overridden by `values`
+    // (field name -> value), through the defect model, and submits it.
+    // Returns the new id, or -1 when it could not be written.
+    qint64 insertDefect(const QVariantMap &values = QVariantMap());
 
     // Ids of tables without AUTOINCREMENT; -1 on failure.
     qint64 nextId(const QString &table);
