@@ -9,7 +9,8 @@ class KalSqlTableModel;
 
 // One KalSqlTableModel per project table the user interface edits, with
 // field types, captions, display roles, lookups between them and id
-// allocation on insert. Built by KalProject after every (re)opening of the
+// allocation on insert. Every model is selected with all rows. Rows a model
+// writes mark the project modified. Built by KalProject after every (re)opening of the
 // connection and destroyed before it closes.
 class KalProjectModels
 {
@@ -27,4 +28,5 @@ public:
 private:
     KalProject *m_project;
     QHash<QString, KalSqlTableModel *> m_models;
+    QStringList m_order; // creation order
 };
