@@ -1,0 +1,102 @@
+#include "KalProgressDialog.h"
+
+#include <QApplication>
+#include <QProgressBar>
+#include <QProgressDialog>
+#include <QTimer>
+
+KalProgressDialog::KalProgressDialog(QObject *parent)
+    : QObject(parent)
+    , m_showTimer(new QTimer(this))
+{
+    m_showTimer->setSingleShot(true);
+    connect(m_showTimer, &QTimer::timeout, this, [this] { showWindow(); });
+}
+
+KalProgressDialog::~KalProgressDialog()
+{
+    delete m_window;
+    if (m_depth > 0)
+        QApplication::restoreOverrideCursor();
+}
+
+bool KalProgressDialog::isShowing() const
+{
+    return m_window && m_window->isVisible();
+}
+
+void KalProgressDialog::begin(const QString &text)
+{
+    if (m_depth++ > 0) {
+        if (!text.isEmpty() && m_window)
+            m_window->setLabelText(text);
+        return;
+    }
+    m_text = text.isEmpty() ? tr("Bitte warten...") : text;
+    m_started.start();
+    m_lastPaint.start();
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+
+    m_window = new QProgressDialog(m_text, QString(), 0, 0, QApplication::activeWindow());
+    m_window->setWindowTitle(QCoreApplication::applicationName());
+    m_window->setWindowModality(Qt::ApplicationModal);
+    m_window->setCancelButton(nullptr);
+    m_window->setMinimumDuration(showDelay());
+    m_window->setAutoClose(false);
+    m_window->setAutoReset(false);
+    m_window->setMinimumWidth(320);
+    // QProgressDialog would show itself after its own timer; we decide.
+    m_window->reset();
+    m_window->hide();
+    m_showTimer->start(showDelay());
+}
+
+void KalProgressDialog::setProgress(qint64 done, qint64 total)
+{
+    if (m_depth == 0 || !m_window)
+        return;
+    if (total > 0) {
+        // The bar works with int; scale large totals down.
+        const double fraction = qBound(0.0, double(done) / double(total), 1.0);
+        m_window->setMaximum(1000);
+        m_window->setValue(int(fraction * 1000));
+    } else {
+        m_window->setMaximum(0);
+    }
+    if (!isShowing() && m_started.elapsed() >= showDelay())
+        showWindow();
+    keepPainting();
+}
+
+void KalProgressDialog::end()
+{
+    if (m_depth == 0)
+        return;
+    if (--m_depth > 0)
+        return;
+    m_showTimer->stop();
+    if (m_window) {
+        m_window->hide();
+        m_window->deleteLater();
+        m_window = nullptr;
+    }
+    QApplication::restoreOverrideCursor();
+}
+
+void KalProgressDialog::showWindow()
+{
+    if (m_depth == 0 || !m_window || m_window->isVisible())
+        return;
+    m_window->show();
+    m_window->raise();
+    keepPainting();
+}
+
+void KalProgressDialog::keepPainting()
+{
+    // Called from inside long work: paint, but never run the user's clicks.
+    if (m_lastPaint.elapsed() < 40 && isShowing())
+        return;
+    m_lastPaint.restart();
+    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+}

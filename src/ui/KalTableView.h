@@ -1,0 +1,103 @@
+#pragma once
+
+#include <QList>
+#include <QPointer>
+#include <QTableView>
+
+class KalItemDelegate;
+class KalSqlTableModel;
+class QLabel;
+class QToolButton;
+
+// The grid of every project table: captions and texts come from the model,
+// editors from KalItemDelegate. Three small buttons add, delete and copy
+// rows; the selection survives submits and sorting because it is kept by
+// row id; column widths are kept in the settings per table.
+class KalTableView : public QTableView
+{
+    Q_OBJECT
+
+public:
+    explicit KalTableView(QWidget *parent = nullptr);
+    ~KalTableView() override;
+
+    // Installs the delegate built for the model, restores the column widths
+    // and keeps the selection across the model's submits. Saves the widths
+    // of the previous model first.
+    void setModel(QAbstractItemModel *model) override;
+
+    KalSqlTableModel *sqlModel() const;
+    KalItemDelegate *kalDelegate() const { return m_delegate; }
+    QString tableName() const;
+
+    // Ids of the selected rows, in view order.
+    QList<qint64> selectedIds() const;
+    // Selects the rows holding these ids; the first becomes current. Returns how many were found.
+    int selectIds(const QList<qint64> &ids);
+    // Selects one row by id, makes it current and scrolls to it.
+    bool selectId(qint64 id, QAbstractItemView::ScrollHint hint = EnsureVisible);
+
+    // Settings key of the column widths of this grid's table (depends on
+    // the defect table format for table defect).
+    QString columnWidthsKey() const;
+    static QString columnWidthsKey(const QString &table);
+    void saveColumnWidths() const;
+    // False when no widths were stored for the key.
+    bool restoreColumnWidths();
+
+    QToolButton *addButton() const { return m_addButton; }
+    QToolButton *deleteButton() const { return m_deleteButton; }
+    QToolButton *copyButton() const { return m_copyButton; }
+    QLabel *emptyHintLabel() const { return m_hintLabel; }
+
+    // Asks the table's question and removes the selected rows on Yes.
+    // Returns true when rows were removed.
+    bool deleteSelectedRows();
+
+    static QString emptyHintText();
+
+public slots:
+    void slotAddButtonClicked();
+    void slotDeleteButtonClicked();
+    void slotCopyButtonClicked();
+    void slotStoreSelection();
+    void slotResetSelection();
+    void slotHideMsgLabel();
+
+signals:
+    void signalButtonAddClicked();
+    // Same moment as signalButtonAddClicked(), the name the dialogs use.
+    void signalAddButtonClicked();
+    void signalButtonCopyClicked();
+    // After rows were removed through the delete button or the Delete key.
+    void signalRowsDeleted();
+    // A press in the colour column of table status, with that row's status id.
+    void mouseClickOnStatusColorField(const QModelIndex &index, qint64 statusId);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void connectNotify(const QMetaMethod &signal) override;
+    void disconnectNotify(const QMetaMethod &signal) override;
+    void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
+
+private:
+    QToolButton *makeButton(const QString &icon, const QString &toolTip);
+    void updateButtons();
+    void placeHintLabel();
+    qint64 idOfRow(int viewRow) const;
+    QList<int> selectedSourceRows() const;
+    QModelIndex viewIndexOfSourceRow(int sourceRow) const;
+
+    QToolButton *m_addButton = nullptr;
+    QToolButton *m_deleteButton = nullptr;
+    QToolButton *m_copyButton = nullptr;
+    QLabel *m_hintLabel = nullptr;
+    bool m_restoreAfterSort = false;
+    QPointer<KalItemDelegate> m_delegate;
+    QPointer<KalSqlTableModel> m_sqlModel;
+    QList<qint64> m_storedIds;
+    qint64 m_storedCurrentId = -1;
+};
