@@ -1,0 +1,223 @@
+#include "KalStartup.h"
+
+#include "KalCommandLine.h"
+#include "KalMainWindow.h"
+#include "KalProject.h"
+#include "KalPrompt.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QIcon>
+#include <QPainter>
+#include <QScreen>
+#include <QSettings>
+#include <QTranslator>
+
+QString KalStartup::missingDisplayReason()
+{
+#if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    if (!platform.isEmpty() && !platform.startsWith("xcb") && !platform.startsWith("wayland"))
+        return QString(); // offscreen, vnc, eglfs ... need no display server
+    const QByteArray display = qgetenv("DISPLAY");
+    const QByteArray wayland = qgetenv("WAYLAND_DISPLAY");
+    if (display.isEmpty() && wayland.isEmpty())
+        return QStringLiteral("no display available (neither DISPLAY nor WAYLAND_DISPLAY is set). "
+                              "Start the program in a graphical session; pellwick-cli works without a display.");
+    // A local X display is a socket; when it is gone Qt would abort.
+    if (wayland.isEmpty() && display.startsWith(':')) {
+        const QByteArray number = display.mid(1).split('.').value(0);
+        if (!QFileInfo::exists(QStringLiteral("/tmp/.X11-unix/X") + QString::fromLatin1(number)))
+            return QStringLiteral("cannot reach the display %1 (no X server is listening). "
+                                  "Start the program in a graphical session; pellwick-cli works without a display.")
+                .arg(QString::fromLocal8Bit(display));
+    }
+#endif
+    return QString();
+}
+
+void KalStartup::setApplicationIdentity()
+{
+    QCoreApplication::setOrganizationName(QStringLiteral("Quellor - Software"));
+    QCoreApplication::setOrganizationDomain(QStringLiteral("quellor-software.de"));
+    QCoreApplication::setApplicationName(QStringLiteral("Quellor Pellwick"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(PELLWICK_VERSION));
+    QIcon icon(QStringLiteral(":/KalDatabase/Pellwick.ico"));
+    if (icon.isNull())
+        icon = QIcon(QStringLiteral(":/KalMainWindow/Resources/pellwick.png"));
+    QApplication::setWindowIcon(icon);
+    QGuiApplication::setDesktopFileName(QStringLiteral("pellwick"));
+}
+
+QLocale KalStartup::chosenLocale()
+{
+    const QLocale system = QLocale::system();
+    QSettings settings;
+    const auto language = QLocale::Language(settings.value(QStringLiteral("Language"), int(system.language())).toInt());
+    const auto country = QLocale::Country(settings.value(QStringLiteral("Country"), int(system.country())).toInt());
+    return QLocale(language, country);
+}
+
+QString KalStartup::translationsFolder()
+{
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../Translations"));
+}
+
+QStringList KalStartup::installTranslations(QCoreApplication *app, const QString &folder, const QLocale &locale)
+{
+    QStringList loaded;
+    const QString name = locale.name();
+    for (const QString &prefix : {QStringLiteral("qtBase_"), QStringLiteral("kal_")}) {
+        auto *translator = new QTranslator(app);
+        // QTranslator falls back from "kal_es_ES" to "kal_es".
+        if (translator->load(prefix + name, folder)) {
+            app->installTranslator(translator);
+            loaded << translator->filePath();
+        } else {
+            delete translator;
+        }
+    }
+    return loaded;
+}
+
+QPixmap KalStartup::splashPixmap()
+{
+    QPixmap pixmap(460, 240);
+    pixmap.fill(Qt::white);
+    QPainter painter(&pixmap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(60, 60, 60), 1));
+    painter.drawRect(pixmap.rect().adjusted(0, 0, -1, -1));
+    const QIcon icon = QApplication::windowIcon();
+    if (!icon.isNull())
+        painter.drawPixmap(28, 56, icon.pixmap(128, 128));
+    QFont title = painter.font();
+    title.setPointSize(22);
+    title.setBold(true);
+    painter.setFont(title);
+    painter.setPen(QColor(30, 30, 30));
+    painter.drawText(QRect(176, 70, 270, 40), Qt::AlignLeft | Qt::AlignVCenter, QStringLiteral("Quellor Pellwick"));
+    QFont small = painter.font();
+    small.setPointSize(10);
+    small.setBold(false);
+    painter.setFont(small);
+    painter.drawText(QRect(178, 112, 270, 24), Qt::AlignLeft | Qt::AlignVCenter,
+                     tr("Version %1").arg(QStringLiteral(PELLWICK_VERSION)));
+    painter.setPen(QColor(110, 110, 110));
+    painter.drawText(QRect(178, 140, 270, 24), Qt::AlignLeft | Qt::AlignVCenter, tr("Mängelmanagement für Bauprojekte"));
+    return pixmap;
+}
+
+int KalStartup::scalingPercent(qreal logicalDpi)
+{
+    return qRound(logicalDpi * 100.0 / 96.0);
+}
+
+QString KalStartup::scalingNoticeText(int percent)
+{
+    QString text = tr("Sie verwenden eine Bildschirm-Skalierung von %1%. Dies kann es zu Problemen bei der Darstellung "
+                      "des Pellwicks führen.")
+                       .arg(percent);
+    text += tr("\n\nWenn Schriften oder Symbole abgeschnitten oder unscharf dargestellt werden, stellen Sie die "
+               "Skalierung für Pellwick auf 100 % zurück:\n");
+#ifdef Q_OS_WIN
+    QSettings registry(QStringLiteral("HKEY_LOCAL_MACHINE\\SOFTWARE\\Microsoft\\Windows NT\\CurrentVersion"),
+                       QSettings::NativeFormat);
+    const int build = registry.value(QStringLiteral("CurrentBuild")).toInt();
+    // Windows 10 (build 10240) moved the compatibility settings to the program's properties.
+    if (build < 10240) {
+        text += tr(" 1. Öffnen Sie die Systemsteuerung.\n 2. Wählen Sie \"Darstellung und Anpassung\" und dann "
+                   "\"Anzeige\".\n 3. Wählen Sie \"Kleiner - 100 %\" und bestätigen Sie mit \"Übernehmen\".\n"
+                   " 4. Melden Sie sich ab und wieder an.");
+    } else {
+        text += tr("1. Rechtsklick auf das Pellwick-Desktop-Icon.\n2. Wählen Sie \"Eigenschaften\" und dann die "
+                   "Registerkarte \"Kompatibilität\".\n3. Klicken Sie auf \"Hohe DPI-Einstellungen ändern\" und "
+                   "aktivieren Sie \"Verhalten bei hoher DPI-Skalierung überschreiben\" mit \"Anwendung\".\n"
+                   "4. Bestätigen Sie mit \"OK\" und starten Sie Pellwick neu.");
+    }
+#else
+    text += tr("1. Öffnen Sie die Bildschirm-Einstellungen Ihrer Arbeitsumgebung.\n2. Stellen Sie die Skalierung "
+               "bzw. die Schriftauflösung auf 100 % (96 DPI).\n3. Melden Sie sich ab und wieder an und starten Sie "
+               "Pellwick neu.");
+#endif
+    return text;
+}
+
+void KalStartup::showScalingNotice(QWidget *window)
+{
+    const QString key = QStringLiteral("Messages/DontShowHighDpiMsg");
+    if (QSettings().value(key, false).toBool())
+        return;
+    QScreen *screen = window && window->screen() ? window->screen() : QGuiApplication::primaryScreen();
+    if (!screen)
+        return;
+    const int percent = scalingPercent(screen->logicalDotsPerInch());
+    if (percent == 100)
+        return;
+    KalPrompt::Message m;
+    m.icon = KalPrompt::Information;
+    m.title = tr("Bildschirm-Skalierung");
+    m.text = scalingNoticeText(percent);
+    m.dontShowAgainKey = key;
+    m.dontShowAgainText = tr("Diese Meldung nicht mehr anzeigen");
+    KalPrompt::ask(m);
+}
+
+void KalStartup::carryOut(KalMainWindow *window, const KalCommandLine &commandLine)
+{
+    switch (commandLine.kind) {
+    case KalCommandLine::Nothing:
+        return;
+    case KalCommandLine::OpenFile:
+        window->openProject(commandLine.projectFile);
+        return;
+    case KalCommandLine::Connect:
+        break;
+    }
+
+    const QString problems = commandLine.connectModeProblems();
+    if (!problems.isEmpty()) {
+        KalPrompt::warning(KalCommandLine::problemsTitle(), KalCommandLine::problemsMessage(problems));
+        return;
+    }
+    bool opened = false;
+    if (commandLine.connectMode == KalCommandLine::CreateAndImport)
+        opened = window->createProjectAt(commandLine.projectFile);
+    else
+        opened = window->openProject(commandLine.projectFile);
+    if (!opened || commandLine.connectMode == KalCommandLine::OpenOnly)
+        return;
+
+    if (window->linkSiteJournal(commandLine.siteJournalFile)) {
+        KalPrompt::information(tr("Datenimport"),
+                               tr("Das Projekt wurde mit dem Bautagebuch\n%1\nverknüpft.\n\nDer Import von Mängeln "
+                                  "und Firmen aus dem Bautagebuch ist in dieser Programmversion noch nicht "
+                                  "verfügbar.")
+                                   .arg(QDir::toNativeSeparators(QFileInfo(commandLine.siteJournalFile).absoluteFilePath())));
+    }
+}
+
+QString KalStartup::dataImportHelpText()
+{
+    return tr("Hilfe zum Datenimport\n\n"
+              "Pellwick arbeitet eigenständig (standalone): Sie erfassen Mängel, Fotos, Pläne und Firmen direkt im "
+              "Pellwick-Projekt.\n\n"
+              "Pellwick arbeitet auch mit dem Quellor Bautagebuch zusammen: Das Bautagebuch ist dann die Datenquelle, "
+              "aus der Mängel, Mängelfotos und Firmen in das Pellwick-Projekt übernommen werden.\n\n"
+              "Anleitungen dazu finden Sie im Menü \"Hilfe\".");
+}
+
+void KalStartup::showDataImportHelp()
+{
+    const QString key = QStringLiteral("Messages/dontShowDataImportHelpMsg");
+    if (QSettings().value(key, false).toBool())
+        return;
+    KalPrompt::Message m;
+    m.icon = KalPrompt::Information;
+    m.title = tr("Hilfe zum Datenimport");
+    m.text = dataImportHelpText();
+    m.dontShowAgainKey = key;
+    m.dontShowAgainText = tr("Diese Meldung nicht mehr anzeigen");
+    KalPrompt::ask(m);
+}

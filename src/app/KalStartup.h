@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QCoreApplication>
+#include <QLocale>
+#include <QPixmap>
+#include <QString>
+#include <QStringList>
+
+class KalCommandLine;
+class KalMainWindow;
+class QWidget;
+
+// The steps of start-up that are more than a line in main().
+class KalStartup
+{
+    Q_DECLARE_TR_FUNCTIONS(KalStartup)
+
+public:
+    // Empty when a display can be used; otherwise why not.
+    static QString missingDisplayReason();
+
+    // Organisation, application name and window icon; they also decide
+    // where the settings live.
+    static void setApplicationIdentity();
+
+    // "Language"/"Country" from the settings, defaults from the system.
+    static QLocale chosenLocale();
+
+    // "../Translations" beside the program folder.
+    static QString translationsFolder();
+    // Loads Qt's base translation and the program's own for `locale`; a
+    // missing file is skipped. Returns the files that were loaded.
+    static QStringList installTranslations(QCoreApplication *app, const QString &folder, const QLocale &locale);
+
+    static QPixmap splashPixmap();
+
+    // Display scaling in per cent: logical DPI relative to 96.
+    static int scalingPercent(qreal logicalDpi);
+    static QString scalingNoticeText(int percent);
+    static void showScalingNotice(QWidget *window);
+
+    // Opens what the command line (or a pending restart) asks for.
+    static void carryOut(KalMainWindow *window, const KalCommandLine &commandLine);
+
+    static QString dataImportHelpText();
+    static void showDataImportHelp();
+};

@@ -1,0 +1,84 @@
+// pellwick: the desktop program.
+
+#include "KalCommandLine.h"
+#include "KalStartup.h"
+
+#include "KalMainWindow.h"
+#include "KalMessageBoxPrompt.h"
+#include "KalProgressDialog.h"
+#include "KalPrompt.h"
+#include "KalResources.h"
+#include "KalSpellChecker.h"
+
+#include <QApplication>
+#include <QProcess>
+#include <QSettings>
+#include <QSplashScreen>
+#include <QSqlDatabase>
+#include <QTimer>
+
+#include <cstdio>
+
+int main(int argc, char *argv[])
+{
+    // Without a display Qt would abort with a terse message (or wait for a
+    // server that never comes); say what is wrong and leave.
+    const QString noDisplay = KalStartup::missingDisplayReason();
+    if (!noDisplay.isEmpty()) {
+        std::fprintf(stderr, "pellwick: %s\n", noDisplay.toLocal8Bit().constData());
+        return 3;
+    }
+
+    QApplication app(argc, argv);
+    kalInitGuiResources();
+    KalStartup::setApplicationIdentity();
+    KalPrompt::install(new KalMessageBoxPrompt);
+    KalProgress::install(new KalProgressDialog);
+
+    QSettings().setValue(QStringLiteral("Messages/showFilterUncheckMsgOnce"), true);
+
+    const QLocale locale = KalStartup::chosenLocale();
+    QLocale::setDefault(locale);
+    KalStartup::installTranslations(&app, KalStartup::translationsFolder(), locale);
+
+    KalSpellChecker::startUp(QCoreApplication::applicationDirPath(), locale);
+
+    if (!QSqlDatabase::isDriverAvailable(QStringLiteral("QSQLITE"))) {
+        KalPrompt::critical(QCoreApplication::translate("main", "Fehler"),
+                            QCoreApplication::translate("main", "Ihre QT-Installation unterstützt SQLITE nicht. Bitte "
+                                                                "kontaktieren Sie den Softwarehersteller."));
+        return 1;
+    }
+
+    QSplashScreen splash(KalStartup::splashPixmap());
+    splash.show();
+    app.processEvents();
+
+    int exitCode = 0;
+    {
+        KalMainWindow window;
+        window.restoreWindowSettings();
+        window.updateSpellCheckingAction();
+        window.show();
+        splash.finish(&window);
+
+        KalStartup::showScalingNotice(&window);
+
+        const KalCommandLine commandLine = KalCommandLine::forStartup(QCoreApplication::arguments());
+        KalStartup::carryOut(&window, commandLine);
+
+        QObject::connect(&app, &QGuiApplication::lastWindowClosed, &app, &QCoreApplication::quit);
+
+        KalSpellChecker::reportStartUpProblems();
+        KalStartup::showDataImportHelp();
+
+        exitCode = app.exec();
+    }
+
+    if (exitCode == KalCommandLine::restartExitCode) {
+        if (!QProcess::startDetached(QCoreApplication::applicationFilePath(), QCoreApplication::arguments().mid(1)))
+            std::fprintf(stderr, "pellwick: restart failed\n");
+        return 0;
+    }
+    return exitCode;
+}
