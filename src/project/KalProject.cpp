@@ -60,6 +60,22 @@ void removeConnection(const QString &name)
     QSqlDatabase::removeDatabase(name);
 }
 
+// Not writable for us, or marked read-only for everybody (which also counts
+// for an administrator, who could write it anyway).
+bool isReadOnlyFile(const QString &path)
+{
+    const QFileInfo info(path);
+    return !info.isWritable() || !(info.permissions() & (QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther));
+}
+
+bool isLockError(const QSqlError &error)
+{
+    // SQLITE_BUSY (5) and SQLITE_LOCKED (6), with their extended codes.
+    bool ok = false;
+    const int code = error.nativeErrorCode().toInt(&ok) & 0xff;
+    return ok && (code == 5 || code == 6);
+}
+
 bool isConstraintError(const QSqlError &error)
 {
     // SQLITE_CONSTRAINT (19) and its extended codes end in 19 modulo 256.
@@ -124,29 +140,31 @@ qint64 KalProject::insertDefect(const QVariantMap &values)
     KalSqlTableModel *defects = model(QStringLiteral("defect"));
     if (!defects)
         return -1;
-    const qint64 id = nextId(QStringLiteral("defect"));
-    if (id < 0)
+    // The model's prime-insert step takes the id from the allocator.
+    const int row = defects->rowCount();
+    if (!defects->insertRows(row, 1))
         return -1;
-    QSqlRecord record = defects->record();
-    record.setValue(QStringLiteral("id"), id);
-    record.setValue(QStringLiteral("description"), QString(QLatin1String("")));
-    record.setValue(QStringLiteral("priority"), QStringLiteral("Normal"));
-    record.setValue(QStringLiteral("creation_date"), KalEnvironment::now().date());
-    record.setValue(QStringLiteral("plan_info_id"), -1);
-    record.setValue(QStringLiteral("image_cnt"), 0);
-    record.setValue(QStringLiteral("status_id"), 0);
-    record.setValue(QStringLiteral("reduction"), 0);
-    record.setValue(QStringLiteral("site_journal_data_modified"), 0);
-    record.setValue(QStringLiteral("imported_report_id"), -1);
-    record.setValue(QStringLiteral("site_journal_id"), -1);
-    record.setValue(QStringLiteral("delete_on_import"), 1);
-    for (auto it = values.constBegin(); it != values.constEnd(); ++it) {
-        if (record.indexOf(it.key()) >= 0)
-            record.setValue(it.key(), it.value());
+    const qint64 id = defects->record(row).value(QStringLiteral("id")).toLongLong();
+    QVariantMap fields{{QStringLiteral("description"), QString(QLatin1String(""))},
+                       {QStringLiteral("priority"), QStringLiteral("Normal")},
+                       {QStringLiteral("creation_date"), KalEnvironment::now().date()},
+                       {QStringLiteral("plan_info_id"), -1},
+                       {QStringLiteral("image_cnt"), 0},
+                       {QStringLiteral("status_id"), 0},
+                       {QStringLiteral("reduction"), 0},
+                       {QStringLiteral("site_journal_data_modified"), 0},
+                       {QStringLiteral("imported_report_id"), -1},
+                       {QStringLiteral("site_journal_id"), -1},
+                       {QStringLiteral("delete_on_import"), 1}};
+    for (auto it = values.constBegin(); it != values.constEnd(); ++it)
+        fields.insert(it.key(), it.value());
+    bool ok = id > 0;
+    for (auto it = fields.constBegin(); ok && it != fields.constEnd(); ++it) {
+        const int column = defects->fieldIndex(it.key());
+        if (column >= 0 && it.key() != QLatin1String("id"))
+            ok = defects->setData(defects->index(row, column), it.value(), Qt::EditRole);
     }
-    for (int i = 0; i < record.count(); ++i)
-        record.setGenerated(i, true);
-    if (!defects->insertRecord(-1, record) || !defects->submitWithNotification(true)) {
+    if (!ok || !defects->submitWithNotification(true)) {
         defects->revertAll();
         return -1;
     }
@@ -216,7 +234,7 @@ void KalProject::closeConnection()
 
 // Inserts and deletes a dummy meta row. On the project connection this takes
 // SQLite's exclusive lock and keeps it until the connection closes.
-bool KalProject::writeTest(const QString &connection, QString *errorText)
+bool KalProject::writeTest(const QString &connection, QString *errorText, QSqlError *sqlError)
 {
     QSqlDatabase db = QSqlDatabase::database(connection, false);
     QSqlQuery query(db);
@@ -231,6 +249,8 @@ bool KalProject::writeTest(const QString &connection, QString *errorText)
         ok = query.exec(QStringLiteral("DELETE FROM meta WHERE KEY='dummy';"));
     if (!ok && errorText)
         *errorText = query.lastError().text();
+    if (!ok && sqlError)
+        *sqlError = query.lastError();
     return ok;
 }
 
@@ -307,10 +327,9 @@ bool KalProject::newProject()
     const QString file = temporaryFileName();
     if (!openConnection(file, true))
         return false;
-    QString error;
-    if (!writeTest(connectionName(), &error) || !KalDatabaseSchema::createSchema(database(), m_transactions)) {
-        if (!error.isEmpty())
-            KalPrompt::critical(tr("interner Fehler"), tr("Datenbank-Initialisierung fehlgeschlagen."));
+    // The schema is written in an exclusive transaction, which also takes
+    // the lock this connection keeps.
+    if (!KalDatabaseSchema::createSchema(database(), m_transactions)) {
         closeConnection();
         KalFileOps::removeDatabaseFile(file);
         return false;
@@ -344,11 +363,13 @@ bool KalProject::handleLeftoverWorkingCopy(const QString &path, bool *useLeftove
 {
     Q_UNUSED(path)
     *useLeftover = false;
+    QFile::remove(m_workingCopyPath + QStringLiteral(".part"));
     if (!QFileInfo::exists(m_workingCopyPath))
         return true;
 
     QString error;
     bool held = false;
+    bool unusable = false;
     {
         QSqlDatabase probe = addProbeConnection(QString::fromLatin1(kProbeLeftover), m_workingCopyPath, false);
         if (!probe.open()) {
@@ -359,9 +380,25 @@ bool KalProject::handleLeftoverWorkingCopy(const QString &path, bool *useLeftove
             return false;
         }
         KalDatabaseSchema::applySafetyPragmas(probe);
-        held = !writeTest(QString::fromLatin1(kProbeLeftover), &error);
+        QSqlError sqlError;
+        held = !writeTest(QString::fromLatin1(kProbeLeftover), &error, &sqlError);
+        // Only a lock means somebody works on it; a leftover that cannot be
+        // written for any other reason is unusable and is discarded below.
+        if (held && !isLockError(sqlError)) {
+            held = false;
+            unusable = true;
+        }
     }
     removeConnection(QString::fromLatin1(kProbeLeftover));
+    if (unusable) {
+        qDebug("Discarding unusable working copy: %s", qPrintable(error));
+        if (!KalFileOps::removeDatabaseFile(m_workingCopyPath)) {
+            KalPrompt::critical(fileErrorTitle(), deleteFailedText(m_workingCopyPath));
+            return false;
+        }
+        QFile::remove(m_userDataPath);
+        return true;
+    }
 
     if (held) {
         QFile udf(m_userDataPath);
@@ -560,7 +597,11 @@ int KalProject::openProjectStep(const QString &path, bool *restart)
     bool madeWorkingCopy = false;
     if (!useLeftover) {
         KalBusyScope busy(tr("Projekt wird geöffnet..."));
-        if (!KalFileOps::copyFile(absolute, m_workingCopyPath)) {
+        // Copied under another name first: an interrupted copy must never
+        // look like a working copy.
+        const QString partial = m_workingCopyPath + QStringLiteral(".part");
+        if (!KalFileOps::copyFile(absolute, partial) || !KalFileOps::replaceFile(partial, m_workingCopyPath)) {
+            QFile::remove(partial);
             KalPrompt::critical(fileErrorTitle(), tr("Die Working Copy Datei konnte nicht erstellt werden."));
             resetState();
             return 1;
@@ -569,8 +610,7 @@ int KalProject::openProjectStep(const QString &path, bool *restart)
         QFile::setPermissions(m_workingCopyPath, QFile::permissions(m_workingCopyPath) | QFile::WriteOwner
                                                      | QFile::WriteUser | QFile::ReadOwner | QFile::ReadUser);
     }
-    const QFileInfo projectInfo(absolute);
-    if (!projectInfo.isWritable() || !(projectInfo.permissions() & QFile::WriteUser)) {
+    if (isReadOnlyFile(absolute)) {
         m_writeProtected = true;
         KalPrompt::warning(tr("Datei-Warnung"),
                            tr("Sie haben keine Schreibrechte für die Datei %1.\nWenn Sie die Datei speichern wollen, "

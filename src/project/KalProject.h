@@ -7,6 +7,7 @@
 #include <QMap>
 #include <QObject>
 #include <QSqlDatabase>
+#include <QSqlError>
 #include <QString>
 #include <QVariantMap>
 #include <memory>
@@ -103,7 +104,7 @@ signals:
 private:
     bool openConnection(const QString &file, bool showErrors);
     void closeConnection();
-    bool writeTest(const QString &connectionName, QString *errorText);
+    bool writeTest(const QString &connectionName, QString *errorText, QSqlError *sqlError = nullptr);
     bool writeUserDataFile(bool withProcessId);
     void buildModels();
     void dropModels();

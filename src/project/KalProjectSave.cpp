@@ -45,6 +45,12 @@ QString snapshotName(const QString &target)
     return target + QStringLiteral(".saving.") + QString::number(QCoreApplication::applicationPid());
 }
 
+bool isReadOnlyFile(const QString &path)
+{
+    const QFileInfo info(path);
+    return !info.isWritable() || !(info.permissions() & (QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther));
+}
+
 qint64 fileSize(const QString &path)
 {
     const QFileInfo info(path);
@@ -78,9 +84,7 @@ int KalProject::saveProject(const QString &target)
     KalDatabaseSchema::setFileVersion(database(), KalDatabaseSchema::programFileVersion());
 
     if (target.isEmpty()) {
-        const QFileInfo info(m_projectPath);
-        if (!m_projectPath.isEmpty() && info.exists()
-            && (!info.isWritable() || !(info.permissions() & QFile::WriteUser))) {
+        if (!m_projectPath.isEmpty() && QFileInfo::exists(m_projectPath) && isReadOnlyFile(m_projectPath)) {
             KalPrompt::warning(tr("Speicher-Fehler"),
                                tr("Sie können die Datei %1 nicht speichern, da sie keine Schreibrechte "
                                   "besitzen.\nWählen Sie im Menü 'Datei' den Menüpunkt 'Speichern unter',\num die "
@@ -193,9 +197,7 @@ int KalProject::saveAs(const QString &target)
         }
     }
     const QFileInfo targetInfo(target);
-    if (targetInfo.exists()
-        && (!targetInfo.isWritable() || !(targetInfo.permissions() & QFile::WriteUser)
-            || KalFileOps::injectedFault(QStringLiteral("remove"), target))) {
+    if (targetInfo.exists() && (isReadOnlyFile(target) || KalFileOps::injectedFault(QStringLiteral("remove"), target))) {
         KalPrompt::critical(tr("Dateifehler"),
                             tr("Die Datei\n%1\nkonnte nicht gelöscht werden.").arg(nativeName(target)));
         return SaveFailed;

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <QStringList>
+
+// Project files for tests, made through the real lifecycle.
+namespace KalTestFiles {
+
+// Creates a saved project file at `path` (with `defects` defects whose
+// descriptions are "defect 1", ...). False on any failure.
+bool createProject(const QString &path, int defects = 0);
+
+// Reads the file itself, read-only.
+int countRows(const QString &file, const QString &table);
+QString scalar(const QString &file, const QString &sql);
+QString integrity(const QString &file);
+bool execute(const QString &file, const QStringList &statements);
+
+QByteArray fileHash(const QString &path);
+// Names of the files in a folder, sorted, with size and modification time:
+// equal listings mean nothing on disk changed.
+QStringList folderState(const QString &folder);
+
+} // namespace KalTestFiles
