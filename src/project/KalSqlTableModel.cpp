@@ -418,6 +418,26 @@ QString KalSqlTableModel::tableCaption(int tableNumber)
 
 // --- writing rows ------------------------------------------------------------
 
+bool KalSqlTableModel::setData(const QModelIndex &idx, const QVariant &value, int role)
+{
+    if (!idx.isValid())
+        return false;
+    if (role == Qt::CheckStateRole) {
+        if (fieldType(idx.column()) != QVariant::Bool)
+            return false;
+        return QSqlTableModel::setData(idx, value.toInt() == Qt::Checked ? 1 : 0, Qt::EditRole);
+    }
+    if (role == Qt::EditRole && idx.column() == m_idColumn && (value.isNull() || value.toLongLong() == 0)
+        && tableUsesIdAllocator()) {
+        // insertRecord() writes the caller's record over the primed row; an
+        // empty id there must not throw away the id the row already holds.
+        const QVariant current = QSqlTableModel::data(idx, Qt::EditRole);
+        if (!current.isNull() && current.toLongLong() != 0 && isDirty(idx))
+            return true;
+    }
+    return QSqlTableModel::setData(idx, value, role);
+}
+
 bool KalSqlTableModel::tableUsesIdAllocator() const
 {
     return m_idColumn >= 0 && !isAutoIncrementTable(tableName());

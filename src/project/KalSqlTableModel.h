@@ -116,6 +116,9 @@ public:
 
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
+    // Keeps the id given to a new row when a record without id is written
+    // over it; stores check states of Bool columns as 1 / 0.
+    bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
 public slots:
     // Selects and fetches every row.
