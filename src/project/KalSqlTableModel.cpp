@@ -15,6 +15,8 @@
 #include <QSqlField>
 #include <QSqlQuery>
 #include <QSqlRecord>
+#include <algorithm>
+#include <functional>
 
 namespace {
 
@@ -374,6 +376,26 @@ bool KalSqlTableModel::removeRows(int row, int count, const QModelIndex &parent,
     return submitWithNotification(true);
 }
 
+bool KalSqlTableModel::removeRowsById(const QList<qint64> &ids)
+{
+    fetchAll();
+    QList<int> rows;
+    for (qint64 id : ids) {
+        const int row = findRowById(id);
+        if (row >= 0 && !rows.contains(row))
+            rows.append(row);
+    }
+    if (rows.isEmpty())
+        return false;
+    // From the bottom up: removing a row that was never submitted shifts those below it.
+    std::sort(rows.begin(), rows.end(), std::greater<int>());
+    for (int row : qAsConst(rows)) {
+        if (!QSqlTableModel::removeRows(row, 1))
+            return false;
+    }
+    return submitWithNotification(true);
+}
+
 int KalSqlTableModel::findRowById(qint64 id) const
 {
     if (m_idColumn < 0)
@@ -632,6 +654,16 @@ QVariant KalSqlTableModel::data(const QModelIndex &idx, int role) const
         if (backgroundRole(column) == ColorNameBackground) {
             const QColor color(QSqlTableModel::data(idx, Qt::EditRole).toString());
             return color.isValid() ? QVariant(color) : QVariant();
+        }
+        switch (displayRole(column)) {
+        case DateRole:
+        case StatusTypeRole:
+        case PlainRole:
+        case ColorRole:
+        case CheckRole:
+            return QVariant(); // these never show a one-character marker
+        default:
+            break;
         }
         const QVariant shown = displayData(idx);
         if (shown.userType() == QMetaType::QString) {

@@ -108,6 +108,10 @@ public:
     // With `refresh` the removal is written at once (fetch all, submit with notification).
     bool removeRows(int row, int count, const QModelIndex &parent, bool refresh);
 
+    // Removes the rows with these ids and writes the removal in one submit
+    // (rows move after every submit, so several rows are best removed by id).
+    bool removeRowsById(const QList<qint64> &ids);
+
     // Row holding `id`, or -1. Independent of the order of the rows.
     int findRowById(qint64 id) const;
     int idColumn() const { return m_idColumn; }

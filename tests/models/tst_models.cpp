@@ -515,6 +515,34 @@ private slots:
         QCOMPARE(model("photo_info")->rowCount(), 0);
     }
 
+    void removingSeveralDefectsById()
+    {
+        QList<qint64> ids;
+        for (int i = 0; i < 6; ++i) {
+            ids << insertDefect({{"number", QString::number(i)}, {"site_journal_id", 100 + i}});
+            insertPhoto(ids.last(), insertImage());
+        }
+        selectAll();
+        KalSqlTableModel *defects = model("defect");
+        QSignalSpy after(defects, &KalSqlTableModel::afterSubmit);
+        QVERIFY(defects->removeRowsById({ids.at(4), ids.at(1), ids.at(2)}));
+        QCOMPARE(after.count(), 1);
+        QCOMPARE(count("SELECT COUNT(*) FROM defect"), 3);
+        QCOMPARE(count("SELECT COUNT(*) FROM defect WHERE id IN (:a, :b, :c)",
+                       {{"a", ids.at(0)}, {"b", ids.at(3)}, {"c", ids.at(5)}}),
+                 3);
+        QCOMPARE(count("SELECT COUNT(*) FROM photo_info"), 3);
+        QCOMPARE(count("SELECT COUNT(*) FROM image"), 3);
+        QSqlQuery q(m_project->database());
+        QVERIFY(q.exec("SELECT site_journal_id FROM deleted_site_journal_defect ORDER BY site_journal_id"));
+        QList<int> tombstones;
+        while (q.next())
+            tombstones << q.value(0).toInt();
+        QCOMPARE(tombstones, (QList<int>{101, 102, 104}));
+        QCOMPARE(defects->findRowById(ids.at(1)), -1);
+        QVERIFY(!defects->removeRowsById({4711}));
+    }
+
     void lookupsFollowSubmittedChanges()
     {
         const qint64 company = insertCompany("Alt GmbH", "");
