@@ -108,7 +108,6 @@ void KalMessageBoxPrompt::notice(const QString &title, const QString &text, int 
 {
     QPointer<QMessageBox> box = new QMessageBox(QMessageBox::Information, title, text,
                                                 QMessageBox::NoButton, dialogParent());
-    box->setAttribute(Qt::WA_DeleteOnClose);
     box->setStandardButtons(QMessageBox::NoButton);
     box->setWindowModality(Qt::NonModal);
     box->show();
@@ -117,6 +116,9 @@ void KalMessageBoxPrompt::notice(const QString &title, const QString &text, int 
     QTimer::singleShot(qMax(0, milliseconds), &loop, &QEventLoop::quit);
     loop.exec(QEventLoop::ExcludeUserInputEvents);
 
-    if (box)
-        box->close();
+    // A box without an escape button refuses to close: hide and drop it.
+    if (box) {
+        box->hide();
+        box->deleteLater();
+    }
 }

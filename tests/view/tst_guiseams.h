@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QObject>
+
+class TstGuiSeams : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void fileDialogRemembersFolderPerKind_data();
+    void fileDialogRemembersFolderPerKind();
+    void fileDialogCancelRemembersNothing();
+    void fileDialogStartsWithProposedName();
+    void messageBoxMapsButtons_data();
+    void messageBoxMapsButtons();
+    void messageBoxDontShowAgain();
+    void noticeHasNoButtonsAndCloses();
+    void busyWindowAppearsAfterDelay();
+};
