@@ -512,8 +512,12 @@ bool KalSqlTableModel::insertRowIntoTable(const QSqlRecord &values)
     const int idField = rec.indexOf(QStringLiteral("id"));
     if (idField >= 0) {
         const QVariant current = rec.value(idField);
-        const bool missing = !rec.isGenerated(idField) || current.isNull() || current.toLongLong() == 0;
-        if (missing && tableUsesIdAllocator()) {
+        const bool missing = current.isNull() || current.toLongLong() == 0;
+        if (!missing) {
+            // The id primed for the row, even where a record written over it
+            // marked the field as not generated.
+            rec.setGenerated(idField, true);
+        } else if (tableUsesIdAllocator()) {
             const qint64 id = allocateId(tableName());
             if (id <= 0)
                 return false;

@@ -404,18 +404,37 @@ private slots:
         QCOMPARE(count("SELECT id_counter FROM id_generator WHERE id_table = 'status'"), 9);
     }
 
+    void idsAreNeverReused_data()
+    {
+        QTest::addColumn<bool>("onlySetFieldsGenerated");
+        QTest::newRow("record with empty id") << false;
+        QTest::newRow("only the set fields generated") << true;
+    }
+
     void idsAreNeverReused()
     {
+        QFETCH(bool, onlySetFieldsGenerated);
         KalSqlTableModel *defects = model("defect");
         auto addDefect = [&](const QString &number) -> qint64 {
             QSqlRecord record = defects->record();
+            if (onlySetFieldsGenerated) {
+                for (int i = 0; i < record.count(); ++i)
+                    record.setGenerated(i, false);
+            }
             record.setValue("number", number);
             record.setValue("description", "Text");
-            record.setNull("id"); // written over the primed row: must keep its id
-            if (!defects->insertRecord(-1, record) || !defects->submitWithNotification())
+            record.setGenerated("number", true);
+            record.setGenerated("description", true);
+            // Written over the primed row: the row must keep the id it was given.
+            if (!defects->insertRecord(-1, record))
                 return -1;
-            const int row = defects->rowCount() - 1;
-            return defects->index(row, defects->idColumn()).data(Qt::EditRole).toLongLong();
+            const qint64 primed = defects->record(defects->rowCount() - 1).value("id").toLongLong();
+            if (!defects->submitWithNotification())
+                return -1;
+            if (count("SELECT COUNT(*) FROM defect WHERE id = :id AND number = :n", {{"id", primed}, {"n", number}})
+                != 1)
+                return -2;
+            return primed;
         };
         const qint64 first = addDefect("1");
         const qint64 second = addDefect("2");
