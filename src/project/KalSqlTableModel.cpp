@@ -225,13 +225,20 @@ void KalSqlTableModel::setLookupModel(int displayRole, KalSqlTableModel *source)
     lookup.texts.clear();
     if (!source)
         return;
+    // Repaint once per reset, edit or submit; rows arriving in blocks while
+    // the source fetches only invalidate the map (a reset came first).
     auto changed = [this, displayRole] { lookupSourceChanged(displayRole); };
+    auto stale = [this, displayRole] {
+        const auto it = m_lookups.find(displayRole);
+        if (it != m_lookups.end())
+            it->dirty = true;
+    };
     connect(source, &QAbstractItemModel::modelReset, this, changed);
     connect(source, &QAbstractItemModel::dataChanged, this, changed);
-    connect(source, &QAbstractItemModel::rowsInserted, this, changed);
-    connect(source, &QAbstractItemModel::rowsRemoved, this, changed);
-    connect(source, &QAbstractItemModel::layoutChanged, this, changed);
     connect(source, &KalSqlTableModel::afterSubmit, this, changed);
+    connect(source, &QAbstractItemModel::rowsInserted, this, stale);
+    connect(source, &QAbstractItemModel::rowsRemoved, this, changed);
+    connect(source, &QAbstractItemModel::layoutChanged, this, stale);
 }
 
 KalSqlTableModel *KalSqlTableModel::lookupModel(int displayRole) const
