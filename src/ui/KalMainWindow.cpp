@@ -386,6 +386,8 @@ void KalMainWindow::createCentralWidget()
     tableLayout->setContentsMargins(0, 0, 0, 0);
     tvDefects = new KalTableView(tablePane);
     tvDefects->setObjectName(QStringLiteral("tvDefects"));
+    tvDefects->setSortingEnabled(true);
+    tvDefects->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     tvDefects->installEventFilter(this);
     tvDefects->viewport()->installEventFilter(this);
     tableLayout->addWidget(tvDefects, 1);
@@ -760,6 +762,8 @@ void KalMainWindow::resizeEvent(QResizeEvent *event)
 
 bool KalMainWindow::eventFilter(QObject *watched, QEvent *event)
 {
+    if (!gvPlan || !tvDefects || !m_planScene)
+        return QMainWindow::eventFilter(watched, event);
     const bool inPlan = watched == gvPlan || watched == gvPlan->viewport();
     const bool inTable = watched == tvDefects || watched == tvDefects->viewport();
     if (!inPlan && !inTable)

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QList>
+#include <QMap>
+#include <QVariant>
 #include <QMainWindow>
 #include <QModelIndex>
 #include <QPixmap>
@@ -113,6 +115,8 @@ private slots:
     void slotDefectModelAboutToReset();
 
 private:
+    int highestDefectNumber() const;
+    qint64 insertDefectRow(const QMap<QString, QVariant> &values);
     void createActions();
     void createMenus();
     void createCentralWidget();

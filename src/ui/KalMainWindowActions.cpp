@@ -299,38 +299,56 @@ void KalMainWindow::on_actionCompactDB_triggered()
 
 // --- defects ---
 
+int KalMainWindow::highestDefectNumber() const
+{
+    KalSqlTableModel *model = defectModel();
+    const int numberColumn = model->fieldIndex(QStringLiteral("number"));
+    int highest = 0;
+    for (int row = 0; row < model->rowCount(); ++row)
+        highest = qMax(highest, model->data(model->index(row, numberColumn), Qt::EditRole).toString().toInt());
+    return highest;
+}
+
+qint64 KalMainWindow::insertDefectRow(const QMap<QString, QVariant> &values)
+{
+    KalSqlTableModel *model = defectModel();
+    const int row = model->rowCount();
+    // Inserting a row gives it its id from the allocator.
+    if (!model->insertRow(row))
+        return -1;
+    const qint64 id = model->data(model->index(row, model->fieldIndex(QStringLiteral("id"))), Qt::EditRole).toLongLong();
+    for (auto it = values.constBegin(); it != values.constEnd(); ++it) {
+        const int column = model->fieldIndex(it.key());
+        if (column >= 0 && !model->setData(model->index(row, column), it.value(), Qt::EditRole)) {
+            model->revertRow(row);
+            return -1;
+        }
+    }
+    if (id <= 0) {
+        model->revertRow(row);
+        return -1;
+    }
+    return id;
+}
+
 qint64 KalMainWindow::addDefect()
 {
     KalSqlTableModel *model = defectModel();
     if (!model)
         return -1;
     model->fetchAll();
-
-    // Running numbers: one above the highest number in use.
-    const int numberColumn = model->fieldIndex(QStringLiteral("number"));
-    int highest = 0;
-    for (int row = 0; row < model->rowCount(); ++row)
-        highest = qMax(highest, model->data(model->index(row, numberColumn), Qt::EditRole).toString().toInt());
-
-    QSqlRecord record = model->record();
-    auto set = [&record](const char *field, const QVariant &value) {
-        const int i = record.indexOf(QLatin1String(field));
-        record.setValue(i, value);
-        record.setGenerated(i, true);
+    const QMap<QString, QVariant> values{
+        {QStringLiteral("number"), QStringLiteral("%1").arg(highestDefectNumber() + 1, 4, 10, QLatin1Char('0'))},
+        {QStringLiteral("description"), QString(QLatin1String(""))},
+        {QStringLiteral("creation_date"), KalEnvironment::now().date()},
+        {QStringLiteral("user_id"), KalEnvironment::userName()},
+        {QStringLiteral("priority"), QStringLiteral("Normal")},
+        {QStringLiteral("image_cnt"), 0},
     };
-    for (int i = 0; i < record.count(); ++i)
-        record.setGenerated(i, false);
-    set("number", QStringLiteral("%1").arg(highest + 1, 4, 10, QLatin1Char('0')));
-    set("description", QString(""));
-    set("creation_date", KalEnvironment::now().date());
-    set("user_id", KalEnvironment::userName());
-    set("priority", QStringLiteral("Normal"));
-    set("image_cnt", 0);
-    if (!model->insertRecord(-1, record))
+    const qint64 id = insertDefectRow(values);
+    if (id <= 0)
         return -1;
-    // The model allocated the id when the row was inserted.
-    const qint64 id = model->record(model->rowCount() - 1).value(QStringLiteral("id")).toLongLong();
-    if (!model->submitWithNotification(true) || id <= 0)
+    if (!model->submitWithNotification(true))
         return -1;
     selectDefects({id});
     return id;
@@ -343,42 +361,36 @@ QList<qint64> KalMainWindow::copyDefects(const QList<qint64> &ids)
     if (!model || ids.isEmpty())
         return copies;
     model->fetchAll();
-    const int numberColumn = model->fieldIndex(QStringLiteral("number"));
-    int highest = 0;
-    for (int row = 0; row < model->rowCount(); ++row)
-        highest = qMax(highest, model->data(model->index(row, numberColumn), Qt::EditRole).toString().toInt());
+    int highest = highestDefectNumber();
 
-    m_project->beginTransaction();
+    QVector<QSqlRecord> sources;
     for (qint64 sourceId : ids) {
         const int sourceRow = model->findRowById(sourceId);
-        if (sourceRow < 0)
-            continue;
-        const QSqlRecord source = model->record(sourceRow);
-        QSqlRecord record = model->record();
-        for (int i = 0; i < record.count(); ++i)
-            record.setGenerated(i, false);
-        auto set = [&record](const QString &field, const QVariant &value) {
-            const int i = record.indexOf(field);
-            record.setValue(i, value);
-            record.setGenerated(i, true);
-        };
-        set(QStringLiteral("number"), QStringLiteral("%1").arg(++highest, 4, 10, QLatin1Char('0')));
-        set(QStringLiteral("image_cnt"), 0);
-        for (const QString &field : copiedFields())
-            set(field, source.value(field));
-        if (!model->insertRecord(-1, record))
-            break;
-        copies << model->record(model->rowCount() - 1).value(QStringLiteral("id")).toLongLong();
+        if (sourceRow >= 0)
+            sources << model->record(sourceRow);
     }
-    const bool ok = model->submitWithNotification(true);
-    if (ok)
+    m_project->beginTransaction();
+    for (const QSqlRecord &source : qAsConst(sources)) {
+        QMap<QString, QVariant> values{
+            {QStringLiteral("number"), QStringLiteral("%1").arg(++highest, 4, 10, QLatin1Char('0'))},
+            {QStringLiteral("image_cnt"), 0},
+        };
+        for (const QString &field : copiedFields())
+            values.insert(field, source.value(field));
+        const qint64 id = insertDefectRow(values);
+        if (id <= 0)
+            break;
+        copies << id;
+    }
+    const bool ok = !copies.isEmpty() && model->submitWithNotification(true);
+    if (ok) {
         m_project->commitTransaction();
-    else
-        m_project->rollbackTransaction();
-    if (!ok)
-        copies.clear();
-    else
         selectDefects(copies);
+    } else {
+        m_project->rollbackTransaction();
+        model->revertAll();
+        copies.clear();
+    }
     return copies;
 }
 
