@@ -54,6 +54,7 @@ KalTableView::KalTableView(QWidget *parent)
     layout->addWidget(m_addButton);
     layout->addWidget(m_deleteButton);
     layout->addWidget(m_copyButton);
+    bar->setFixedSize(layout->sizeHint());
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     addScrollBarWidget(bar, Qt::AlignLeft);
 
@@ -132,6 +133,11 @@ void KalTableView::setModel(QAbstractItemModel *model)
     }
     updateButtons();
     slotHideMsgLabel();
+}
+
+KalItemDelegate *KalTableView::kalDelegate() const
+{
+    return m_delegate;
 }
 
 KalSqlTableModel *KalTableView::sqlModel() const
@@ -450,6 +456,14 @@ void KalTableView::mouseDoubleClickEvent(QMouseEvent *event)
 void KalTableView::resizeEvent(QResizeEvent *event)
 {
     QTableView::resizeEvent(event);
-    if (m_hintLabel->isVisible())
+    if (!m_hintLabel->isHidden())
         placeHintLabel();
+}
+
+bool KalTableView::viewportEvent(QEvent *event)
+{
+    // The viewport also changes size when the headers do.
+    if (event->type() == QEvent::Resize && m_hintLabel && !m_hintLabel->isHidden())
+        placeHintLabel();
+    return QTableView::viewportEvent(event);
 }

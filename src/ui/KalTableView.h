@@ -27,7 +27,7 @@ public:
     void setModel(QAbstractItemModel *model) override;
 
     KalSqlTableModel *sqlModel() const;
-    KalItemDelegate *kalDelegate() const { return m_delegate; }
+    KalItemDelegate *kalDelegate() const;
     QString tableName() const;
 
     // Ids of the selected rows, in view order.
@@ -79,6 +79,7 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void resizeEvent(QResizeEvent *event) override;
+    bool viewportEvent(QEvent *event) override;
     void connectNotify(const QMetaMethod &signal) override;
     void disconnectNotify(const QMetaMethod &signal) override;
     void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
