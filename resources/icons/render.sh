@@ -9,15 +9,13 @@ mkdir -p "$out"
 tmp=$(mktemp -d)
 trap 'rm -rf "$tmp"' EXIT
 
-# Icons the program loads as Windows icons (.ico, several sizes in one file).
-ico_icons="datei-neu datei-oeffnen datei-speichern datei-speichern-als datei-recent
-icon-add-defect icon-datei-datenbank icon-help icon-help-off
-icon-datenimport-automatisch-ein icon-datenimport-automatisch-aus
-icon-defect-editor icon-status-editor"
-
+# Grid, dialog-button and editor-tool icons are PNG; every other icon is a
+# Windows icon (.ico) with several sizes in one file.
 is_ico() {
-    for n in $ico_icons; do [ "$n" = "$1" ] && return 0; done
-    return 1
+    case "$1" in
+        tableview-* | icon-tableview-* | icon-camera | icon-allgemein-* | icon-marker-[0-9] | icon-fotoeditor-*) return 1 ;;
+        *) return 0 ;;
+    esac
 }
 
 for svg in svg/*.svg; do
@@ -38,3 +36,23 @@ for s in 16 32 48 256; do
     rsvg-convert -w $s -h $s pellwick.svg -o "$tmp/pellwick-$s.png"
 done
 convert "$tmp/pellwick-16.png" "$tmp/pellwick-32.png" "$tmp/pellwick-48.png" "$tmp/pellwick-256.png" "$out/Pellwick.ico"
+
+# The resource list: every rendered icon under ":/KalMainWindow/Resources/",
+# the window icon under ":/KalDatabase/". File names on disk are ASCII; the
+# alias carries the program's own name.
+{
+    echo '<RCC>'
+    echo '  <qresource prefix="/KalMainWindow">'
+    for f in "$out"/*; do
+        name=$(basename "$f")
+        [ "$name" = "Pellwick.ico" ] && continue
+        alias=$(printf '%s' "$name" | sed 's/datei-oeffnen/datei-öffnen/')
+        echo "    <file alias=\"Resources/$alias\">$out/$name</file>"
+    done
+    echo '    <file alias="Resources/pellwick.png">pellwick.png</file>'
+    echo '  </qresource>'
+    echo '  <qresource prefix="/KalDatabase">'
+    echo "    <file alias=\"Pellwick.ico\">$out/Pellwick.ico</file>"
+    echo '  </qresource>'
+    echo '</RCC>'
+} > icons.qrc

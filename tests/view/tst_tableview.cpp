@@ -671,7 +671,14 @@ void TstTableView::iconsAreCompiledIn_data()
         "icon-camera.png", "icon-allgemein-ok.png", "icon-allgemein-cancel.png", "icon-marker-1.png",
         "icon-marker-2.png", "icon-marker-3.png", "icon-marker-4.png", "icon-fotoeditor-arrow-1-left.png",
         "icon-fotoeditor-triangle-left.png", "icon-fotoeditor-symbol-asterisk.png",
-        "icon-fotoeditor-rotate-image-left.png", "pellwick.png"};
+        "icon-fotoeditor-rotate-image-left.png", "pellwick.png",
+        // the other actions of the main window
+        "icon-plaene.ico", "icon-status.ico", "icon-projektdaten.ico", "icon-firmen.ico", "icon-firmen-format.ico",
+        "icon-logo.ico", "icon-drucken-kompakt.ico", "icon-drucken-detailliert.ico", "icon-druckvorschau.ico",
+        "icon-datenimport.ico", "icon-datenimport-aktualisieren.ico", "icon-datenimport-app.ico",
+        "icon-firmen-import.ico", "icon-sprache.ico", "icon-texte.ico", "icon-rechtschreibung.ico",
+        "icon-plangroesse.ico", "icon-fotogroesse.ico", "icon-marker.ico", "icon-marker-text.ico", "icon-info.ico",
+        "icon-update.ico"};
     for (const QString &name : names)
         QTest::newRow(qPrintable(name)) << QStringLiteral(":/KalMainWindow/Resources/") + name;
     QTest::newRow("window icon") << QStringLiteral(":/KalDatabase/Pellwick.ico");
