@@ -15,6 +15,7 @@
 #include <QPlainTextEdit>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QSortFilterProxyModel>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QToolButton>
@@ -274,6 +275,36 @@ void TstTableView::selectionKeptAcrossSort()
     QVERIFY(m->findRowById(ids[1]) != rowBefore); // the rows really moved
     QCOMPARE(toSet(view.selectedIds()), toSet({ids[1], ids[4]}));
     QCOMPARE(view.selectionModel()->selectedRows().size(), 2);
+}
+
+void TstTableView::selectionAndDeleteThroughProxy()
+{
+    QList<qint64> ids;
+    for (const char *name : {"Dach", "Estrich", "Anstrich", "Beton"})
+        ids << insertCompany(QString::fromUtf8(name));
+    KalSqlTableModel *m = model(QStringLiteral("company"));
+    QVERIFY(m->select());
+
+    // A proxy sorted by name in reverse: view rows differ from model rows.
+    QSortFilterProxyModel proxy;
+    proxy.setSourceModel(m);
+    proxy.sort(m->fieldIndex(QStringLiteral("company")), Qt::DescendingOrder);
+    KalTableView view;
+    view.setModel(&proxy);
+    QCOMPARE(view.sqlModel(), m);
+    QVERIFY(view.kalDelegate());
+
+    QCOMPARE(view.selectIds({ids[0], ids[3]}), 2);
+    QCOMPARE(toSet(view.selectedIds()), toSet({ids[0], ids[3]}));
+    QVERIFY(m->setData(m->index(m->findRowById(ids[1]), m->fieldIndex(QStringLiteral("city"))), QStringLiteral("Ulm")));
+    QVERIFY(m->submitWithNotification(true));
+    QCOMPARE(toSet(view.selectedIds()), toSet({ids[0], ids[3]}));
+
+    // Deleting through the proxy removes exactly the selected companies.
+    m_prompt->queueAnswer(QStringLiteral("Ja"));
+    view.deleteButton()->click();
+    QCOMPARE(count(QStringLiteral("SELECT COUNT(*) FROM company")), 2);
+    QCOMPARE(count(QStringLiteral("SELECT COUNT(*) FROM company WHERE id IN (%1, %2)").arg(ids[1]).arg(ids[2])), 2);
 }
 
 // --- editing -------------------------------------------------------------------------

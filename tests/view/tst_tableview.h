@@ -26,6 +26,7 @@ private slots:
     void deleteRemovesEverySelectedRow();
     void selectionKeptAcrossSubmit();
     void selectionKeptAcrossSort();
+    void selectionAndDeleteThroughProxy();
     void setModelDataMarksOnlyRealChanges_data();
     void setModelDataMarksOnlyRealChanges();
     void invalidDateIsRefused();
