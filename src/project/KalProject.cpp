@@ -23,6 +23,11 @@
 #include <QTextStream>
 #include <QThread>
 
+#ifdef Q_OS_UNIX
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
 namespace {
 const char *const kProbeLeftover = "BTBLOCK";
 const char *const kProbeVersion = "VERSIONTEST";
@@ -223,6 +228,9 @@ bool KalProject::openConnection(const QString &file, bool showErrors)
     query.exec(QStringLiteral("PRAGMA journal_mode=DELETE"));
     query.exec(QStringLiteral("PRAGMA synchronous=FULL"));
     m_transactions.setConnectionName(connectionName());
+#ifdef Q_OS_UNIX
+    m_workingCopyFd = ::open(QFile::encodeName(file).constData(), O_RDONLY | O_CLOEXEC);
+#endif
     return true;
 }
 
@@ -230,6 +238,11 @@ void KalProject::closeConnection()
 {
     m_transactions.reset();
     removeConnection(connectionName());
+#ifdef Q_OS_UNIX
+    if (m_workingCopyFd >= 0)
+        ::close(m_workingCopyFd);
+#endif
+    m_workingCopyFd = -1;
 }
 
 // Inserts and deletes a dummy meta row. On the project connection this takes

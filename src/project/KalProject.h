@@ -128,4 +128,8 @@ private:
     QMap<QString, QString> m_tableMap;
     KalTransactions m_transactions;
     std::unique_ptr<KalProjectModels> m_models;
+    // A second descriptor of the working copy, opened after the connection
+    // and closed only after it: lets saving copy in the kernel without ever
+    // dropping SQLite's locks (closing any descriptor of a file drops them).
+    int m_workingCopyFd = -1;
 };

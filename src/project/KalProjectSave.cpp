@@ -62,7 +62,7 @@ bool KalProject::writeSnapshot(const QString &targetFile, QString *errorText)
 {
     const QString temporary = snapshotName(targetFile);
     removeStaleSnapshots(targetFile);
-    if (!KalSnapshot::write(database(), temporary, errorText))
+    if (!KalSnapshot::write(database(), temporary, errorText, m_workingCopyFd))
         return false;
     if (!KalFileOps::replaceFile(temporary, targetFile)) {
         QFile::remove(temporary);
@@ -143,7 +143,7 @@ int KalProject::saveInPlace()
     const QString temporary = snapshotName(m_projectPath);
     removeStaleSnapshots(m_projectPath);
     QString error;
-    if (!KalSnapshot::write(database(), temporary, &error)) {
+    if (!KalSnapshot::write(database(), temporary, &error, m_workingCopyFd)) {
         qDebug("Save failed: %s", qPrintable(error));
         KalPrompt::critical(tr("Dateifehler"),
                             tr("Kopieren der Datei\n%1\n fehlgeschlagen.").arg(nativeName(m_projectPath)));

@@ -4,9 +4,17 @@
 #include "KalProgress.h"
 
 #include <QFile>
+#include <QFileInfo>
 #include <QSqlDriver>
 #include <QVariant>
 #include <sqlite3.h>
+
+#ifdef Q_OS_LINUX
+#include <cerrno>
+#include <cstring>
+#include <fcntl.h>
+#include <unistd.h>
+#endif
 
 namespace KalSnapshot {
 
@@ -25,7 +33,110 @@ QString message(sqlite3 *db)
 }
 } // namespace
 
-bool write(const QSqlDatabase &source, const QString &target, QString *errorText)
+namespace {
+// Copies the database file through the handle SQLite already has open.
+// Opening a second descriptor of a locked file and closing it would drop
+// the lock on POSIX systems; SQLite's own file object does not. Only valid
+// while no transaction is active: then the file holds exactly the
+// committed state. Returns false when this way is not available.
+bool copyThroughOpenHandle(sqlite3 *src, int sourceFd, const QString &target, bool *available, QString *errorText)
+{
+    *available = false;
+    if (!sqlite3_get_autocommit(src))
+        return false;
+    sqlite3_file *file = nullptr;
+    if (sqlite3_file_control(src, "main", SQLITE_FCNTL_FILE_POINTER, &file) != SQLITE_OK || !file
+        || !file->pMethods)
+        return false;
+    sqlite3_int64 size = 0;
+    if (file->pMethods->xFileSize(file, &size) != SQLITE_OK)
+        return false;
+    *available = true;
+
+#ifdef Q_OS_LINUX
+    if (sourceFd >= 0) {
+        const int out = ::open(QFile::encodeName(target).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+        if (out < 0) {
+            *errorText = QString::fromLocal8Bit(strerror(errno));
+            return false;
+        }
+        KalBusyScope busy;
+        loff_t in = 0;
+        bool kernelCopy = true;
+        while (in < size) {
+            const ssize_t n = ::copy_file_range(sourceFd, &in, out, nullptr, size_t(qMin<qint64>(size - in, 64 << 20)), 0);
+            if (n < 0 && in == 0 && (errno == ENOSYS || errno == EXDEV || errno == EINVAL || errno == EOPNOTSUPP)) {
+                kernelCopy = false; // not on this file system: copy below
+                break;
+            }
+            if (n <= 0) {
+                *errorText = QString::fromLocal8Bit(strerror(n < 0 ? errno : EIO));
+                ::close(out);
+                return false;
+            }
+            busy.setProgress(in, size);
+        }
+        if (::close(out) != 0 && kernelCopy) {
+            *errorText = QString::fromLocal8Bit(strerror(errno));
+            return false;
+        }
+        if (kernelCopy)
+            return true;
+    }
+#else
+    Q_UNUSED(sourceFd)
+#endif
+
+    QFile out(target);
+    if (!out.open(QIODevice::WriteOnly | QIODevice::Truncate)) {
+        *errorText = out.errorString();
+        return false;
+    }
+    KalBusyScope busy;
+    const int chunk = 4 << 20;
+    QByteArray buffer(chunk, Qt::Uninitialized);
+    for (sqlite3_int64 offset = 0; offset < size; offset += chunk) {
+        const int n = int(qMin<sqlite3_int64>(chunk, size - offset));
+        const int rc = file->pMethods->xRead(file, buffer.data(), n, offset);
+        if (rc != SQLITE_OK) {
+            *errorText = QString::fromUtf8(sqlite3_errstr(rc));
+            return false;
+        }
+        if (out.write(buffer.constData(), n) != n) {
+            *errorText = out.errorString();
+            return false;
+        }
+        busy.setProgress(offset + n, size);
+    }
+    if (!out.flush()) {
+        *errorText = out.errorString();
+        return false;
+    }
+    out.close();
+    if (out.error() != QFile::NoError) {
+        *errorText = out.errorString();
+        return false;
+    }
+    return true;
+}
+
+// A byte copy is checked by what can go wrong with it: the size, and a
+// header that SQLite accepts with a readable schema.
+QString verifyCopy(const QString &path, qint64 expectedSize)
+{
+    if (QFileInfo(path).size() != expectedSize)
+        return QStringLiteral("incomplete copy");
+    sqlite3 *db = nullptr;
+    int rc = sqlite3_open_v2(QFile::encodeName(path).constData(), &db, SQLITE_OPEN_READONLY, nullptr);
+    if (rc == SQLITE_OK)
+        rc = sqlite3_exec(db, "SELECT COUNT(*) FROM sqlite_master", nullptr, nullptr, nullptr);
+    const QString result = rc == SQLITE_OK ? QStringLiteral("ok") : message(db);
+    sqlite3_close(db);
+    return result;
+}
+} // namespace
+
+bool write(const QSqlDatabase &source, const QString &target, QString *errorText, int sourceFd)
 {
     auto fail = [&](const QString &text) {
         if (errorText)
@@ -39,6 +150,23 @@ bool write(const QSqlDatabase &source, const QString &target, QString *errorText
     if (!src)
         return fail(QStringLiteral("no open database"));
     KalFileOps::removeDatabaseFile(target);
+
+    bool available = false;
+    QString copyError;
+    if (copyThroughOpenHandle(src, sourceFd, target, &available, &copyError)) {
+        if (!KalFileOps::syncFile(target))
+            return fail(QStringLiteral("disk I/O error"));
+        sqlite3_file *file = nullptr;
+        sqlite3_int64 size = -1;
+        if (sqlite3_file_control(src, "main", SQLITE_FCNTL_FILE_POINTER, &file) == SQLITE_OK && file)
+            file->pMethods->xFileSize(file, &size);
+        const QString check = verifyCopy(target, size);
+        if (check != QLatin1String("ok"))
+            return fail(check);
+        return true;
+    }
+    if (available)
+        return fail(copyError);
 
     sqlite3 *dst = nullptr;
     int rc = sqlite3_open_v2(QFile::encodeName(target).constData(), &dst,

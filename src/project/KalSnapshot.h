@@ -8,7 +8,10 @@
 // syncs it and checks it.
 namespace KalSnapshot {
 
-bool write(const QSqlDatabase &source, const QString &target, QString *errorText);
+// `sourceFd`, when not -1, is a descriptor of the database file that stays
+// open at least as long as the connection (so closing it can never drop
+// SQLite's locks); it lets the kernel copy the file.
+bool write(const QSqlDatabase &source, const QString &target, QString *errorText, int sourceFd = -1);
 
 // "ok" when the file at `path` opens read-only and passes the quick check.
 QString verify(const QString &path);
