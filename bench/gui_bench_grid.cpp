@@ -132,13 +132,17 @@ int main(int argc, char **argv)
 
     // (a) Opening until the first screen of the grid is painted ...
     int shownRows = 0;
-    const double openTime = bestOf(repetitions, [&] {
+    double openTime = std::numeric_limits<double>::max();
+    for (int i = 0; i < repetitions; ++i) {
         window.closeProject(false);
         app.processEvents();
+        QElapsedTimer timer;
+        timer.start();
         window.openProject(file);
         view->viewport()->repaint();
+        openTime = qMin(openTime, double(timer.nsecsElapsed()) / 1e6);
         shownRows = window.defectModel() ? window.defectModel()->rowCount() : 0;
-    });
+    }
     if (shownRows != defectCount) {
         std::fprintf(stderr, "grid shows %d rows, expected %d\n", shownRows, defectCount);
         return 1;
@@ -146,7 +150,7 @@ int main(int argc, char **argv)
     // ... vs the defect model alone, on the same open connection.
     int modelRows = 0;
     const double modelTime = bestOf(repetitions, [&] {
-        KalSqlTableModel model(window.project());
+        KalSqlTableModel model(window.project(), nullptr, window.project()->database());
         model.setTable(QStringLiteral("defect"));
         model.select();
         model.fetchAll();

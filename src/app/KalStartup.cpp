@@ -111,7 +111,9 @@ QPixmap KalStartup::splashPixmap()
 
 int KalStartup::scalingPercent(qreal logicalDpi)
 {
-    return qRound(logicalDpi * 100.0 / 96.0);
+    // Displays report DPI values near, not at, the scaling steps (100, 125,
+    // 150 ... per cent); a screen of 100 DPI is not "scaled".
+    return qRound(logicalDpi / 96.0 * 4.0) * 25;
 }
 
 QString KalStartup::scalingNoticeText(int percent)

@@ -16,12 +16,16 @@
 #include <QGraphicsTextItem>
 #include <QGraphicsView>
 #include <QHBoxLayout>
+#include <QHash>
 #include <QHeaderView>
+#include <QScrollBar>
 #include <QItemSelectionModel>
 #include <QLabel>
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QScreen>
+#include <QStyle>
 #include <QSettings>
 #include <QSplitter>
 #include <QToolBar>
@@ -61,15 +65,12 @@ const QStringList &longColumns()
 // Default widths in average character widths; the description gets the rest.
 int defaultColumnChars(const QString &field)
 {
-    if (field == QLatin1String("number") || field == QLatin1String("image_cnt"))
-        return 6;
-    if (field == QLatin1String("company_id") || field == QLatin1String("correction_instruction"))
-        return 22;
-    if (field == QLatin1String("status_id"))
-        return 20;
-    if (field == QLatin1String("roomname") || field == QLatin1String("type") || field == QLatin1String("plan_info_id"))
-        return 16;
-    return 11;
+    static const QHash<QString, int> chars{
+        {"number", 6},       {"company_id", 22},      {"type", 22},         {"user_id", 12},
+        {"creation_date", 12}, {"roomname", 12},      {"roombook_number", 12}, {"plan_info_id", 16},
+        {"image_cnt", 7},    {"correction_instruction", 24}, {"priority", 9}, {"correction_date", 12},
+        {"deadline_1", 12},  {"deadline_2", 12},      {"status_id", 22}};
+    return chars.value(field, 12);
 }
 } // namespace
 
@@ -427,8 +428,8 @@ void KalMainWindow::createCentralWidget()
 
     m_splitter->addWidget(tablePane);
     m_splitter->addWidget(planPane);
-    m_splitter->setStretchFactor(0, 3);
-    m_splitter->setStretchFactor(1, 2);
+    m_splitter->setStretchFactor(0, 2);
+    m_splitter->setStretchFactor(1, 1);
     layout->addWidget(m_splitter, 1);
     setCentralWidget(central);
 
@@ -604,6 +605,11 @@ void KalMainWindow::storeColumnWidths()
         tvDefects->saveColumnWidths();
 }
 
+int KalMainWindow::tableShare(int total) const
+{
+    return m_defectTableFormat == 2 ? total * 4 / 5 : total * 18 / 25;
+}
+
 void KalMainWindow::applyDefectTableFormat()
 {
     KalSqlTableModel *model = defectModel();
@@ -634,14 +640,23 @@ void KalMainWindow::applyDefectTableFormat()
             used += width;
         }
         const int description = model->fieldIndex(QStringLiteral("description"));
-        if (description >= 0)
-            header->resizeSection(description, qMax(40 * charWidth, tvDefects->viewport()->width() - used - 4));
+        if (description >= 0) {
+            // Before the window is shown the viewport has no size yet: estimate
+            // the table's share of the window.
+            int available = tvDefects->viewport()->width();
+            if (!tvDefects->isVisible()) {
+                const int share = tableShare(width());
+                available = share - tvDefects->verticalHeader()->sizeHint().width()
+                            - tvDefects->verticalScrollBar()->sizeHint().width() - 16;
+            }
+            header->resizeSection(description, qMax(30 * charWidth, available - used));
+        }
     }
 
     // The plan panel takes what the table does not need, within reason.
     if (m_splitter && m_splitter->width() > 0) {
         const int total = m_splitter->width();
-        const int table = m_defectTableFormat == 2 ? total * 3 / 4 : total * 3 / 5;
+        const int table = tableShare(total);
         m_splitter->setSizes({table, total - table});
     }
 }
@@ -702,19 +717,32 @@ QString KalMainWindow::planPanelHint() const
 void KalMainWindow::clearPlanPanel()
 {
     m_planScene->clear();
+    m_hintItem = nullptr;
     m_planPixmap = QPixmap();
     m_shownPlanId = -1;
+    pbShowTotalPlan->setEnabled(false);
 }
 
 void KalMainWindow::showPlanHint()
 {
     clearPlanPanel();
-    auto *item = m_planScene->addText(planPanelHint());
-    item->setDefaultTextColor(QColor(110, 110, 110));
-    item->setTextWidth(qMax(200, gvPlan->viewport()->width() - 20));
-    m_planScene->setSceneRect(item->boundingRect());
+    m_hintItem = m_planScene->addText(planPanelHint());
+    m_hintItem->setDefaultTextColor(QColor(110, 110, 110));
     gvPlan->resetTransform();
-    gvPlan->centerOn(item);
+    layoutPlanHint();
+}
+
+void KalMainWindow::layoutPlanHint()
+{
+    if (!m_hintItem)
+        return;
+    // The hint wraps to the panel and never needs scrolling.
+    const QSize area = gvPlan->viewport()->size();
+    m_hintItem->setTextWidth(qMax(120, area.width() - 24));
+    const QRectF text = m_hintItem->boundingRect();
+    m_planScene->setSceneRect(QRectF(-12, 0, qMax<qreal>(text.width() + 24, area.width()),
+                                     qMax<qreal>(text.height(), area.height() - 4)));
+    gvPlan->centerOn(m_hintItem);
 }
 
 void KalMainWindow::defectRowChanged(const QModelIndex &prevIndex, const QModelIndex &actIndex)
@@ -756,8 +784,7 @@ void KalMainWindow::showHelpTip(QWidget *widget, const QString &text)
 void KalMainWindow::resizeEvent(QResizeEvent *event)
 {
     QMainWindow::resizeEvent(event);
-    if (m_shownPlanId == -1 && !m_planScene->items().isEmpty())
-        showPlanHint();
+    layoutPlanHint();
 }
 
 bool KalMainWindow::eventFilter(QObject *watched, QEvent *event)
@@ -770,6 +797,10 @@ bool KalMainWindow::eventFilter(QObject *watched, QEvent *event)
         return QMainWindow::eventFilter(watched, event);
 
     switch (event->type()) {
+    case QEvent::Resize:
+        if (watched == gvPlan->viewport())
+            layoutPlanHint();
+        break;
     case QEvent::ToolTip: {
         if (!tooltipHelpActive()) {
             QToolTip::hideText();
@@ -802,7 +833,14 @@ bool KalMainWindow::eventFilter(QObject *watched, QEvent *event)
 void KalMainWindow::restoreWindowSettings()
 {
     QSettings settings;
-    restoreGeometry(settings.value(QLatin1String(kGeometryKey)).toByteArray());
+    if (!restoreGeometry(settings.value(QLatin1String(kGeometryKey)).toByteArray())) {
+        // First start: most of the screen, centred.
+        if (QScreen *screen = QGuiApplication::primaryScreen()) {
+            const QRect available = screen->availableGeometry();
+            const QSize size(qMin(1500, available.width() * 9 / 10), qMin(950, available.height() * 9 / 10));
+            setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, size, available));
+        }
+    }
     restoreState(settings.value(QLatin1String(kStateKey)).toByteArray());
 }
 

@@ -13,6 +13,7 @@ class KalSqlTableModel;
 class KalTableView;
 class QAction;
 class QGraphicsScene;
+class QGraphicsTextItem;
 class QGraphicsView;
 class QLabel;
 class QMenu;
@@ -129,8 +130,10 @@ private:
     void rebuildRecentMenu();
     void bindDefectTable();
     void applyDefectTableFormat();
+    int tableShare(int total) const;
     void storeColumnWidths();
     void showPlanHint();
+    void layoutPlanHint();
     void clearPlanPanel();
     void fitPlan();
     int saveCurrent(bool saveAs);
@@ -144,6 +147,7 @@ private:
     KalTableView *tvDefects = nullptr;
     QGraphicsView *gvPlan = nullptr;
     QGraphicsScene *m_planScene = nullptr;
+    QGraphicsTextItem *m_hintItem = nullptr;
     QPixmap m_planPixmap;
     qint64 m_shownPlanId = -1;
     QLabel *lblProjectHeader = nullptr;

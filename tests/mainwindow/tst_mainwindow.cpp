@@ -8,6 +8,7 @@
 #include "KalResources.h"
 #include "KalScriptedPrompt.h"
 #include "KalSqlTableModel.h"
+#include "KalStartup.h"
 #include "KalTableView.h"
 #include "KalTestSettings.h"
 
@@ -65,6 +66,10 @@ private slots:
     void languageDialog();
     void restartWritesAndConsumesReopenKey();
     void quitIsRefusedOnCancel();
+    void scalingPercent_data();
+    void scalingPercent();
+    void commandLineIsCarriedOut_data();
+    void commandLineIsCarriedOut();
 
 private:
     QString path(const QString &name) const { return m_dir->filePath(name); }
@@ -673,7 +678,7 @@ void TestMainWindow::actionsWithoutFeatureAreDisabled()
     QVERIFY(action);
     QCOMPARE(action->isEnabled(), enabled);
     QCOMPARE(action->text(), text);
-    QVERIFY2(!action->icon().isNull(), "every action has an icon");
+    QVERIFY2(!action->icon().pixmap(16, 16).isNull(), "every action has an icon");
 }
 
 void TestMainWindow::compactUntitledAsksToSaveFirst()
@@ -811,6 +816,89 @@ void TestMainWindow::quitIsRefusedOnCancel()
     QVERIFY(m_window->close());
     QVERIFY(QSettings().contains("MainWindow/Geometry"));
     QVERIFY(QSettings().contains("MainWindow/WindowState"));
+}
+
+void TestMainWindow::scalingPercent_data()
+{
+    QTest::addColumn<qreal>("dpi");
+    QTest::addColumn<int>("percent");
+    QTest::newRow("96") << qreal(96) << 100;
+    QTest::newRow("100 is not scaled") << qreal(100) << 100;
+    QTest::newRow("120") << qreal(120) << 125;
+    QTest::newRow("144") << qreal(144) << 150;
+    QTest::newRow("192") << qreal(192) << 200;
+    QTest::newRow("72") << qreal(72) << 75;
+}
+
+void TestMainWindow::scalingPercent()
+{
+    QFETCH(qreal, dpi);
+    QFETCH(int, percent);
+    QCOMPARE(KalStartup::scalingPercent(dpi), percent);
+    QVERIFY(KalStartup::scalingNoticeText(percent).startsWith(
+        QStringLiteral("Sie verwenden eine Bildschirm-Skalierung von %1%. Dies kann es zu Problemen bei der "
+                       "Darstellung des Pellwicks führen.")
+            .arg(percent)));
+}
+
+void TestMainWindow::commandLineIsCarriedOut_data()
+{
+    QTest::addColumn<QStringList>("args"); // "P:" and "J:" prefixes name files in the test folder
+    QTest::addColumn<QString>("projectAfter"); // file name, empty: untitled
+    QTest::addColumn<bool>("linked");
+    QTest::addColumn<QString>("title");        // of the one message, empty: none
+
+    QTest::newRow("single path") << QStringList{"P:p.pwp"} << "p.pwp" << false << "";
+    QTest::newRow("-file") << QStringList{"-lang", "-file", "P:p.pwp"} << "p.pwp" << false << "";
+    QTest::newRow("103 opens only") << QStringList{"-connectmode", "103", "-file", "P:p.pwp", "-sitejournalfile",
+                                                   "J:b.sjd"}
+                                    << "p.pwp" << false << "";
+    QTest::newRow("102 opens and links") << QStringList{"-connectmode", "102", "-file", "P:p.pwp",
+                                                        "-sitejournalfile", "J:b.sjd"}
+                                         << "p.pwp" << true << "Datenimport";
+    QTest::newRow("101 creates and links") << QStringList{"-connectmode", "101", "-file", "P:neu.pwp",
+                                                          "-sitejournalfile", "J:b.sjd"}
+                                           << "neu.pwp" << true << "Datenimport";
+    QTest::newRow("104 refused") << QStringList{"-connectmode", "104", "-file", "P:p.pwp", "-sitejournalfile",
+                                                "J:b.sjd"}
+                                 << "" << false << "Info";
+    QTest::newRow("102 missing journal") << QStringList{"-connectmode", "102", "-file", "P:p.pwp",
+                                                        "-sitejournalfile", "J:fehlt.sjd"}
+                                         << "" << false << "Info";
+}
+
+void TestMainWindow::commandLineIsCarriedOut()
+{
+    QFETCH(QStringList, args);
+    QFETCH(QString, projectAfter);
+    QFETCH(bool, linked);
+    QFETCH(QString, title);
+
+    KalFileDialog::queueChoice(path("p.pwp"));
+    QCOMPARE(m_window->maybeSave(true, true), 0);
+    QVERIFY(m_window->newProject());
+    QFile journal(path("b.sjd"));
+    QVERIFY(journal.open(QIODevice::WriteOnly));
+    journal.close();
+    m_prompt->clear();
+
+    QStringList full{"pellwick"};
+    for (const QString &a : args)
+        full << (a.startsWith("P:") || a.startsWith("J:") ? path(a.mid(2)) : a);
+    KalStartup::carryOut(m_window.get(), KalCommandLine::parse(full));
+
+    QCOMPARE(QFileInfo(m_window->project()->projectPath()).fileName(), projectAfter);
+    QSqlQuery q(m_window->project()->database());
+    QVERIFY(q.exec("SELECT value FROM meta WHERE key = 'siteJournalDatabasePath'"));
+    QCOMPARE(q.next(), linked);
+    if (linked)
+        QCOMPARE(q.value(0).toString(), path("b.sjd"));
+    QCOMPARE(m_prompt->titles(), title.isEmpty() ? QStringList() : QStringList{title});
+    if (title == QLatin1String("Datenimport"))
+        QVERIFY(m_prompt->texts().first().contains(QStringLiteral("noch nicht verfügbar")));
+    if (title == QLatin1String("Info"))
+        QVERIFY(m_prompt->texts().first().startsWith(
+            QStringLiteral("Die vom Bautagebuch Programm übergebenen Parameter sind fehlerhaft:\n\n\n")));
 }
 
 QTEST_MAIN(TestMainWindow)
