@@ -1,0 +1,122 @@
+#include "KalDateEdit.h"
+
+#include "KalDateFormat.h"
+#include "KalFieldButton.h"
+#include "KalPrompt.h"
+
+#include <QCalendarWidget>
+#include <QFocusEvent>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QTimer>
+
+KalDateEdit::KalDateEdit(QWidget *parent)
+    : QLineEdit(parent)
+{
+    auto *button = new KalFieldButton(this, 8);
+    button->setObjectName(QStringLiteral("toolButtonPopup"));
+    m_button = button;
+    setStyleSheet(QStringLiteral("QLineEdit { padding-right: %1px; }").arg(button->reservedWidth()));
+    connect(m_button, &QToolButton::clicked, this, &KalDateEdit::on_toolButtonPopup_clicked);
+}
+
+QString KalDateEdit::calendarTitle() const
+{
+    return toolTip().isEmpty() ? tr("Datum auswählen") : toolTip();
+}
+
+bool KalDateEdit::textIsInvalid() const
+{
+    return !text().trimmed().isEmpty() && !KalDateFormat::parse(text()).isValid();
+}
+
+QDate KalDateEdit::date()
+{
+    if (text().trimmed().isEmpty())
+        return QDate();
+    const QDate parsed = KalDateFormat::parse(text());
+    if (!parsed.isValid()) {
+        scheduleWarning();
+        return QDate();
+    }
+    return parsed;
+}
+
+void KalDateEdit::setDate(const QDate &date)
+{
+    setText(KalDateFormat::toText(date));
+}
+
+void KalDateEdit::scheduleWarning()
+{
+    // After the current event, so a focus change or a commit finishes first;
+    // several reasons in one go give one warning.
+    if (m_warningPending)
+        return;
+    m_warningPending = true;
+    QTimer::singleShot(0, this, [this] {
+        m_warningPending = false;
+        showFormatWarning();
+    });
+}
+
+void KalDateEdit::showFormatWarning()
+{
+    KalPrompt::warning(tr("Format-Fehler"), tr("Das eingegebene Datum ist nicht korrekt.\nBitte verwenden Sie das "
+                                               "Format %1!")
+                                                .arg(KalDateFormat::userPattern(QLocale())));
+}
+
+void KalDateEdit::on_toolButtonPopup_clicked()
+{
+    if (!m_calendar) {
+        m_calendar = new QCalendarWidget(this);
+        m_calendar->setObjectName(QStringLiteral("calendarWidget"));
+        m_calendar->setWindowFlags(Qt::Window | Qt::Tool | Qt::WindowStaysOnTopHint);
+        m_calendar->setGridVisible(true);
+        m_calendar->setLocale(QLocale());
+        connect(m_calendar, &QCalendarWidget::clicked, this, &KalDateEdit::on_calendarWidget_clicked);
+        connect(m_calendar, &QCalendarWidget::activated, this, &KalDateEdit::on_calendarWidget_clicked);
+    }
+    m_calendar->setWindowTitle(calendarTitle());
+    const QDate current = KalDateFormat::parse(text());
+    m_calendar->setSelectedDate(current.isValid() ? current : QDate::currentDate());
+    m_calendar->adjustSize();
+    QPoint topLeft = mapToGlobal(QPoint(0, height()));
+    if (const QScreen *screen = QGuiApplication::screenAt(topLeft)) {
+        const QRect area = screen->availableGeometry();
+        topLeft.setX(qBound(area.left(), topLeft.x(), area.right() - m_calendar->width()));
+        if (topLeft.y() + m_calendar->height() > area.bottom())
+            topLeft.setY(mapToGlobal(QPoint(0, 0)).y() - m_calendar->height());
+    }
+    m_calendar->move(topLeft);
+    m_calendar->show();
+    m_calendar->raise();
+    m_calendar->activateWindow();
+}
+
+void KalDateEdit::on_calendarWidget_clicked(const QDate &date)
+{
+    setDate(date);
+    if (m_calendar)
+        m_calendar->hide();
+    setFocus(Qt::OtherFocusReason);
+    emit editingFinished();
+}
+
+void KalDateEdit::focusOutEvent(QFocusEvent *event)
+{
+    // Opening the calendar is not leaving the field.
+    const bool toCalendar = m_calendar && m_calendar->isVisible();
+    if (!toCalendar && event->reason() != Qt::PopupFocusReason && textIsInvalid()) {
+        clear();
+        scheduleWarning();
+    }
+    QLineEdit::focusOutEvent(event);
+}
+
+void KalDateEdit::resizeEvent(QResizeEvent *event)
+{
+    QLineEdit::resizeEvent(event);
+    static_cast<KalFieldButton *>(m_button)->reposition();
+}

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QDate>
+#include <QLineEdit>
+
+class QCalendarWidget;
+class QToolButton;
+
+// Free-text date field with a calendar button. The text is read with the
+// program's date notation; a text that is not a date is reported, and
+// cleared when the field is left.
+class KalDateEdit : public QLineEdit
+{
+    Q_OBJECT
+public:
+    explicit KalDateEdit(QWidget *parent = nullptr);
+
+    // The date of the text; null for an empty text or one that is not a
+    // date (then the format warning follows once the current event is done).
+    QDate date();
+    void setDate(const QDate &date);
+
+    QToolButton *toolButtonPopup() const { return m_button; }
+    QCalendarWidget *calendarWidget() const { return m_calendar; }
+    // "Datum auswählen" unless the field has a tool tip.
+    QString calendarTitle() const;
+
+public slots:
+    void on_toolButtonPopup_clicked();
+    void on_calendarWidget_clicked(const QDate &date);
+    void showFormatWarning();
+
+protected:
+    void focusOutEvent(QFocusEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+
+private:
+    bool textIsInvalid() const;
+    void scheduleWarning();
+
+    QToolButton *m_button;
+    QCalendarWidget *m_calendar = nullptr;
+    bool m_warningPending = false;
+};
