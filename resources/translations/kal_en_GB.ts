@@ -5,35 +5,35 @@
     <name>DefaultStatus</name>
     <message>
         <source>Offen, zu beseitigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Open, to be remedied</translation>
     </message>
     <message>
         <source>Offen, in Arbeit</source>
-        <translation type="unfinished"></translation>
+        <translation>Open, in progress</translation>
     </message>
     <message>
         <source>Offen, unzureichend beseitigt</source>
-        <translation type="unfinished"></translation>
+        <translation>Open, insufficiently remedied</translation>
     </message>
     <message>
         <source>Offen, streitig</source>
-        <translation type="unfinished"></translation>
+        <translation>Open, disputed</translation>
     </message>
     <message>
         <source>Erledigt, komplett beseitigt</source>
-        <translation type="unfinished"></translation>
+        <translation>Done, completely remedied</translation>
     </message>
     <message>
         <source>Erledigt, teilweise beseitigt</source>
-        <translation type="unfinished"></translation>
+        <translation>Done, partly remedied</translation>
     </message>
     <message>
         <source>Erledigt, bleibt</source>
-        <translation type="unfinished"></translation>
+        <translation>Done, remains</translation>
     </message>
     <message>
         <source>Erledigt, streitig abgelehnt</source>
-        <translation type="unfinished"></translation>
+        <translation>Done, disputed and rejected</translation>
     </message>
 </context>
 <context>
@@ -41,115 +41,126 @@
     <message>
         <source>
 ungültiger connect Mode: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+invalid connect mode: %1</translation>
     </message>
     <message>
         <source>
 Parameter Pellwick-Datei fehlt.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+The Pellwick file parameter is missing.</translation>
     </message>
     <message>
         <source>
 Die Pellwick-Datei existiert nicht.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+The Pellwick file does not exist.</translation>
     </message>
     <message>
         <source>
 Parameter Bautagebuch-Datei fehlt.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+The site journal file parameter is missing.</translation>
     </message>
     <message>
         <source>
 Die Bautagebuch-Datei %1 existiert nicht.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+The site journal file %1 does not exist.</translation>
     </message>
     <message>
         <source>Die vom Bautagebuch Programm übergebenen Parameter sind fehlerhaft:
 
 </source>
-        <translation type="unfinished"></translation>
+        <translation>The parameters passed by the site journal program are incorrect:
+
+</translation>
     </message>
     <message>
         <source>Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Info</translation>
     </message>
 </context>
 <context>
     <name>KalCompleter</name>
     <message>
         <source>Autotexte</source>
-        <translation type="unfinished"></translation>
+        <translation>Auto texts</translation>
     </message>
     <message>
         <source>Diese Funktion erlaubt das automatische Einfügen der Texte, die bisher in dieses Feld eingetragen wurden.
 
 Für dieses Feld sind noch keine Texte gespeichert oder die Funktion ist ausgeschaltet. Jeder Text, den Sie hier eingeben, wird in die Liste aufgenommen und beim nächsten Mal vorgeschlagen.
 Mit „Autotexte bearbeiten“ können Sie die Listen aller Felder ändern und die Funktion für einzelne Felder ein- oder ausschalten.</source>
-        <translation type="unfinished"></translation>
+        <translation>This function inserts automatically the texts that have been entered in this field so far.
+
+No texts have been stored for this field yet, or the function is switched off. Every text you enter here is added to the list and suggested next time.
+With “Edit auto texts” you can change the lists of all fields and switch the function on or off for single fields.</translation>
     </message>
     <message>
         <source>Autotexte bearbeiten</source>
-        <translation type="unfinished"></translation>
+        <translation>Edit auto texts</translation>
     </message>
     <message>
         <source>Schließen</source>
-        <translation type="unfinished"></translation>
+        <translation>Close</translation>
     </message>
     <message>
         <source>Diese Meldung nicht mehr anzeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Do not show this message again</translation>
     </message>
 </context>
 <context>
     <name>KalCompleterDialog</name>
     <message>
         <source>Autovervollständigen bearbeiten</source>
-        <translation type="unfinished"></translation>
+        <translation>Edit auto-completion</translation>
     </message>
     <message>
         <source>Alle</source>
-        <translation type="unfinished"></translation>
+        <translation>All</translation>
     </message>
     <message>
         <source>Keine</source>
-        <translation type="unfinished"></translation>
+        <translation>None</translation>
     </message>
     <message>
         <source>Eintrag hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Add entry</translation>
     </message>
     <message>
         <source>Eintrag löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Delete entry</translation>
     </message>
     <message>
         <source>Alles löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Delete all</translation>
     </message>
     <message>
         <source>Zurücksetzen</source>
-        <translation type="unfinished"></translation>
+        <translation>Reset</translation>
     </message>
     <message>
         <source>&lt;Neuer Eintrag&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;New entry&gt;</translation>
     </message>
     <message>
         <source>Alle Completer zurücksetzen</source>
-        <translation type="unfinished"></translation>
+        <translation>Reset all auto texts</translation>
     </message>
     <message>
         <source>Alle Completer werden auf den Auslieferungszustand zurückgesetzt.
 Alle eingegebenen Textvorschläge werden dabei gelöscht!</source>
-        <translation type="unfinished"></translation>
+        <translation>All auto texts are reset to their original state.
+All text suggestions you entered will be deleted!</translation>
     </message>
     <message>
         <source>Änderungen verwerfen</source>
-        <translation type="unfinished"></translation>
+        <translation>Discard changes</translation>
     </message>
     <message>
         <source>Sollen die Änderungen verworfen werden?</source>
-        <translation type="unfinished"></translation>
+        <translation>Do you want to discard the changes?</translation>
     </message>
 </context>
 <context>
@@ -157,153 +168,154 @@ Alle eingegebenen Textvorschläge werden dabei gelöscht!</source>
     <message>
         <source>Diese Funktion erlaubt das automatische Einfügen der 
 Texte, die bisher in dieses Feld eingetragen wurden.</source>
-        <translation type="unfinished"></translation>
+        <translation>This function inserts automatically the 
+texts that have been entered in this field so far.</translation>
     </message>
 </context>
 <context>
     <name>KalCompleterModel</name>
     <message>
         <source>Feld</source>
-        <translation type="unfinished"></translation>
+        <translation>Field</translation>
     </message>
     <message>
         <source>Aktiv</source>
-        <translation type="unfinished"></translation>
+        <translation>Active</translation>
     </message>
 </context>
 <context>
     <name>KalCompleterStore</name>
     <message>
         <source>Mängel</source>
-        <translation type="unfinished"></translation>
+        <translation>Defects</translation>
     </message>
     <message>
         <source>Pläne</source>
-        <translation type="unfinished"></translation>
+        <translation>Plans</translation>
     </message>
     <message>
         <source>Fotos</source>
-        <translation type="unfinished"></translation>
+        <translation>Photos</translation>
     </message>
     <message>
         <source>Firmen</source>
-        <translation type="unfinished"></translation>
+        <translation>Companies</translation>
     </message>
     <message>
         <source>Kal</source>
-        <translation type="unfinished"></translation>
+        <translation>Kal</translation>
     </message>
     <message>
         <source>Beschreibung</source>
-        <translation type="unfinished"></translation>
+        <translation>Description</translation>
     </message>
     <message>
         <source>Typ</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Autor</source>
-        <translation type="unfinished"></translation>
+        <translation>Author</translation>
     </message>
     <message>
         <source>Raum</source>
-        <translation type="unfinished"></translation>
+        <translation>Room</translation>
     </message>
     <message>
         <source>Raumbuch-Nr.</source>
-        <translation type="unfinished"></translation>
+        <translation>Room schedule no.</translation>
     </message>
     <message>
         <source>Beseitigungsanweisung</source>
-        <translation type="unfinished"></translation>
+        <translation>Remedy instruction</translation>
     </message>
     <message>
         <source>Priorität</source>
-        <translation type="unfinished"></translation>
+        <translation>Priority</translation>
     </message>
     <message>
         <source>Plan-Name oder Nummer</source>
-        <translation type="unfinished"></translation>
+        <translation>Plan name or number</translation>
     </message>
     <message>
         <source>Index</source>
-        <translation type="unfinished"></translation>
+        <translation>Revision</translation>
     </message>
     <message>
         <source>Titel</source>
-        <translation type="unfinished"></translation>
+        <translation>Title</translation>
     </message>
     <message>
         <source>Kommentar</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment</translation>
     </message>
     <message>
         <source>Mangel vor Abnahme (§ 4 Nr. 7 VOB/B)</source>
-        <translation type="unfinished"></translation>
+        <translation>Defect before acceptance (§ 4 No. 7 VOB/B)</translation>
     </message>
     <message>
         <source>Gewährleistungsmangel (§ 13 Abs. 5 Nr. 1 VOB/B)</source>
-        <translation type="unfinished"></translation>
+        <translation>Defect under warranty (§ 13 para. 5 No. 1 VOB/B)</translation>
     </message>
     <message>
         <source>Mangelfolgeschaden</source>
-        <translation type="unfinished"></translation>
+        <translation>Consequential damage</translation>
     </message>
     <message>
         <source>Mangel im Bestand</source>
-        <translation type="unfinished"></translation>
+        <translation>Defect in existing building</translation>
     </message>
     <message>
         <source>Büro</source>
-        <translation type="unfinished"></translation>
+        <translation>Office</translation>
     </message>
     <message>
         <source>Küche</source>
-        <translation type="unfinished"></translation>
+        <translation>Kitchen</translation>
     </message>
     <message>
         <source>WC</source>
-        <translation type="unfinished"></translation>
+        <translation>WC</translation>
     </message>
     <message>
         <source>Flur</source>
-        <translation type="unfinished"></translation>
+        <translation>Hall</translation>
     </message>
     <message>
         <source>Treppenhaus</source>
-        <translation type="unfinished"></translation>
+        <translation>Staircase</translation>
     </message>
     <message>
         <source>Zimmer</source>
-        <translation type="unfinished"></translation>
+        <translation>Room</translation>
     </message>
     <message>
         <source>UG-001</source>
-        <translation type="unfinished"></translation>
+        <translation>B-001</translation>
     </message>
     <message>
         <source>EG-001</source>
-        <translation type="unfinished"></translation>
+        <translation>GF-001</translation>
     </message>
     <message>
         <source>OG-001</source>
-        <translation type="unfinished"></translation>
+        <translation>FF-001</translation>
     </message>
     <message>
         <source>DG-001</source>
-        <translation type="unfinished"></translation>
+        <translation>AT-001</translation>
     </message>
     <message>
         <source>Hoch</source>
-        <translation type="unfinished"></translation>
+        <translation>High</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Niedrig</source>
-        <translation type="unfinished"></translation>
+        <translation>Low</translation>
     </message>
 </context>
 <context>
@@ -311,425 +323,441 @@ Texte, die bisher in dieses Feld eingetragen wurden.</source>
     <message>
         <source>Diese Funktion erlaubt das automatische Einfügen der 
 Texte, die bisher in dieses Feld eingetragen wurden.</source>
-        <translation type="unfinished"></translation>
+        <translation>This function inserts automatically the 
+texts that have been entered in this field so far.</translation>
     </message>
     <message>
         <source>Zum Wörterbuch hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Add to dictionary</translation>
     </message>
     <message>
         <source>Rechtschreibung prüfen</source>
-        <translation type="unfinished"></translation>
+        <translation>Check spelling</translation>
     </message>
 </context>
 <context>
     <name>KalDatabaseSchema</name>
     <message>
         <source>interner Fehler</source>
-        <translation type="unfinished"></translation>
+        <translation>internal error</translation>
     </message>
     <message>
         <source>Datenbank-Initialisierung fehlgeschlagen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Database initialisation failed.</translation>
     </message>
     <message>
         <source>Datenbankfehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Database error</translation>
     </message>
     <message>
         <source>Neues Projekt</source>
-        <translation type="unfinished"></translation>
+        <translation>New project</translation>
     </message>
     <message>
         <source>Quellor</source>
-        <translation type="unfinished"></translation>
+        <translation>Quellor</translation>
     </message>
     <message>
         <source>Pellwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Pellwick</translation>
     </message>
     <message>
         <source>www.quellor.de</source>
-        <translation type="unfinished"></translation>
+        <translation>www.quellor.de</translation>
     </message>
 </context>
 <context>
     <name>KalDateEdit</name>
     <message>
         <source>Datum auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose date</translation>
     </message>
     <message>
         <source>Format-Fehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Format error</translation>
     </message>
     <message>
         <source>Das eingegebene Datum ist nicht korrekt.
 Bitte verwenden Sie das Format %1!</source>
-        <translation type="unfinished"></translation>
+        <translation>The date entered is not correct.
+Please use the format %1!</translation>
     </message>
 </context>
 <context>
     <name>KalItemDelegate</name>
     <message>
         <source>Format-Fehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Format error</translation>
     </message>
     <message>
         <source>Das eingegebene Datum ist nicht korrekt.
 Bitte verwenden Sie das Format %1!</source>
-        <translation type="unfinished"></translation>
+        <translation>The date entered is not correct.
+Please use the format %1!</translation>
     </message>
 </context>
 <context>
     <name>KalLanguageDialog</name>
     <message>
         <source>Sprachauswahl</source>
-        <translation type="unfinished"></translation>
+        <translation>Language selection</translation>
     </message>
     <message>
         <source>Sprache wählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose language</translation>
     </message>
     <message>
         <source>Deutsch</source>
-        <translation type="unfinished"></translation>
+        <translation>German</translation>
     </message>
     <message>
         <source>Spanisch</source>
-        <translation type="unfinished"></translation>
+        <translation>Spanish</translation>
     </message>
     <message>
         <source>Englisch (Großbritannien)</source>
-        <translation type="unfinished"></translation>
+        <translation>English (United Kingdom)</translation>
     </message>
     <message>
         <source>Englisch (USA)</source>
-        <translation type="unfinished"></translation>
+        <translation>English (USA)</translation>
     </message>
     <message>
         <source>Die gewählte Sprache wird nach einem Neustart der Anwendung aktiviert.</source>
-        <translation type="unfinished"></translation>
+        <translation>The chosen language takes effect after the application has been restarted.</translation>
     </message>
     <message>
         <source>Sprache wurde geändert</source>
-        <translation type="unfinished"></translation>
+        <translation>Language changed</translation>
     </message>
     <message>
         <source>Soll das Programm jetzt neu gestartet werden?</source>
-        <translation type="unfinished"></translation>
+        <translation>Do you want to restart the program now?</translation>
     </message>
     <message>
         <source>(Die neue Spracheinstellung erfordert einen Programm-Neustart)</source>
-        <translation type="unfinished"></translation>
+        <translation>(The new language setting requires a restart of the program)</translation>
     </message>
     <message>
         <source>Jetzt neu starten</source>
-        <translation type="unfinished"></translation>
+        <translation>Restart now</translation>
     </message>
     <message>
         <source>Später neu starten</source>
-        <translation type="unfinished"></translation>
+        <translation>Restart later</translation>
     </message>
 </context>
 <context>
     <name>KalMainWindow</name>
     <message>
         <source>Fehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Error</translation>
     </message>
     <message>
         <source>Beim Erstellen eines neuen Projekts ist ein Fehler aufgetreten!</source>
-        <translation type="unfinished"></translation>
+        <translation>An error occurred while creating a new project!</translation>
     </message>
     <message>
         <source>Neu</source>
-        <translation type="unfinished"></translation>
+        <translation>New</translation>
     </message>
     <message>
         <source>Neues Projekt anlegen</source>
-        <translation type="unfinished"></translation>
+        <translation>Create a new project</translation>
     </message>
     <message>
         <source>Öffnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Open</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Open project</translation>
     </message>
     <message>
         <source>Speichern</source>
-        <translation type="unfinished"></translation>
+        <translation>Save</translation>
     </message>
     <message>
         <source>Projekt speichern</source>
-        <translation type="unfinished"></translation>
+        <translation>Save project</translation>
     </message>
     <message>
         <source>Speichern unter</source>
-        <translation type="unfinished"></translation>
+        <translation>Save as</translation>
     </message>
     <message>
         <source>Projekt unter einem neuen Namen speichern</source>
-        <translation type="unfinished"></translation>
+        <translation>Save the project under a new name</translation>
     </message>
     <message>
         <source>Datenbank bereinigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Clean up database</translation>
     </message>
     <message>
         <source>Mangel hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Add defect</translation>
     </message>
     <message>
         <source>neue Mängel</source>
-        <translation type="unfinished"></translation>
+        <translation>new defects</translation>
     </message>
     <message>
         <source>Pläne</source>
-        <translation type="unfinished"></translation>
+        <translation>Plans</translation>
     </message>
     <message>
         <source>Planverwaltung öffnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Open plan management</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
     </message>
     <message>
         <source>Statusverwaltung öffnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Open status management</translation>
     </message>
     <message>
         <source>Projektdaten bearbeiten</source>
-        <translation type="unfinished"></translation>
+        <translation>Edit project data</translation>
     </message>
     <message>
         <source>Firmenliste bearbeiten</source>
-        <translation type="unfinished"></translation>
+        <translation>Edit company list</translation>
     </message>
     <message>
         <source>Firmendaten Ausgabeformat</source>
-        <translation type="unfinished"></translation>
+        <translation>Company data output format</translation>
     </message>
     <message>
         <source>Logo hinzufügen / bearbeiten</source>
-        <translation type="unfinished"></translation>
+        <translation>Add / edit logo</translation>
     </message>
     <message>
         <source>Mängelliste kompakt</source>
-        <translation type="unfinished"></translation>
+        <translation>Defect list, compact</translation>
     </message>
     <message>
         <source>Mängelliste detailliert</source>
-        <translation type="unfinished"></translation>
+        <translation>Defect list, detailed</translation>
     </message>
     <message>
         <source>Druckvorschau</source>
-        <translation type="unfinished"></translation>
+        <translation>Print preview</translation>
     </message>
     <message>
         <source>Mängel und Firmen aus einem Bautagebuch importieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Import defects and companies from a site journal</translation>
     </message>
     <message>
         <source>Mängel und Firmen aus dem Bautagebuch aktualisieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Update defects and companies from the site journal</translation>
     </message>
     <message>
         <source>Automatischen Import neuer Mängel und Firmen einschalten</source>
-        <translation type="unfinished"></translation>
+        <translation>Switch on automatic import of new defects and companies</translation>
     </message>
     <message>
         <source>Automatischen Import und Aktualisierung vorhandener Mängel und Firmen einschalten</source>
-        <translation type="unfinished"></translation>
+        <translation>Switch on automatic import and update of existing defects and companies</translation>
     </message>
     <message>
         <source>Mängel und Firmen aus der Quellor App importieren
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Import defects and companies from the Quellor app
+</translation>
     </message>
     <message>
         <source>Importiert Mängel aus der Quellor App</source>
-        <translation type="unfinished"></translation>
+        <translation>Imports defects from the Quellor app</translation>
     </message>
     <message>
         <source>Import von Firmen aus anderer Pellwick-Datei</source>
-        <translation type="unfinished"></translation>
+        <translation>Import companies from another Pellwick file</translation>
     </message>
     <message>
         <source>Import von Firmen aus Quellor Bautagebuch</source>
-        <translation type="unfinished"></translation>
+        <translation>Import companies from Quellor site journal</translation>
     </message>
     <message>
         <source>Import von Firmen aus externer Adress-Datei</source>
-        <translation type="unfinished"></translation>
+        <translation>Import companies from an external address file</translation>
     </message>
     <message>
         <source>Sprache wählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose language</translation>
     </message>
     <message>
         <source>Texte ändern - Eingabe</source>
-        <translation type="unfinished"></translation>
+        <translation>Change texts - input</translation>
     </message>
     <message>
         <source>Plangröße</source>
-        <translation type="unfinished"></translation>
+        <translation>Plan size</translation>
     </message>
     <message>
         <source>Fotogröße</source>
-        <translation type="unfinished"></translation>
+        <translation>Photo size</translation>
     </message>
     <message>
         <source>Standardmarker</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard marker</translation>
     </message>
     <message>
         <source>Mängeltexte im Plan</source>
-        <translation type="unfinished"></translation>
+        <translation>Defect texts on the plan</translation>
     </message>
     <message>
         <source>Wie übernehme ich Mängel und
 Firmen aus einem Bautagebuch?</source>
-        <translation type="unfinished"></translation>
+        <translation>How do I take over defects and
+companies from a site journal?</translation>
     </message>
     <message>
         <source>Wie übernehme ich Mängel und Firmen
 von einem Mobilgerät?</source>
-        <translation type="unfinished"></translation>
+        <translation>How do I take over defects and companies
+from a mobile device?</translation>
     </message>
     <message>
         <source>Info über Pellwick</source>
-        <translation type="unfinished"></translation>
+        <translation>About Pellwick</translation>
     </message>
     <message>
         <source>Auf Updates prüfen</source>
-        <translation type="unfinished"></translation>
+        <translation>Check for updates</translation>
     </message>
     <message>
         <source>Datei</source>
-        <translation type="unfinished"></translation>
+        <translation>File</translation>
     </message>
     <message>
         <source>Vorherige Dateien...</source>
-        <translation type="unfinished"></translation>
+        <translation>Recent files...</translation>
     </message>
     <message>
         <source>Bearbeiten</source>
-        <translation type="unfinished"></translation>
+        <translation>Edit</translation>
     </message>
     <message>
         <source>Stammdaten</source>
-        <translation type="unfinished"></translation>
+        <translation>Master data</translation>
     </message>
     <message>
         <source>Drucken</source>
-        <translation type="unfinished"></translation>
+        <translation>Print</translation>
     </message>
     <message>
         <source>Datenimport</source>
-        <translation type="unfinished"></translation>
+        <translation>Data import</translation>
     </message>
     <message>
         <source>Einstellungen</source>
-        <translation type="unfinished"></translation>
+        <translation>Settings</translation>
     </message>
     <message>
         <source>Hilfe</source>
-        <translation type="unfinished"></translation>
+        <translation>Help</translation>
     </message>
     <message>
         <source>Symbolleiste</source>
-        <translation type="unfinished"></translation>
+        <translation>Toolbar</translation>
     </message>
     <message>
         <source>Alle Spalten anzeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Show all columns</translation>
     </message>
     <message>
         <source>An Fenstergröße anpassen</source>
-        <translation type="unfinished"></translation>
+        <translation>Fit to window</translation>
     </message>
     <message>
         <source>Hinweise zum Zoomen</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom hints</translation>
     </message>
     <message>
         <source>Neues Pellwick-Projekt</source>
-        <translation type="unfinished"></translation>
+        <translation>New Pellwick project</translation>
     </message>
     <message>
         <source>Pellwick-Projekt - %0</source>
-        <translation type="unfinished"></translation>
+        <translation>Pellwick project - %0</translation>
     </message>
     <message>
         <source>Projekt:</source>
-        <translation type="unfinished"></translation>
+        <translation>Project:</translation>
     </message>
     <message>
         <source>Automatischen Import neuer Mängel und Firmen ausschalten</source>
-        <translation type="unfinished"></translation>
+        <translation>Switch off automatic import of new defects and companies</translation>
     </message>
     <message>
         <source>Automatischen Import und Aktualisierung vorhandener Mängel und Firmen ausschalten</source>
-        <translation type="unfinished"></translation>
+        <translation>Switch off automatic import and update of existing defects and companies</translation>
     </message>
     <message>
         <source>Hilfetexte ausschalten</source>
-        <translation type="unfinished"></translation>
+        <translation>Switch help texts off</translation>
     </message>
     <message>
         <source>Hilfetexte einschalten</source>
-        <translation type="unfinished"></translation>
+        <translation>Switch help texts on</translation>
     </message>
     <message>
         <source>Öffnet die Datei %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Opens the file %1</translation>
     </message>
     <message>
         <source>Spalten ausblenden</source>
-        <translation type="unfinished"></translation>
+        <translation>Hide columns</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
-        <translation type="unfinished"></translation>
+        <translation>Show all columns</translation>
     </message>
     <message>
         <source>Dieser Mangel ist in keinem Plan verortet.
 Mit einem Doppelklick in dieses Fenster können Sie dem Mangel einen Plan zuordnen.
 Mit einem Doppelklick auf einen Mangel können Sie diesen Mangel bearbeiten.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>This defect is not located on any plan.
+Double-click in this window to assign a plan to the defect.
+Double-click on a defect to edit it.
+</translation>
     </message>
     <message>
         <source>Mit dem Mausrad vergrößern und verkleinern Sie den Plan.
 Mit gedrückter linker Maustaste verschieben Sie den Ausschnitt.
 &quot;An Fenstergröße anpassen&quot; zeigt den ganzen Plan.</source>
-        <translation type="unfinished"></translation>
+        <translation>Use the mouse wheel to zoom the plan in and out.
+Hold down the left mouse button to move the view.
+&quot;Fit to window&quot; shows the whole plan.</translation>
     </message>
     <message>
         <source>Plan des gewählten Mangels.
 Mausrad: vergrößern und verkleinern.
 Doppelklick: Plan zuordnen oder im Plan verorten.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plan of the selected defect.
+Mouse wheel: zoom in and out.
+Double-click: assign a plan or locate the defect on the plan.</translation>
     </message>
     <message>
         <source>Liste der Mängel des Projekts.
 Doppelklick auf einen Mangel: bearbeiten.
 Klick auf eine Spaltenüberschrift: sortieren.
 Die Knöpfe oben links fügen Mängel hinzu, kopieren oder löschen sie.</source>
-        <translation type="unfinished"></translation>
+        <translation>List of the defects of the project.
+Double-click on a defect: edit.
+Click on a column heading: sort.
+The buttons at the top left add, copy or delete defects.</translation>
     </message>
     <message>
         <source>Pellwick Projekt (*.pwp)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pellwick project (*.pwp)</translation>
     </message>
     <message>
         <source>Abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancel</translation>
     </message>
     <message>
         <source>Das Projekt kann nicht gespeichert werden, da die Datei
@@ -737,15 +765,19 @@ Die Knöpfe oben links fügen Mängel hinzu, kopieren oder löschen sie.</source
 schreibgeschützt ist.
 
 Möchten Sie die Änderungen in einer neuen Datei speichern?</source>
-        <translation type="unfinished"></translation>
+        <translation>The project cannot be saved because the file
+%1
+is write-protected.
+
+Do you want to save the changes in a new file?</translation>
     </message>
     <message>
         <source>Projekt geändert</source>
-        <translation type="unfinished"></translation>
+        <translation>Project changed</translation>
     </message>
     <message>
         <source>Das Projekt wurde geändert. Möchten Sie die Änderungen speichern?</source>
-        <translation type="unfinished"></translation>
+        <translation>The project has been changed. Do you want to save the changes?</translation>
     </message>
     <message>
         <source>Das Projekt wurde geändert.
@@ -754,33 +786,40 @@ Die Datei
 ist jedoch schreibgeschützt.
 
 Möchten Sie die Änderungen in einer neuen Datei speichern?</source>
-        <translation type="unfinished"></translation>
+        <translation>The project has been changed.
+However, the file 
+%1
+is write-protected.
+
+Do you want to save the changes in a new file?</translation>
     </message>
     <message>
         <source>Datei speichern</source>
-        <translation type="unfinished"></translation>
+        <translation>Save file</translation>
     </message>
     <message>
         <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!</source>
-        <translation type="unfinished"></translation>
+        <translation>An error occurred while saving the project!</translation>
     </message>
     <message>
         <source>Beim Schließen des Projekts ist ein Fehler aufgetreten!</source>
-        <translation type="unfinished"></translation>
+        <translation>An error occurred while closing the project!</translation>
     </message>
     <message>
         <source>Dateifehler</source>
-        <translation type="unfinished"></translation>
+        <translation>File error</translation>
     </message>
     <message>
         <source>Die Datei
 %1
 existiert nicht.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file
+%1
+does not exist.</translation>
     </message>
     <message>
         <source>Beim Öffnen des gewählten Projekts ist ein Fehler aufgetreten!</source>
-        <translation type="unfinished"></translation>
+        <translation>An error occurred while opening the chosen project!</translation>
     </message>
     <message>
         <source>Verringern der Datenbankgröße durch Bereinigung der Datenbank
@@ -788,271 +827,310 @@ existiert nicht.</source>
 Beim Löschen von Daten wird die Datenbank-Datei fragmentiert: Der frei gewordene Platz bleibt in der Datei erhalten. Die Bereinigung ordnet die Daten der Tabellen zusammenhängend an und organisiert die Datei neu.
 
 Dadurch kann die Datei erheblich kleiner werden, vor allem nachdem Fotos gelöscht wurden.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reducing the database size by cleaning up the database
+
+Deleting data fragments the database file: the space that became free remains in the file. Cleaning up arranges the data of the tables contiguously and reorganises the file.
+
+This can make the file considerably smaller, above all after photos were deleted.</translation>
     </message>
     <message>
         <source>Das Projekt wurde noch nicht gespeichert.
 Sie müssen das Projekt vor der Bereinigung der Datenbank speichern.</source>
-        <translation type="unfinished"></translation>
+        <translation>The project has not been saved yet.
+You must save the project before the database can be cleaned up.</translation>
     </message>
     <message>
         <source>Neues Projekt</source>
-        <translation type="unfinished"></translation>
+        <translation>New project</translation>
     </message>
     <message>
         <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!
 Die Datenbank konnte nicht bereinigt werden.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>An error occurred while saving the project!
+The database could not be cleaned up.
+</translation>
     </message>
     <message>
         <source>Das Projekt wurde geändert.
 Vor dem Bereinigen der Datenbank werden die Änderungen gespeichert.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>The project has been changed.
+The changes will be saved before the database is cleaned up.
+</translation>
     </message>
     <message>
         <source>Speichern und Bereinigen der Datenbank</source>
-        <translation type="unfinished"></translation>
+        <translation>Save and clean up the database</translation>
     </message>
     <message>
         <source>Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1</translation>
     </message>
 </context>
 <context>
     <name>KalMessageBoxPrompt</name>
     <message>
         <source>Diese Meldung nicht mehr anzeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Do not show this message again</translation>
     </message>
 </context>
 <context>
     <name>KalProgressDialog</name>
     <message>
         <source>Bitte warten...</source>
-        <translation type="unfinished"></translation>
+        <translation>Please wait...</translation>
     </message>
 </context>
 <context>
     <name>KalProject</name>
     <message>
         <source>Dateifehler</source>
-        <translation type="unfinished"></translation>
+        <translation>File error</translation>
     </message>
     <message>
         <source>Löschen der Datei
 %1
  fehlgeschlagen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deleting the file
+%1
+ failed.</translation>
     </message>
     <message>
         <source>Datenbankfehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Database error</translation>
     </message>
     <message>
         <source>unbekannt</source>
-        <translation type="unfinished"></translation>
+        <translation>unknown</translation>
     </message>
     <message>
         <source>Die Datei konnte nicht geöffnet werden, da sie in Bearbeitung ist von
 User: %1
 Computer: %2
 seit dem %3 %4 Uhr.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file could not be opened because it is being edited by
+User: %1
+Computer: %2
+since %3 %4.</translation>
     </message>
     <message>
         <source>Die Datei konnte nicht geöffnet werden, da sie in Bearbeitung ist.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file could not be opened because it is being edited.</translation>
     </message>
     <message>
         <source>Datenbank in Bearbeitung</source>
-        <translation type="unfinished"></translation>
+        <translation>Database in use</translation>
     </message>
     <message>
         <source>Datei öffnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Open file</translation>
     </message>
     <message>
         <source>Die letzte Bearbeitung der Mängel-Datei wurde nicht ordnungsgemäß abgeschlossen.
 Der letzte Bearbeitungsstand wird geöffnet. Speichern Sie die Datei, wenn Sie diesen Stand behalten wollen.</source>
-        <translation type="unfinished"></translation>
+        <translation>The last editing of the defect file was not finished properly.
+The last state of editing is opened. Save the file if you want to keep this state.</translation>
     </message>
     <message>
         <source>Die Datei
 %1
 existiert nicht.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file
+%1
+does not exist.</translation>
     </message>
     <message>
         <source>Die Datei kann nicht geöffnet werden, da sie mit einer neueren Programmversion erstellt wurde.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file cannot be opened because it was created with a newer version of the program.</translation>
     </message>
     <message>
         <source>Tabelle KAL fehlt</source>
-        <translation type="unfinished"></translation>
+        <translation>Table KAL is missing</translation>
     </message>
     <message>
         <source>Die interne Struktur der Mängel-Datenbank ist beschädigt.
 Wenn Sie mit dieser Datenbank weiterarbeiten, drohen Datenverluste!
 </source>
-        <translation type="unfinished"></translation>
+        <translation>The internal structure of the defect database is damaged.
+If you keep working with this database, data may be lost!
+</translation>
     </message>
     <message>
         <source>Beschädigte Datenbank-Datei</source>
-        <translation type="unfinished"></translation>
+        <translation>Damaged database file</translation>
     </message>
     <message>
         <source>Backup wiederherstellen</source>
-        <translation type="unfinished"></translation>
+        <translation>Restore backup</translation>
     </message>
     <message>
         <source>Beschädigte Datei öffnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Open damaged file</translation>
     </message>
     <message>
         <source>Das neueste unbeschädigte Backup stammt vom %1.
 Soll dieses Backup wiederhergestellt werden (empfohlen)?</source>
-        <translation type="unfinished"></translation>
+        <translation>The newest undamaged backup dates from %1.
+Do you want to restore this backup (recommended)?</translation>
     </message>
     <message>
         <source>Es existieren keine Backup-Dateien. Wenn sie über Sicherungskopien dieser Datei verfügen, stellen Sie diese wieder her.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>There are no backup files. If you have backup copies of this file, restore them.
+</translation>
     </message>
     <message>
         <source>Die Backup-Dateien sind ebenfalls beschädigt. Wenn sie über Sicherungskopien dieser Datei verfügen, stellen Sie diese wieder her.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>The backup files are damaged as well. If you have backup copies of this file, restore them.
+</translation>
     </message>
     <message>
         <source>Abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancel</translation>
     </message>
     <message>
         <source>Die Datei konnte nicht wiederhegestellt werden.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>The file could not be restored.
+</translation>
     </message>
     <message>
         <source>Die Datei wurde erfolgreich wiederhergestellt und wird jetzt geöffnet.
 Die beschädigte Datei wurde umbenannt in %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file has been restored successfully and is now opened.
+The damaged file was renamed to %2.</translation>
     </message>
     <message>
         <source>Speicherplatz nicht ausreichend</source>
-        <translation type="unfinished"></translation>
+        <translation>Not enough disk space</translation>
     </message>
     <message>
         <source>Auf dem Laufwerk %1 steht nicht genügend Speicherplatz zur Verfügung, um das Projekt zu öffnen.
 Geben Sie mindestens %2 MB Speicherplatz frei und versuchen Sie es erneut.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is not enough space on drive %1 to open the project.
+Free at least %2 MB and try again.</translation>
     </message>
     <message>
         <source>Speicherplatz</source>
-        <translation type="unfinished"></translation>
+        <translation>Disk space</translation>
     </message>
     <message>
         <source>Sie sollten auf dem Laufwerk %1 Speicherplatz freigeben, da es sonst zu Problemen beim Speichern des Projekts kommen kann.</source>
-        <translation type="unfinished"></translation>
+        <translation>You should free space on drive %1; otherwise saving the project may run into problems.</translation>
     </message>
     <message>
         <source>Projekt wird geöffnet...</source>
-        <translation type="unfinished"></translation>
+        <translation>Opening project...</translation>
     </message>
     <message>
         <source>Die Working Copy Datei konnte nicht erstellt werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>The working copy file could not be created.</translation>
     </message>
     <message>
         <source>Datei-Warnung</source>
-        <translation type="unfinished"></translation>
+        <translation>File warning</translation>
     </message>
     <message>
         <source>Sie haben keine Schreibrechte für die Datei %1.
 Wenn Sie die Datei speichern wollen, können Sie dies nur unter einem anderen Namen oder in einen anderen Ordner.
 Wählen Sie hierzu im Menü &apos;Datei&apos; den Menüpunkt &apos;Speichern unter&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>You have no write permission for the file %1.
+If you want to save the file, you can only do so under another name or in another folder.
+To do so, choose &apos;Save as&apos; in the &apos;File&apos; menu.</translation>
     </message>
     <message>
         <source>Die Datei %1 konnte nicht in %2 umbenannt werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file %1 could not be renamed to %2.</translation>
     </message>
     <message>
         <source>Fehler beim Kopieren der Backup-Datei %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Error while copying the backup file %1.</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>Speicher-Fehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Save error</translation>
     </message>
     <message>
         <source>Sie können die Datei %1 nicht speichern, da sie keine Schreibrechte besitzen.
 Wählen Sie im Menü &apos;Datei&apos; den Menüpunkt &apos;Speichern unter&apos;,
 um die Datei unter einem anderen Namen oder in einen anderen Ordner zu speichern.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>You cannot save the file %1 because you have no write permission.
+Choose &apos;Save as&apos; in the &apos;File&apos; menu
+to save the file under another name or in another folder.
+</translation>
     </message>
     <message>
         <source>Projekt wird gespeichert...</source>
-        <translation type="unfinished"></translation>
+        <translation>Saving project...</translation>
     </message>
     <message>
         <source>interner Fehler</source>
-        <translation type="unfinished"></translation>
+        <translation>internal error</translation>
     </message>
     <message>
         <source>Dateiname fehlt.</source>
-        <translation type="unfinished"></translation>
+        <translation>File name is missing.</translation>
     </message>
     <message>
         <source>Auf dem Ziellaufwerk %1 steht nicht genügend Speicherplatz zur Verfügung, um das Projekt zu speichern.
 Geben Sie mindestens %2 MB Speicherplatz frei und versuchen Sie es erneut.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is not enough space on the target drive %1 to save the project.
+Free at least %2 MB and try again.</translation>
     </message>
     <message>
         <source>Löschen der Backup-Datei
 %1
  fehlgeschlagen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Deleting the backup file
+%1
+ failed.</translation>
     </message>
     <message>
         <source>Kopieren der Datei
 %1
  fehlgeschlagen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Copying the file
+%1
+ failed.</translation>
     </message>
     <message>
         <source>Umbenennen der Backup-Datei
 %1
  fehlgeschlagen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Renaming the backup file
+%1
+ failed.</translation>
     </message>
     <message>
         <source>Die Datei
 %1
 konnte nicht gelöscht werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file
+%1
+could not be deleted.</translation>
     </message>
     <message>
         <source>Fehler beim Kopieren der Working Copy Datei.</source>
-        <translation type="unfinished"></translation>
+        <translation>Error while copying the working copy file.</translation>
     </message>
     <message>
         <source>Datenbank bereinigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Clean up database</translation>
     </message>
     <message>
         <source>Die Datenbank wird jetzt bereinigt.
@@ -1060,426 +1138,448 @@ Dieser Vorgang kann für größere Datenbanken mehrere Minuten dauern.
 
 Unterbrechen Sie diesen Vorgang nicht und schalten Sie den Computer nicht aus.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>The database is now being cleaned up.
+For larger databases this can take several minutes.
+
+Do not interrupt this process and do not switch off the computer.
+</translation>
     </message>
     <message>
         <source>Aufgrund eines SQL-Fehlers konnte die Datenbank nicht bereinigt werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>The database could not be cleaned up because of an SQL error.</translation>
     </message>
     <message>
         <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!
 Die Datenbank konnte nicht bereinigt werden.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>An error occurred while saving the project!
+The database could not be cleaned up.
+</translation>
     </message>
     <message>
         <source>Die Datenbank wurde erfolgreich bereinigt.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>The database has been cleaned up successfully.
+</translation>
     </message>
     <message>
         <source>Die Datenbank wurde erfolgreich bereinigt.
 Die Dateigröße wurde von %1 auf %2 reduziert.</source>
-        <translation type="unfinished"></translation>
+        <translation>The database has been cleaned up successfully.
+The file size was reduced from %1 to %2.</translation>
     </message>
 </context>
 <context>
     <name>KalPrompt</name>
     <message>
         <source>Ja</source>
-        <translation type="unfinished"></translation>
+        <translation>Yes</translation>
     </message>
     <message>
         <source>Nein</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancel</translation>
     </message>
     <message>
         <source>Speichern</source>
-        <translation type="unfinished"></translation>
+        <translation>Save</translation>
     </message>
     <message>
         <source>Verwerfen</source>
-        <translation type="unfinished"></translation>
+        <translation>Discard</translation>
     </message>
 </context>
 <context>
     <name>KalShortHelpDialog</name>
     <message>
         <source>Schließen</source>
-        <translation type="unfinished"></translation>
+        <translation>Close</translation>
     </message>
     <message>
         <source>Anleitung für den Datenimport aus einem Bautagebuch</source>
-        <translation type="unfinished"></translation>
+        <translation>Guide to importing data from a site journal</translation>
     </message>
     <message>
         <source>Anleitung für den Datenimport von einem Mobilgerät</source>
-        <translation type="unfinished"></translation>
+        <translation>Guide to importing data from a mobile device</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Datenimport aus dem Bautagebuch für PC und Mac&lt;/h3&gt;&lt;p&gt;Das Bautagebuch ist die Datenquelle: Mängel, die Sie dort in Ihren Berichten erfassen, werden mit ihren Mängelfotos und den beteiligten Firmen in das Pellwick-Projekt übernommen.&lt;/p&gt;&lt;ol&gt;&lt;li&gt;Öffnen oder erstellen Sie das Pellwick-Projekt für die Baustelle.&lt;/li&gt;&lt;li&gt;Wählen Sie im Menü &quot;Datenimport&quot; den Eintrag &quot;Mängel und Firmen aus einem Bautagebuch importieren&quot; und wählen Sie die Bautagebuch-Datei (*.sjd) aus.&lt;/li&gt;&lt;li&gt;Das Projekt bleibt mit dem Bautagebuch verbunden: Später übernehmen Sie neue und geänderte Mängel mit &quot;Mängel und Firmen aus dem Bautagebuch aktualisieren&quot; oder automatisch.&lt;/li&gt;&lt;/ol&gt;&lt;p&gt;Mängel, die Sie im Pellwick-Projekt bearbeitet haben, werden beim Aktualisieren nicht überschrieben.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Data import from the site journal for PC and Mac&lt;/h3&gt;&lt;p&gt;The site journal is the data source: defects that you record there in your reports are taken over into the Pellwick project together with their defect photos and the companies involved.&lt;/p&gt;&lt;ol&gt;&lt;li&gt;Open or create the Pellwick project for the building site.&lt;/li&gt;&lt;li&gt;In the &quot;Data import&quot; menu choose &quot;Import defects and companies from a site journal&quot; and select the site journal file (*.sjd).&lt;/li&gt;&lt;li&gt;The project stays linked to the site journal: later you take over new and changed defects with &quot;Update defects and companies from the site journal&quot; or automatically.&lt;/li&gt;&lt;/ol&gt;&lt;p&gt;Defects that you have edited in the Pellwick project are not overwritten by an update.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Datenimport von einem Mobilgerät&lt;/h3&gt;&lt;p&gt;Mängel, Mängelfotos und Firmen können Sie auf der Baustelle mit der Quellor App auf einem Smartphone oder Tablet erfassen und anschließend in das Pellwick-Projekt importieren.&lt;/p&gt;&lt;ol&gt;&lt;li&gt;Übertragen Sie die Datenbank der App auf Ihren Computer.&lt;/li&gt;&lt;li&gt;Wählen Sie im Menü &quot;Datenimport&quot; den Eintrag &quot;Mängel und Firmen aus der Quellor App importieren&quot; und wählen Sie die übertragene Datei aus.&lt;/li&gt;&lt;li&gt;Die Mängel werden mit ihren Fotos und Firmen in das geöffnete Projekt übernommen.&lt;/li&gt;&lt;/ol&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Data import from a mobile device&lt;/h3&gt;&lt;p&gt;You can record defects, defect photos and companies on the building site with the Quellor app on a smartphone or tablet and then import them into the Pellwick project.&lt;/p&gt;&lt;ol&gt;&lt;li&gt;Transfer the database of the app to your computer.&lt;/li&gt;&lt;li&gt;In the &quot;Data import&quot; menu choose &quot;Import defects and companies from the Quellor app&quot; and select the transferred file.&lt;/li&gt;&lt;li&gt;The defects are taken over into the open project together with their photos and companies.&lt;/li&gt;&lt;/ol&gt;</translation>
     </message>
 </context>
 <context>
     <name>KalSpellChecker</name>
     <message>
         <source>Wörterbuch-Datei %1 existiert nicht.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dictionary file %1 does not exist.</translation>
     </message>
     <message>
         <source>Speicherfehler beim Anlegen des Moduls Rechtschreibprüfung. Bitte kontaktieren Sie den Softwarehersteller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Memory error while creating the spell checking module. Please contact the software manufacturer.</translation>
     </message>
     <message>
         <source>Fehler beim Initialisieren des Moduls Rechtschreibprüfung. Bitte kontaktieren Sie den Softwarehersteller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Error while initialising the spell checking module. Please contact the software manufacturer.</translation>
     </message>
     <message>
         <source>Dateifehler</source>
-        <translation type="unfinished"></translation>
+        <translation>File error</translation>
     </message>
     <message>
         <source>Anwender-Wörterbuch in %1 konnte nicht geöffnet werden</source>
-        <translation type="unfinished"></translation>
+        <translation>User dictionary in %1 could not be opened</translation>
     </message>
     <message>
         <source>Anwender-Wörterbuch in %1 konnte nicht geöffnet werden.
 (Evtl. fehlende Schreibrechte)
 Hinzufügen des Wortes nicht möglich!</source>
-        <translation type="unfinished"></translation>
+        <translation>User dictionary in %1 could not be opened.
+(Write permission may be missing)
+The word cannot be added!</translation>
     </message>
     <message>
         <source>Fehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Error</translation>
     </message>
     <message>
         <source>Ordner %1 
 zum Speichern der Wörterbücher konnte nicht angelegt werden!</source>
-        <translation type="unfinished"></translation>
+        <translation>Folder %1 
+for storing the dictionaries could not be created!</translation>
     </message>
     <message>
         <source>Das Modul Rechtschreibprüfung ist nicht geladen!</source>
-        <translation type="unfinished"></translation>
+        <translation>The spell checking module is not loaded!</translation>
     </message>
     <message>
         <source>Rechtschreibprüfung aus</source>
-        <translation type="unfinished"></translation>
+        <translation>Spell checking off</translation>
     </message>
     <message>
         <source>Rechtschreibprüfung ein</source>
-        <translation type="unfinished"></translation>
+        <translation>Spell checking on</translation>
     </message>
 </context>
 <context>
     <name>KalSpellCheckerDialog</name>
     <message>
         <source>Rechtschreibprüfung</source>
-        <translation type="unfinished"></translation>
+        <translation>Spell checking</translation>
     </message>
     <message>
         <source>Nicht im Wörterbuch:</source>
-        <translation type="unfinished"></translation>
+        <translation>Not in dictionary:</translation>
     </message>
     <message>
         <source>Ersetzen durch:</source>
-        <translation type="unfinished"></translation>
+        <translation>Replace with:</translation>
     </message>
     <message>
         <source>Vorschläge:</source>
-        <translation type="unfinished"></translation>
+        <translation>Suggestions:</translation>
     </message>
     <message>
         <source>Ignorieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignore</translation>
     </message>
     <message>
         <source>Alle ignorieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignore all</translation>
     </message>
     <message>
         <source>Ändern</source>
-        <translation type="unfinished"></translation>
+        <translation>Change</translation>
     </message>
     <message>
         <source>Alle ändern</source>
-        <translation type="unfinished"></translation>
+        <translation>Change all</translation>
     </message>
     <message>
         <source>Zum Wörterbuch hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Add to dictionary</translation>
     </message>
     <message>
         <source>Abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancel</translation>
     </message>
     <message>
         <source>Fehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Error</translation>
     </message>
     <message>
         <source>Das Modul Rechtschreibprüfung ist nicht geladen!</source>
-        <translation type="unfinished"></translation>
+        <translation>The spell checking module is not loaded!</translation>
     </message>
     <message>
         <source>Die Rechtschreibprüfung konnte keinen Fehler finden.</source>
-        <translation type="unfinished"></translation>
+        <translation>The spell check found no errors.</translation>
     </message>
     <message>
         <source>Die Rechtschreibprüfung ist beendet.</source>
-        <translation type="unfinished"></translation>
+        <translation>The spell check is complete.</translation>
     </message>
 </context>
 <context>
     <name>KalSqlError</name>
     <message>
         <source>Datenbankfehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Database error</translation>
     </message>
 </context>
 <context>
     <name>KalSqlTableModel</name>
     <message>
         <source>Nr.</source>
-        <translation type="unfinished"></translation>
+        <translation>No.</translation>
     </message>
     <message>
         <source>Beschreibung</source>
-        <translation type="unfinished"></translation>
+        <translation>Description</translation>
     </message>
     <message>
         <source>Firma</source>
-        <translation type="unfinished"></translation>
+        <translation>Company</translation>
     </message>
     <message>
         <source>Typ</source>
-        <translation type="unfinished"></translation>
+        <translation>Type</translation>
     </message>
     <message>
         <source>Autor</source>
-        <translation type="unfinished"></translation>
+        <translation>Author</translation>
     </message>
     <message>
         <source>Erfasst am</source>
-        <translation type="unfinished"></translation>
+        <translation>Recorded on</translation>
     </message>
     <message>
         <source>Raum</source>
-        <translation type="unfinished"></translation>
+        <translation>Room</translation>
     </message>
     <message>
         <source>Raumbuch-Nr.</source>
-        <translation type="unfinished"></translation>
+        <translation>Room schedule no.</translation>
     </message>
     <message>
         <source>Plan</source>
-        <translation type="unfinished"></translation>
+        <translation>Plan</translation>
     </message>
     <message>
         <source>Fotos</source>
-        <translation type="unfinished"></translation>
+        <translation>Photos</translation>
     </message>
     <message>
         <source>Beseitigungsanweisung</source>
-        <translation type="unfinished"></translation>
+        <translation>Remedy instruction</translation>
     </message>
     <message>
         <source>Priorität</source>
-        <translation type="unfinished"></translation>
+        <translation>Priority</translation>
     </message>
     <message>
         <source>Frist</source>
-        <translation type="unfinished"></translation>
+        <translation>Deadline</translation>
     </message>
     <message>
         <source>1. Nachfrist</source>
-        <translation type="unfinished"></translation>
+        <translation>1st extension</translation>
     </message>
     <message>
         <source>2. Nachfrist</source>
-        <translation type="unfinished"></translation>
+        <translation>2nd extension</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
     </message>
     <message>
         <source>Minderung</source>
-        <translation type="unfinished"></translation>
+        <translation>Price reduction</translation>
     </message>
     <message>
         <source>Farbe</source>
-        <translation type="unfinished"></translation>
+        <translation>Colour</translation>
     </message>
     <message>
         <source>Plan-Name oder Nummer</source>
-        <translation type="unfinished"></translation>
+        <translation>Plan name or number</translation>
     </message>
     <message>
         <source>Index</source>
-        <translation type="unfinished"></translation>
+        <translation>Revision</translation>
     </message>
     <message>
         <source>Datum</source>
-        <translation type="unfinished"></translation>
+        <translation>Date</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>Titel</source>
-        <translation type="unfinished"></translation>
+        <translation>Title</translation>
     </message>
     <message>
         <source>Kommentar</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment</translation>
     </message>
     <message>
         <source>Gewerk</source>
-        <translation type="unfinished"></translation>
+        <translation>Trade</translation>
     </message>
     <message>
         <source>Vorname</source>
-        <translation type="unfinished"></translation>
+        <translation>First name</translation>
     </message>
     <message>
         <source>Nachname</source>
-        <translation type="unfinished"></translation>
+        <translation>Last name</translation>
     </message>
     <message>
         <source>Straße</source>
-        <translation type="unfinished"></translation>
+        <translation>Street</translation>
     </message>
     <message>
         <source>PLZ</source>
-        <translation type="unfinished"></translation>
+        <translation>Postcode</translation>
     </message>
     <message>
         <source>Stadt</source>
-        <translation type="unfinished"></translation>
+        <translation>Town</translation>
     </message>
     <message>
         <source>Telefon</source>
-        <translation type="unfinished"></translation>
+        <translation>Telephone</translation>
     </message>
     <message>
         <source>Fax</source>
-        <translation type="unfinished"></translation>
+        <translation>Fax</translation>
     </message>
     <message>
         <source>Mobil</source>
-        <translation type="unfinished"></translation>
+        <translation>Mobile</translation>
     </message>
     <message>
         <source>E-Mail</source>
-        <translation type="unfinished"></translation>
+        <translation>E-mail</translation>
     </message>
     <message>
         <source>Adressenliste</source>
-        <translation type="unfinished"></translation>
+        <translation>Address list</translation>
     </message>
     <message>
         <source> - mit Minderung</source>
-        <translation type="unfinished"></translation>
+        <translation> - with price reduction</translation>
     </message>
     <message>
         <source>Standardstatus</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard status</translation>
     </message>
     <message>
         <source>Benutzerstatus</source>
-        <translation type="unfinished"></translation>
+        <translation>User status</translation>
     </message>
     <message>
         <source>Meta</source>
-        <translation type="unfinished"></translation>
+        <translation>Meta</translation>
     </message>
     <message>
         <source>Kal</source>
-        <translation type="unfinished"></translation>
+        <translation>Kal</translation>
     </message>
     <message>
         <source>Mängel</source>
-        <translation type="unfinished"></translation>
+        <translation>Defects</translation>
     </message>
     <message>
         <source>Pläne</source>
-        <translation type="unfinished"></translation>
+        <translation>Plans</translation>
     </message>
     <message>
         <source>Mail-Addresslisten</source>
-        <translation type="unfinished"></translation>
+        <translation>Mail address lists</translation>
     </message>
     <message>
         <source>Firmen</source>
-        <translation type="unfinished"></translation>
+        <translation>Companies</translation>
     </message>
     <message>
         <source>Mail-Addressen</source>
-        <translation type="unfinished"></translation>
+        <translation>Mail addresses</translation>
     </message>
 </context>
 <context>
     <name>KalStartup</name>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Version %1</translation>
     </message>
     <message>
         <source>Mängelmanagement für Bauprojekte</source>
-        <translation type="unfinished"></translation>
+        <translation>Defect management for building projects</translation>
     </message>
     <message>
         <source>Sie verwenden eine Bildschirm-Skalierung von %1%. Dies kann es zu Problemen bei der Darstellung des Pellwicks führen.</source>
-        <translation type="unfinished"></translation>
+        <translation>You are using a display scaling of %1%. This can cause problems with the way Pellwick is displayed.</translation>
     </message>
     <message>
         <source>
 
 Wenn Schriften oder Symbole abgeschnitten oder unscharf dargestellt werden, stellen Sie die Skalierung für Pellwick auf 100 % zurück:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+
+If fonts or icons appear cut off or blurred, set the scaling for Pellwick back to 100 %:
+</translation>
     </message>
     <message>
         <source> 1. Öffnen Sie die Systemsteuerung.
  2. Wählen Sie &quot;Darstellung und Anpassung&quot; und dann &quot;Anzeige&quot;.
  3. Wählen Sie &quot;Kleiner - 100 %&quot; und bestätigen Sie mit &quot;Übernehmen&quot;.
  4. Melden Sie sich ab und wieder an.</source>
-        <translation type="unfinished"></translation>
+        <translation> 1. Open the Control Panel.
+ 2. Choose &quot;Appearance and Personalisation&quot; and then &quot;Display&quot;.
+ 3. Choose &quot;Smaller - 100 %&quot; and confirm with &quot;Apply&quot;.
+ 4. Sign out and sign in again.</translation>
     </message>
     <message>
         <source>1. Rechtsklick auf das Pellwick-Desktop-Icon.
 2. Wählen Sie &quot;Eigenschaften&quot; und dann die Registerkarte &quot;Kompatibilität&quot;.
 3. Klicken Sie auf &quot;Hohe DPI-Einstellungen ändern&quot; und aktivieren Sie &quot;Verhalten bei hoher DPI-Skalierung überschreiben&quot; mit &quot;Anwendung&quot;.
 4. Bestätigen Sie mit &quot;OK&quot; und starten Sie Pellwick neu.</source>
-        <translation type="unfinished"></translation>
+        <translation>1. Right-click the Pellwick desktop icon.
+2. Choose &quot;Properties&quot; and then the &quot;Compatibility&quot; tab.
+3. Click &quot;Change high DPI settings&quot; and enable &quot;Override high DPI scaling behaviour&quot; with &quot;Application&quot;.
+4. Confirm with &quot;OK&quot; and restart Pellwick.</translation>
     </message>
     <message>
         <source>1. Öffnen Sie die Bildschirm-Einstellungen Ihrer Arbeitsumgebung.
 2. Stellen Sie die Skalierung bzw. die Schriftauflösung auf 100 % (96 DPI).
 3. Melden Sie sich ab und wieder an und starten Sie Pellwick neu.</source>
-        <translation type="unfinished"></translation>
+        <translation>1. Open the display settings of your desktop environment.
+2. Set the scaling or the font resolution to 100 % (96 DPI).
+3. Log out and in again and restart Pellwick.</translation>
     </message>
     <message>
         <source>Bildschirm-Skalierung</source>
-        <translation type="unfinished"></translation>
+        <translation>Display scaling</translation>
     </message>
     <message>
         <source>Diese Meldung nicht mehr anzeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Do not show this message again</translation>
     </message>
     <message>
         <source>Datenimport</source>
-        <translation type="unfinished"></translation>
+        <translation>Data import</translation>
     </message>
     <message>
         <source>Das Projekt wurde mit dem Bautagebuch
@@ -1487,7 +1587,10 @@ Wenn Schriften oder Symbole abgeschnitten oder unscharf dargestellt werden, stel
 verknüpft.
 
 Der Import von Mängeln und Firmen aus dem Bautagebuch ist in dieser Programmversion noch nicht verfügbar.</source>
-        <translation type="unfinished"></translation>
+        <translation>The project has been linked to the site journal
+%1
+
+The import of defects and companies from the site journal is not yet available in this version of the program.</translation>
     </message>
     <message>
         <source>Hilfe zum Datenimport
@@ -1497,58 +1600,65 @@ Pellwick arbeitet eigenständig (standalone): Sie erfassen Mängel, Fotos, Plän
 Pellwick arbeitet auch mit dem Quellor Bautagebuch zusammen: Das Bautagebuch ist dann die Datenquelle, aus der Mängel, Mängelfotos und Firmen in das Pellwick-Projekt übernommen werden.
 
 Anleitungen dazu finden Sie im Menü &quot;Hilfe&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Help on data import
+
+Pellwick works on its own (standalone): you record defects, photos, plans and companies directly in the Pellwick project.
+
+Pellwick also works together with the Quellor site journal: the site journal is then the data source from which defects, defect photos and companies are taken over into the Pellwick project.
+
+You will find guides for this in the &quot;Help&quot; menu.</translation>
     </message>
     <message>
         <source>Hilfe zum Datenimport</source>
-        <translation type="unfinished"></translation>
+        <translation>Help on data import</translation>
     </message>
 </context>
 <context>
     <name>KalTableView</name>
     <message>
         <source>Neue Zeile hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Add new row</translation>
     </message>
     <message>
         <source>Gewählte Zeilen entfernen</source>
-        <translation type="unfinished"></translation>
+        <translation>Remove selected rows</translation>
     </message>
     <message>
         <source>Gewählte Zeilen kopieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Copy selected rows</translation>
     </message>
     <message>
         <source>Doppelklick für neue Zeile</source>
-        <translation type="unfinished"></translation>
+        <translation>Double-click for a new row</translation>
     </message>
     <message>
         <source>Status löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Delete status</translation>
     </message>
     <message>
         <source>Wenn Sie einen Status löschen, der bereits Mängeln zugeordnet ist, verlieren diese Mängel ihren Status!
 Soll der gewählte Status tatsächlich gelöscht werden?</source>
-        <translation type="unfinished"></translation>
+        <translation>If you delete a status that is already assigned to defects, these defects lose their status!
+Do you really want to delete the selected status?</translation>
     </message>
     <message>
         <source>Eintrag entfernen</source>
-        <translation type="unfinished"></translation>
+        <translation>Remove entry</translation>
     </message>
     <message>
         <source>Soll der gewählte Eintrag tatsächlich entfernt werden?</source>
-        <translation type="unfinished"></translation>
+        <translation>Do you really want to remove the selected entry?</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Fehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Error</translation>
     </message>
     <message>
         <source>Ihre QT-Installation unterstützt SQLITE nicht. Bitte kontaktieren Sie den Softwarehersteller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Your Qt installation does not support SQLite. Please contact the software manufacturer.</translation>
     </message>
 </context>
 </TS>

@@ -5,35 +5,35 @@
     <name>DefaultStatus</name>
     <message>
         <source>Offen, zu beseitigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Abierto, por subsanar</translation>
     </message>
     <message>
         <source>Offen, in Arbeit</source>
-        <translation type="unfinished"></translation>
+        <translation>Abierto, en curso</translation>
     </message>
     <message>
         <source>Offen, unzureichend beseitigt</source>
-        <translation type="unfinished"></translation>
+        <translation>Abierto, subsanado de forma insuficiente</translation>
     </message>
     <message>
         <source>Offen, streitig</source>
-        <translation type="unfinished"></translation>
+        <translation>Abierto, en disputa</translation>
     </message>
     <message>
         <source>Erledigt, komplett beseitigt</source>
-        <translation type="unfinished"></translation>
+        <translation>Resuelto, subsanado por completo</translation>
     </message>
     <message>
         <source>Erledigt, teilweise beseitigt</source>
-        <translation type="unfinished"></translation>
+        <translation>Resuelto, subsanado en parte</translation>
     </message>
     <message>
         <source>Erledigt, bleibt</source>
-        <translation type="unfinished"></translation>
+        <translation>Resuelto, se mantiene</translation>
     </message>
     <message>
         <source>Erledigt, streitig abgelehnt</source>
-        <translation type="unfinished"></translation>
+        <translation>Resuelto, rechazado en disputa</translation>
     </message>
 </context>
 <context>
@@ -41,115 +41,126 @@
     <message>
         <source>
 ungültiger connect Mode: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>
+modo de conexión no válido: %1</translation>
     </message>
     <message>
         <source>
 Parameter Pellwick-Datei fehlt.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Falta el parámetro del archivo de Pellwick.</translation>
     </message>
     <message>
         <source>
 Die Pellwick-Datei existiert nicht.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+El archivo de Pellwick no existe.</translation>
     </message>
     <message>
         <source>
 Parameter Bautagebuch-Datei fehlt.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+Falta el parámetro del archivo del diario de obra.</translation>
     </message>
     <message>
         <source>
 Die Bautagebuch-Datei %1 existiert nicht.</source>
-        <translation type="unfinished"></translation>
+        <translation>
+El archivo del diario de obra %1 no existe.</translation>
     </message>
     <message>
         <source>Die vom Bautagebuch Programm übergebenen Parameter sind fehlerhaft:
 
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Los parámetros transmitidos por el programa del diario de obra son incorrectos:
+
+</translation>
     </message>
     <message>
         <source>Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Información</translation>
     </message>
 </context>
 <context>
     <name>KalCompleter</name>
     <message>
         <source>Autotexte</source>
-        <translation type="unfinished"></translation>
+        <translation>Textos automáticos</translation>
     </message>
     <message>
         <source>Diese Funktion erlaubt das automatische Einfügen der Texte, die bisher in dieses Feld eingetragen wurden.
 
 Für dieses Feld sind noch keine Texte gespeichert oder die Funktion ist ausgeschaltet. Jeder Text, den Sie hier eingeben, wird in die Liste aufgenommen und beim nächsten Mal vorgeschlagen.
 Mit „Autotexte bearbeiten“ können Sie die Listen aller Felder ändern und die Funktion für einzelne Felder ein- oder ausschalten.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta función inserta automáticamente los textos que se han introducido hasta ahora en este campo.
+
+Todavía no hay textos guardados para este campo o la función está desactivada. Cada texto que introduzca aquí se añade a la lista y se propone la próxima vez.
+Con «Editar textos automáticos» puede modificar las listas de todos los campos y activar o desactivar la función para cada campo.</translation>
     </message>
     <message>
         <source>Autotexte bearbeiten</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar textos automáticos</translation>
     </message>
     <message>
         <source>Schließen</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Diese Meldung nicht mehr anzeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>No volver a mostrar este mensaje</translation>
     </message>
 </context>
 <context>
     <name>KalCompleterDialog</name>
     <message>
         <source>Autovervollständigen bearbeiten</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar autocompletado</translation>
     </message>
     <message>
         <source>Alle</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos</translation>
     </message>
     <message>
         <source>Keine</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguno</translation>
     </message>
     <message>
         <source>Eintrag hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir entrada</translation>
     </message>
     <message>
         <source>Eintrag löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar entrada</translation>
     </message>
     <message>
         <source>Alles löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar todo</translation>
     </message>
     <message>
         <source>Zurücksetzen</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer</translation>
     </message>
     <message>
         <source>&lt;Neuer Eintrag&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;Nueva entrada&gt;</translation>
     </message>
     <message>
         <source>Alle Completer zurücksetzen</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer todos los textos automáticos</translation>
     </message>
     <message>
         <source>Alle Completer werden auf den Auslieferungszustand zurückgesetzt.
 Alle eingegebenen Textvorschläge werden dabei gelöscht!</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los textos automáticos vuelven a su estado original.
+¡Se eliminarán todas las propuestas de texto introducidas!</translation>
     </message>
     <message>
         <source>Änderungen verwerfen</source>
-        <translation type="unfinished"></translation>
+        <translation>Descartar cambios</translation>
     </message>
     <message>
         <source>Sollen die Änderungen verworfen werden?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea descartar los cambios?</translation>
     </message>
 </context>
 <context>
@@ -157,153 +168,154 @@ Alle eingegebenen Textvorschläge werden dabei gelöscht!</source>
     <message>
         <source>Diese Funktion erlaubt das automatische Einfügen der 
 Texte, die bisher in dieses Feld eingetragen wurden.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta función inserta automáticamente los 
+textos que se han introducido hasta ahora en este campo.</translation>
     </message>
 </context>
 <context>
     <name>KalCompleterModel</name>
     <message>
         <source>Feld</source>
-        <translation type="unfinished"></translation>
+        <translation>Campo</translation>
     </message>
     <message>
         <source>Aktiv</source>
-        <translation type="unfinished"></translation>
+        <translation>Activo</translation>
     </message>
 </context>
 <context>
     <name>KalCompleterStore</name>
     <message>
         <source>Mängel</source>
-        <translation type="unfinished"></translation>
+        <translation>Defectos</translation>
     </message>
     <message>
         <source>Pläne</source>
-        <translation type="unfinished"></translation>
+        <translation>Planos</translation>
     </message>
     <message>
         <source>Fotos</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos</translation>
     </message>
     <message>
         <source>Firmen</source>
-        <translation type="unfinished"></translation>
+        <translation>Empresas</translation>
     </message>
     <message>
         <source>Kal</source>
-        <translation type="unfinished"></translation>
+        <translation>Kal</translation>
     </message>
     <message>
         <source>Beschreibung</source>
-        <translation type="unfinished"></translation>
+        <translation>Descripción</translation>
     </message>
     <message>
         <source>Typ</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Autor</source>
-        <translation type="unfinished"></translation>
+        <translation>Autor</translation>
     </message>
     <message>
         <source>Raum</source>
-        <translation type="unfinished"></translation>
+        <translation>Estancia</translation>
     </message>
     <message>
         <source>Raumbuch-Nr.</source>
-        <translation type="unfinished"></translation>
+        <translation>N.º de libro de estancias</translation>
     </message>
     <message>
         <source>Beseitigungsanweisung</source>
-        <translation type="unfinished"></translation>
+        <translation>Instrucción de subsanación</translation>
     </message>
     <message>
         <source>Priorität</source>
-        <translation type="unfinished"></translation>
+        <translation>Prioridad</translation>
     </message>
     <message>
         <source>Plan-Name oder Nummer</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre o número del plano</translation>
     </message>
     <message>
         <source>Index</source>
-        <translation type="unfinished"></translation>
+        <translation>Índice</translation>
     </message>
     <message>
         <source>Titel</source>
-        <translation type="unfinished"></translation>
+        <translation>Título</translation>
     </message>
     <message>
         <source>Kommentar</source>
-        <translation type="unfinished"></translation>
+        <translation>Comentario</translation>
     </message>
     <message>
         <source>Mangel vor Abnahme (§ 4 Nr. 7 VOB/B)</source>
-        <translation type="unfinished"></translation>
+        <translation>Defecto antes de la recepción (§ 4 n.º 7 VOB/B)</translation>
     </message>
     <message>
         <source>Gewährleistungsmangel (§ 13 Abs. 5 Nr. 1 VOB/B)</source>
-        <translation type="unfinished"></translation>
+        <translation>Defecto en garantía (§ 13 ap. 5 n.º 1 VOB/B)</translation>
     </message>
     <message>
         <source>Mangelfolgeschaden</source>
-        <translation type="unfinished"></translation>
+        <translation>Daño derivado del defecto</translation>
     </message>
     <message>
         <source>Mangel im Bestand</source>
-        <translation type="unfinished"></translation>
+        <translation>Defecto en edificio existente</translation>
     </message>
     <message>
         <source>Büro</source>
-        <translation type="unfinished"></translation>
+        <translation>Oficina</translation>
     </message>
     <message>
         <source>Küche</source>
-        <translation type="unfinished"></translation>
+        <translation>Cocina</translation>
     </message>
     <message>
         <source>WC</source>
-        <translation type="unfinished"></translation>
+        <translation>Aseo</translation>
     </message>
     <message>
         <source>Flur</source>
-        <translation type="unfinished"></translation>
+        <translation>Pasillo</translation>
     </message>
     <message>
         <source>Treppenhaus</source>
-        <translation type="unfinished"></translation>
+        <translation>Escalera</translation>
     </message>
     <message>
         <source>Zimmer</source>
-        <translation type="unfinished"></translation>
+        <translation>Habitación</translation>
     </message>
     <message>
         <source>UG-001</source>
-        <translation type="unfinished"></translation>
+        <translation>S-001</translation>
     </message>
     <message>
         <source>EG-001</source>
-        <translation type="unfinished"></translation>
+        <translation>PB-001</translation>
     </message>
     <message>
         <source>OG-001</source>
-        <translation type="unfinished"></translation>
+        <translation>P1-001</translation>
     </message>
     <message>
         <source>DG-001</source>
-        <translation type="unfinished"></translation>
+        <translation>BC-001</translation>
     </message>
     <message>
         <source>Hoch</source>
-        <translation type="unfinished"></translation>
+        <translation>Alta</translation>
     </message>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Niedrig</source>
-        <translation type="unfinished"></translation>
+        <translation>Baja</translation>
     </message>
 </context>
 <context>
@@ -311,425 +323,441 @@ Texte, die bisher in dieses Feld eingetragen wurden.</source>
     <message>
         <source>Diese Funktion erlaubt das automatische Einfügen der 
 Texte, die bisher in dieses Feld eingetragen wurden.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta función inserta automáticamente los 
+textos que se han introducido hasta ahora en este campo.</translation>
     </message>
     <message>
         <source>Zum Wörterbuch hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir al diccionario</translation>
     </message>
     <message>
         <source>Rechtschreibung prüfen</source>
-        <translation type="unfinished"></translation>
+        <translation>Revisar ortografía</translation>
     </message>
 </context>
 <context>
     <name>KalDatabaseSchema</name>
     <message>
         <source>interner Fehler</source>
-        <translation type="unfinished"></translation>
+        <translation>error interno</translation>
     </message>
     <message>
         <source>Datenbank-Initialisierung fehlgeschlagen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ha fallado la inicialización de la base de datos.</translation>
     </message>
     <message>
         <source>Datenbankfehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de base de datos</translation>
     </message>
     <message>
         <source>Neues Projekt</source>
-        <translation type="unfinished"></translation>
+        <translation>Proyecto nuevo</translation>
     </message>
     <message>
         <source>Quellor</source>
-        <translation type="unfinished"></translation>
+        <translation>Quellor</translation>
     </message>
     <message>
         <source>Pellwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Pellwick</translation>
     </message>
     <message>
         <source>www.quellor.de</source>
-        <translation type="unfinished"></translation>
+        <translation>www.quellor.de</translation>
     </message>
 </context>
 <context>
     <name>KalDateEdit</name>
     <message>
         <source>Datum auswählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir fecha</translation>
     </message>
     <message>
         <source>Format-Fehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de formato</translation>
     </message>
     <message>
         <source>Das eingegebene Datum ist nicht korrekt.
 Bitte verwenden Sie das Format %1!</source>
-        <translation type="unfinished"></translation>
+        <translation>La fecha introducida no es correcta.
+¡Utilice el formato %1!</translation>
     </message>
 </context>
 <context>
     <name>KalItemDelegate</name>
     <message>
         <source>Format-Fehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de formato</translation>
     </message>
     <message>
         <source>Das eingegebene Datum ist nicht korrekt.
 Bitte verwenden Sie das Format %1!</source>
-        <translation type="unfinished"></translation>
+        <translation>La fecha introducida no es correcta.
+¡Utilice el formato %1!</translation>
     </message>
 </context>
 <context>
     <name>KalLanguageDialog</name>
     <message>
         <source>Sprachauswahl</source>
-        <translation type="unfinished"></translation>
+        <translation>Selección de idioma</translation>
     </message>
     <message>
         <source>Sprache wählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir idioma</translation>
     </message>
     <message>
         <source>Deutsch</source>
-        <translation type="unfinished"></translation>
+        <translation>Alemán</translation>
     </message>
     <message>
         <source>Spanisch</source>
-        <translation type="unfinished"></translation>
+        <translation>Español</translation>
     </message>
     <message>
         <source>Englisch (Großbritannien)</source>
-        <translation type="unfinished"></translation>
+        <translation>Inglés (Reino Unido)</translation>
     </message>
     <message>
         <source>Englisch (USA)</source>
-        <translation type="unfinished"></translation>
+        <translation>Inglés (EE. UU.)</translation>
     </message>
     <message>
         <source>Die gewählte Sprache wird nach einem Neustart der Anwendung aktiviert.</source>
-        <translation type="unfinished"></translation>
+        <translation>El idioma elegido se activa después de reiniciar la aplicación.</translation>
     </message>
     <message>
         <source>Sprache wurde geändert</source>
-        <translation type="unfinished"></translation>
+        <translation>Se ha cambiado el idioma</translation>
     </message>
     <message>
         <source>Soll das Programm jetzt neu gestartet werden?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea reiniciar el programa ahora?</translation>
     </message>
     <message>
         <source>(Die neue Spracheinstellung erfordert einen Programm-Neustart)</source>
-        <translation type="unfinished"></translation>
+        <translation>(La nueva configuración de idioma requiere reiniciar el programa)</translation>
     </message>
     <message>
         <source>Jetzt neu starten</source>
-        <translation type="unfinished"></translation>
+        <translation>Reiniciar ahora</translation>
     </message>
     <message>
         <source>Später neu starten</source>
-        <translation type="unfinished"></translation>
+        <translation>Reiniciar más tarde</translation>
     </message>
 </context>
 <context>
     <name>KalMainWindow</name>
     <message>
         <source>Fehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Error</translation>
     </message>
     <message>
         <source>Beim Erstellen eines neuen Projekts ist ein Fehler aufgetreten!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Se ha producido un error al crear un proyecto nuevo!</translation>
     </message>
     <message>
         <source>Neu</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo</translation>
     </message>
     <message>
         <source>Neues Projekt anlegen</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear un proyecto nuevo</translation>
     </message>
     <message>
         <source>Öffnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>Projekt öffnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir proyecto</translation>
     </message>
     <message>
         <source>Speichern</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Projekt speichern</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar proyecto</translation>
     </message>
     <message>
         <source>Speichern unter</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como</translation>
     </message>
     <message>
         <source>Projekt unter einem neuen Namen speichern</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar el proyecto con un nombre nuevo</translation>
     </message>
     <message>
         <source>Datenbank bereinigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Depurar base de datos</translation>
     </message>
     <message>
         <source>Mangel hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir defecto</translation>
     </message>
     <message>
         <source>neue Mängel</source>
-        <translation type="unfinished"></translation>
+        <translation>nuevos defectos</translation>
     </message>
     <message>
         <source>Pläne</source>
-        <translation type="unfinished"></translation>
+        <translation>Planos</translation>
     </message>
     <message>
         <source>Planverwaltung öffnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir gestión de planos</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>Statusverwaltung öffnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir gestión de estados</translation>
     </message>
     <message>
         <source>Projektdaten bearbeiten</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar datos del proyecto</translation>
     </message>
     <message>
         <source>Firmenliste bearbeiten</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar lista de empresas</translation>
     </message>
     <message>
         <source>Firmendaten Ausgabeformat</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato de salida de los datos de empresa</translation>
     </message>
     <message>
         <source>Logo hinzufügen / bearbeiten</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir / editar logotipo</translation>
     </message>
     <message>
         <source>Mängelliste kompakt</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de defectos compacta</translation>
     </message>
     <message>
         <source>Mängelliste detailliert</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de defectos detallada</translation>
     </message>
     <message>
         <source>Druckvorschau</source>
-        <translation type="unfinished"></translation>
+        <translation>Vista previa de impresión</translation>
     </message>
     <message>
         <source>Mängel und Firmen aus einem Bautagebuch importieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar defectos y empresas de un diario de obra</translation>
     </message>
     <message>
         <source>Mängel und Firmen aus dem Bautagebuch aktualisieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizar defectos y empresas desde el diario de obra</translation>
     </message>
     <message>
         <source>Automatischen Import neuer Mängel und Firmen einschalten</source>
-        <translation type="unfinished"></translation>
+        <translation>Activar la importación automática de defectos y empresas nuevos</translation>
     </message>
     <message>
         <source>Automatischen Import und Aktualisierung vorhandener Mängel und Firmen einschalten</source>
-        <translation type="unfinished"></translation>
+        <translation>Activar la importación y actualización automáticas de defectos y empresas existentes</translation>
     </message>
     <message>
         <source>Mängel und Firmen aus der Quellor App importieren
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Importar defectos y empresas de la app de Quellor
+</translation>
     </message>
     <message>
         <source>Importiert Mängel aus der Quellor App</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa defectos de la app de Quellor</translation>
     </message>
     <message>
         <source>Import von Firmen aus anderer Pellwick-Datei</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar empresas de otro archivo de Pellwick</translation>
     </message>
     <message>
         <source>Import von Firmen aus Quellor Bautagebuch</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar empresas del diario de obra de Quellor</translation>
     </message>
     <message>
         <source>Import von Firmen aus externer Adress-Datei</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar empresas de un archivo de direcciones externo</translation>
     </message>
     <message>
         <source>Sprache wählen</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir idioma</translation>
     </message>
     <message>
         <source>Texte ändern - Eingabe</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar textos - entrada</translation>
     </message>
     <message>
         <source>Plangröße</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño de los planos</translation>
     </message>
     <message>
         <source>Fotogröße</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño de las fotos</translation>
     </message>
     <message>
         <source>Standardmarker</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcador estándar</translation>
     </message>
     <message>
         <source>Mängeltexte im Plan</source>
-        <translation type="unfinished"></translation>
+        <translation>Textos de defectos en el plano</translation>
     </message>
     <message>
         <source>Wie übernehme ich Mängel und
 Firmen aus einem Bautagebuch?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Cómo transfiero defectos y
+empresas de un diario de obra?</translation>
     </message>
     <message>
         <source>Wie übernehme ich Mängel und Firmen
 von einem Mobilgerät?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Cómo transfiero defectos y empresas
+desde un dispositivo móvil?</translation>
     </message>
     <message>
         <source>Info über Pellwick</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de Pellwick</translation>
     </message>
     <message>
         <source>Auf Updates prüfen</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar actualizaciones</translation>
     </message>
     <message>
         <source>Datei</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo</translation>
     </message>
     <message>
         <source>Vorherige Dateien...</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos recientes...</translation>
     </message>
     <message>
         <source>Bearbeiten</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar</translation>
     </message>
     <message>
         <source>Stammdaten</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos maestros</translation>
     </message>
     <message>
         <source>Drucken</source>
-        <translation type="unfinished"></translation>
+        <translation>Imprimir</translation>
     </message>
     <message>
         <source>Datenimport</source>
-        <translation type="unfinished"></translation>
+        <translation>Importación de datos</translation>
     </message>
     <message>
         <source>Einstellungen</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración</translation>
     </message>
     <message>
         <source>Hilfe</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
     </message>
     <message>
         <source>Symbolleiste</source>
-        <translation type="unfinished"></translation>
+        <translation>Barra de herramientas</translation>
     </message>
     <message>
         <source>Alle Spalten anzeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar todas las columnas</translation>
     </message>
     <message>
         <source>An Fenstergröße anpassen</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustar a la ventana</translation>
     </message>
     <message>
         <source>Hinweise zum Zoomen</source>
-        <translation type="unfinished"></translation>
+        <translation>Indicaciones para el zoom</translation>
     </message>
     <message>
         <source>Neues Pellwick-Projekt</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuevo proyecto de Pellwick</translation>
     </message>
     <message>
         <source>Pellwick-Projekt - %0</source>
-        <translation type="unfinished"></translation>
+        <translation>Proyecto de Pellwick - %0</translation>
     </message>
     <message>
         <source>Projekt:</source>
-        <translation type="unfinished"></translation>
+        <translation>Proyecto:</translation>
     </message>
     <message>
         <source>Automatischen Import neuer Mängel und Firmen ausschalten</source>
-        <translation type="unfinished"></translation>
+        <translation>Desactivar la importación automática de defectos y empresas nuevos</translation>
     </message>
     <message>
         <source>Automatischen Import und Aktualisierung vorhandener Mängel und Firmen ausschalten</source>
-        <translation type="unfinished"></translation>
+        <translation>Desactivar la importación y actualización automáticas de defectos y empresas existentes</translation>
     </message>
     <message>
         <source>Hilfetexte ausschalten</source>
-        <translation type="unfinished"></translation>
+        <translation>Desactivar textos de ayuda</translation>
     </message>
     <message>
         <source>Hilfetexte einschalten</source>
-        <translation type="unfinished"></translation>
+        <translation>Activar textos de ayuda</translation>
     </message>
     <message>
         <source>Öffnet die Datei %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre el archivo %1</translation>
     </message>
     <message>
         <source>Spalten ausblenden</source>
-        <translation type="unfinished"></translation>
+        <translation>Ocultar columnas</translation>
     </message>
     <message>
         <source>Alle Spalten einblenden</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar todas las columnas</translation>
     </message>
     <message>
         <source>Dieser Mangel ist in keinem Plan verortet.
 Mit einem Doppelklick in dieses Fenster können Sie dem Mangel einen Plan zuordnen.
 Mit einem Doppelklick auf einen Mangel können Sie diesen Mangel bearbeiten.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Este defecto no está ubicado en ningún plano.
+Con un doble clic en esta ventana puede asignar un plano al defecto.
+Con un doble clic en un defecto puede editarlo.
+</translation>
     </message>
     <message>
         <source>Mit dem Mausrad vergrößern und verkleinern Sie den Plan.
 Mit gedrückter linker Maustaste verschieben Sie den Ausschnitt.
 &quot;An Fenstergröße anpassen&quot; zeigt den ganzen Plan.</source>
-        <translation type="unfinished"></translation>
+        <translation>Con la rueda del ratón amplía y reduce el plano.
+Manteniendo pulsado el botón izquierdo del ratón desplaza la vista.
+«Ajustar a la ventana» muestra el plano completo.</translation>
     </message>
     <message>
         <source>Plan des gewählten Mangels.
 Mausrad: vergrößern und verkleinern.
 Doppelklick: Plan zuordnen oder im Plan verorten.</source>
-        <translation type="unfinished"></translation>
+        <translation>Plano del defecto seleccionado.
+Rueda del ratón: ampliar y reducir.
+Doble clic: asignar un plano o ubicar el defecto en el plano.</translation>
     </message>
     <message>
         <source>Liste der Mängel des Projekts.
 Doppelklick auf einen Mangel: bearbeiten.
 Klick auf eine Spaltenüberschrift: sortieren.
 Die Knöpfe oben links fügen Mängel hinzu, kopieren oder löschen sie.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de los defectos del proyecto.
+Doble clic en un defecto: editar.
+Clic en el encabezado de una columna: ordenar.
+Los botones de arriba a la izquierda añaden, copian o eliminan defectos.</translation>
     </message>
     <message>
         <source>Pellwick Projekt (*.pwp)</source>
-        <translation type="unfinished"></translation>
+        <translation>Proyecto de Pellwick (*.pwp)</translation>
     </message>
     <message>
         <source>Abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Das Projekt kann nicht gespeichert werden, da die Datei
@@ -737,15 +765,19 @@ Die Knöpfe oben links fügen Mängel hinzu, kopieren oder löschen sie.</source
 schreibgeschützt ist.
 
 Möchten Sie die Änderungen in einer neuen Datei speichern?</source>
-        <translation type="unfinished"></translation>
+        <translation>El proyecto no se puede guardar porque el archivo
+%1
+está protegido contra escritura.
+
+¿Desea guardar los cambios en un archivo nuevo?</translation>
     </message>
     <message>
         <source>Projekt geändert</source>
-        <translation type="unfinished"></translation>
+        <translation>Proyecto modificado</translation>
     </message>
     <message>
         <source>Das Projekt wurde geändert. Möchten Sie die Änderungen speichern?</source>
-        <translation type="unfinished"></translation>
+        <translation>El proyecto se ha modificado. ¿Desea guardar los cambios?</translation>
     </message>
     <message>
         <source>Das Projekt wurde geändert.
@@ -754,33 +786,40 @@ Die Datei
 ist jedoch schreibgeschützt.
 
 Möchten Sie die Änderungen in einer neuen Datei speichern?</source>
-        <translation type="unfinished"></translation>
+        <translation>El proyecto se ha modificado.
+Sin embargo, el archivo 
+%1
+está protegido contra escritura.
+
+¿Desea guardar los cambios en un archivo nuevo?</translation>
     </message>
     <message>
         <source>Datei speichern</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar archivo</translation>
     </message>
     <message>
         <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Se ha producido un error al guardar el proyecto!</translation>
     </message>
     <message>
         <source>Beim Schließen des Projekts ist ein Fehler aufgetreten!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Se ha producido un error al cerrar el proyecto!</translation>
     </message>
     <message>
         <source>Dateifehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de archivo</translation>
     </message>
     <message>
         <source>Die Datei
 %1
 existiert nicht.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo
+%1
+no existe.</translation>
     </message>
     <message>
         <source>Beim Öffnen des gewählten Projekts ist ein Fehler aufgetreten!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡Se ha producido un error al abrir el proyecto elegido!</translation>
     </message>
     <message>
         <source>Verringern der Datenbankgröße durch Bereinigung der Datenbank
@@ -788,271 +827,310 @@ existiert nicht.</source>
 Beim Löschen von Daten wird die Datenbank-Datei fragmentiert: Der frei gewordene Platz bleibt in der Datei erhalten. Die Bereinigung ordnet die Daten der Tabellen zusammenhängend an und organisiert die Datei neu.
 
 Dadurch kann die Datei erheblich kleiner werden, vor allem nachdem Fotos gelöscht wurden.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reducir el tamaño de la base de datos mediante su depuración
+
+Al eliminar datos, el archivo de la base de datos se fragmenta: el espacio liberado permanece en el archivo. La depuración ordena los datos de las tablas de forma contigua y reorganiza el archivo.
+
+De este modo el archivo puede reducirse considerablemente, sobre todo después de eliminar fotos.</translation>
     </message>
     <message>
         <source>Das Projekt wurde noch nicht gespeichert.
 Sie müssen das Projekt vor der Bereinigung der Datenbank speichern.</source>
-        <translation type="unfinished"></translation>
+        <translation>El proyecto todavía no se ha guardado.
+Debe guardar el proyecto antes de depurar la base de datos.</translation>
     </message>
     <message>
         <source>Neues Projekt</source>
-        <translation type="unfinished"></translation>
+        <translation>Proyecto nuevo</translation>
     </message>
     <message>
         <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!
 Die Datenbank konnte nicht bereinigt werden.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>¡Se ha producido un error al guardar el proyecto!
+No se ha podido depurar la base de datos.
+</translation>
     </message>
     <message>
         <source>Das Projekt wurde geändert.
 Vor dem Bereinigen der Datenbank werden die Änderungen gespeichert.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>El proyecto se ha modificado.
+Los cambios se guardarán antes de depurar la base de datos.
+</translation>
     </message>
     <message>
         <source>Speichern und Bereinigen der Datenbank</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar y depurar la base de datos</translation>
     </message>
     <message>
         <source>Info</source>
-        <translation type="unfinished"></translation>
+        <translation>Información</translation>
     </message>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión %1</translation>
     </message>
 </context>
 <context>
     <name>KalMessageBoxPrompt</name>
     <message>
         <source>Diese Meldung nicht mehr anzeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>No volver a mostrar este mensaje</translation>
     </message>
 </context>
 <context>
     <name>KalProgressDialog</name>
     <message>
         <source>Bitte warten...</source>
-        <translation type="unfinished"></translation>
+        <translation>Espere, por favor...</translation>
     </message>
 </context>
 <context>
     <name>KalProject</name>
     <message>
         <source>Dateifehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de archivo</translation>
     </message>
     <message>
         <source>Löschen der Datei
 %1
  fehlgeschlagen.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido eliminar el archivo
+%1
+.</translation>
     </message>
     <message>
         <source>Datenbankfehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de base de datos</translation>
     </message>
     <message>
         <source>unbekannt</source>
-        <translation type="unfinished"></translation>
+        <translation>desconocido</translation>
     </message>
     <message>
         <source>Die Datei konnte nicht geöffnet werden, da sie in Bearbeitung ist von
 User: %1
 Computer: %2
 seit dem %3 %4 Uhr.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido abrir el archivo porque lo está editando
+Usuario: %1
+Ordenador: %2
+desde el %3 a las %4.</translation>
     </message>
     <message>
         <source>Die Datei konnte nicht geöffnet werden, da sie in Bearbeitung ist.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido abrir el archivo porque se está editando.</translation>
     </message>
     <message>
         <source>Datenbank in Bearbeitung</source>
-        <translation type="unfinished"></translation>
+        <translation>Base de datos en uso</translation>
     </message>
     <message>
         <source>Datei öffnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir archivo</translation>
     </message>
     <message>
         <source>Die letzte Bearbeitung der Mängel-Datei wurde nicht ordnungsgemäß abgeschlossen.
 Der letzte Bearbeitungsstand wird geöffnet. Speichern Sie die Datei, wenn Sie diesen Stand behalten wollen.</source>
-        <translation type="unfinished"></translation>
+        <translation>La última edición del archivo de defectos no se cerró correctamente.
+Se abre el último estado de edición. Guarde el archivo si desea conservar este estado.</translation>
     </message>
     <message>
         <source>Die Datei
 %1
 existiert nicht.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo
+%1
+no existe.</translation>
     </message>
     <message>
         <source>Die Datei kann nicht geöffnet werden, da sie mit einer neueren Programmversion erstellt wurde.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo no se puede abrir porque se creó con una versión más reciente del programa.</translation>
     </message>
     <message>
         <source>Tabelle KAL fehlt</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta la tabla KAL</translation>
     </message>
     <message>
         <source>Die interne Struktur der Mängel-Datenbank ist beschädigt.
 Wenn Sie mit dieser Datenbank weiterarbeiten, drohen Datenverluste!
 </source>
-        <translation type="unfinished"></translation>
+        <translation>La estructura interna de la base de datos de defectos está dañada.
+¡Si sigue trabajando con esta base de datos, puede perder datos!
+</translation>
     </message>
     <message>
         <source>Beschädigte Datenbank-Datei</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de base de datos dañado</translation>
     </message>
     <message>
         <source>Backup wiederherstellen</source>
-        <translation type="unfinished"></translation>
+        <translation>Restaurar copia de seguridad</translation>
     </message>
     <message>
         <source>Beschädigte Datei öffnen</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir archivo dañado</translation>
     </message>
     <message>
         <source>Das neueste unbeschädigte Backup stammt vom %1.
 Soll dieses Backup wiederhergestellt werden (empfohlen)?</source>
-        <translation type="unfinished"></translation>
+        <translation>La copia de seguridad intacta más reciente es del %1.
+¿Desea restaurar esta copia de seguridad (recomendado)?</translation>
     </message>
     <message>
         <source>Es existieren keine Backup-Dateien. Wenn sie über Sicherungskopien dieser Datei verfügen, stellen Sie diese wieder her.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>No existen archivos de copia de seguridad. Si dispone de copias de seguridad de este archivo, restáurelas.
+</translation>
     </message>
     <message>
         <source>Die Backup-Dateien sind ebenfalls beschädigt. Wenn sie über Sicherungskopien dieser Datei verfügen, stellen Sie diese wieder her.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>Los archivos de copia de seguridad también están dañados. Si dispone de copias de seguridad de este archivo, restáurelas.
+</translation>
     </message>
     <message>
         <source>Abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Die Datei konnte nicht wiederhegestellt werden.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido restaurar el archivo.
+</translation>
     </message>
     <message>
         <source>Die Datei wurde erfolgreich wiederhergestellt und wird jetzt geöffnet.
 Die beschädigte Datei wurde umbenannt in %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo se ha restaurado correctamente y se abre ahora.
+El archivo dañado se ha renombrado a %2.</translation>
     </message>
     <message>
         <source>Speicherplatz nicht ausreichend</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio de almacenamiento insuficiente</translation>
     </message>
     <message>
         <source>Auf dem Laufwerk %1 steht nicht genügend Speicherplatz zur Verfügung, um das Projekt zu öffnen.
 Geben Sie mindestens %2 MB Speicherplatz frei und versuchen Sie es erneut.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay suficiente espacio en la unidad %1 para abrir el proyecto.
+Libere al menos %2 MB e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>Speicherplatz</source>
-        <translation type="unfinished"></translation>
+        <translation>Espacio de almacenamiento</translation>
     </message>
     <message>
         <source>Sie sollten auf dem Laufwerk %1 Speicherplatz freigeben, da es sonst zu Problemen beim Speichern des Projekts kommen kann.</source>
-        <translation type="unfinished"></translation>
+        <translation>Debería liberar espacio en la unidad %1; de lo contrario pueden surgir problemas al guardar el proyecto.</translation>
     </message>
     <message>
         <source>Projekt wird geöffnet...</source>
-        <translation type="unfinished"></translation>
+        <translation>Abriendo el proyecto...</translation>
     </message>
     <message>
         <source>Die Working Copy Datei konnte nicht erstellt werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido crear el archivo de copia de trabajo.</translation>
     </message>
     <message>
         <source>Datei-Warnung</source>
-        <translation type="unfinished"></translation>
+        <translation>Advertencia de archivo</translation>
     </message>
     <message>
         <source>Sie haben keine Schreibrechte für die Datei %1.
 Wenn Sie die Datei speichern wollen, können Sie dies nur unter einem anderen Namen oder in einen anderen Ordner.
 Wählen Sie hierzu im Menü &apos;Datei&apos; den Menüpunkt &apos;Speichern unter&apos;.</source>
-        <translation type="unfinished"></translation>
+        <translation>No tiene permiso de escritura para el archivo %1.
+Si desea guardar el archivo, solo puede hacerlo con otro nombre o en otra carpeta.
+Para ello, elija &apos;Guardar como&apos; en el menú &apos;Archivo&apos;.</translation>
     </message>
     <message>
         <source>Die Datei %1 konnte nicht in %2 umbenannt werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido renombrar el archivo %1 a %2.</translation>
     </message>
     <message>
         <source>Fehler beim Kopieren der Backup-Datei %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al copiar el archivo de copia de seguridad %1.</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>Speicher-Fehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al guardar</translation>
     </message>
     <message>
         <source>Sie können die Datei %1 nicht speichern, da sie keine Schreibrechte besitzen.
 Wählen Sie im Menü &apos;Datei&apos; den Menüpunkt &apos;Speichern unter&apos;,
 um die Datei unter einem anderen Namen oder in einen anderen Ordner zu speichern.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>No puede guardar el archivo %1 porque no tiene permiso de escritura.
+Elija &apos;Guardar como&apos; en el menú &apos;Archivo&apos;
+para guardar el archivo con otro nombre o en otra carpeta.
+</translation>
     </message>
     <message>
         <source>Projekt wird gespeichert...</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardando el proyecto...</translation>
     </message>
     <message>
         <source>interner Fehler</source>
-        <translation type="unfinished"></translation>
+        <translation>error interno</translation>
     </message>
     <message>
         <source>Dateiname fehlt.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el nombre del archivo.</translation>
     </message>
     <message>
         <source>Auf dem Ziellaufwerk %1 steht nicht genügend Speicherplatz zur Verfügung, um das Projekt zu speichern.
 Geben Sie mindestens %2 MB Speicherplatz frei und versuchen Sie es erneut.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay suficiente espacio en la unidad de destino %1 para guardar el proyecto.
+Libere al menos %2 MB e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>Löschen der Backup-Datei
 %1
  fehlgeschlagen.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido eliminar el archivo de copia de seguridad
+%1
+.</translation>
     </message>
     <message>
         <source>Kopieren der Datei
 %1
  fehlgeschlagen.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido copiar el archivo
+%1
+.</translation>
     </message>
     <message>
         <source>Umbenennen der Backup-Datei
 %1
  fehlgeschlagen.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido renombrar el archivo de copia de seguridad
+%1
+.</translation>
     </message>
     <message>
         <source>Die Datei
 %1
 konnte nicht gelöscht werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido eliminar el archivo
+%1
+.</translation>
     </message>
     <message>
         <source>Fehler beim Kopieren der Working Copy Datei.</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al copiar el archivo de copia de trabajo.</translation>
     </message>
     <message>
         <source>Datenbank bereinigen</source>
-        <translation type="unfinished"></translation>
+        <translation>Depurar base de datos</translation>
     </message>
     <message>
         <source>Die Datenbank wird jetzt bereinigt.
@@ -1060,426 +1138,448 @@ Dieser Vorgang kann für größere Datenbanken mehrere Minuten dauern.
 
 Unterbrechen Sie diesen Vorgang nicht und schalten Sie den Computer nicht aus.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>La base de datos se está depurando.
+En bases de datos grandes este proceso puede tardar varios minutos.
+
+No interrumpa este proceso ni apague el ordenador.
+</translation>
     </message>
     <message>
         <source>Aufgrund eines SQL-Fehlers konnte die Datenbank nicht bereinigt werden.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido depurar la base de datos debido a un error de SQL.</translation>
     </message>
     <message>
         <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!
 Die Datenbank konnte nicht bereinigt werden.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>¡Se ha producido un error al guardar el proyecto!
+No se ha podido depurar la base de datos.
+</translation>
     </message>
     <message>
         <source>Die Datenbank wurde erfolgreich bereinigt.
 </source>
-        <translation type="unfinished"></translation>
+        <translation>La base de datos se ha depurado correctamente.
+</translation>
     </message>
     <message>
         <source>Die Datenbank wurde erfolgreich bereinigt.
 Die Dateigröße wurde von %1 auf %2 reduziert.</source>
-        <translation type="unfinished"></translation>
+        <translation>La base de datos se ha depurado correctamente.
+El tamaño del archivo se ha reducido de %1 a %2.</translation>
     </message>
 </context>
 <context>
     <name>KalPrompt</name>
     <message>
         <source>Ja</source>
-        <translation type="unfinished"></translation>
+        <translation>Sí</translation>
     </message>
     <message>
         <source>Nein</source>
-        <translation type="unfinished"></translation>
+        <translation>No</translation>
     </message>
     <message>
         <source>Abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Speichern</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Verwerfen</source>
-        <translation type="unfinished"></translation>
+        <translation>Descartar</translation>
     </message>
 </context>
 <context>
     <name>KalShortHelpDialog</name>
     <message>
         <source>Schließen</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Anleitung für den Datenimport aus einem Bautagebuch</source>
-        <translation type="unfinished"></translation>
+        <translation>Guía para importar datos de un diario de obra</translation>
     </message>
     <message>
         <source>Anleitung für den Datenimport von einem Mobilgerät</source>
-        <translation type="unfinished"></translation>
+        <translation>Guía para importar datos desde un dispositivo móvil</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Datenimport aus dem Bautagebuch für PC und Mac&lt;/h3&gt;&lt;p&gt;Das Bautagebuch ist die Datenquelle: Mängel, die Sie dort in Ihren Berichten erfassen, werden mit ihren Mängelfotos und den beteiligten Firmen in das Pellwick-Projekt übernommen.&lt;/p&gt;&lt;ol&gt;&lt;li&gt;Öffnen oder erstellen Sie das Pellwick-Projekt für die Baustelle.&lt;/li&gt;&lt;li&gt;Wählen Sie im Menü &quot;Datenimport&quot; den Eintrag &quot;Mängel und Firmen aus einem Bautagebuch importieren&quot; und wählen Sie die Bautagebuch-Datei (*.sjd) aus.&lt;/li&gt;&lt;li&gt;Das Projekt bleibt mit dem Bautagebuch verbunden: Später übernehmen Sie neue und geänderte Mängel mit &quot;Mängel und Firmen aus dem Bautagebuch aktualisieren&quot; oder automatisch.&lt;/li&gt;&lt;/ol&gt;&lt;p&gt;Mängel, die Sie im Pellwick-Projekt bearbeitet haben, werden beim Aktualisieren nicht überschrieben.&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Importación de datos del diario de obra para PC y Mac&lt;/h3&gt;&lt;p&gt;El diario de obra es la fuente de datos: los defectos que registra allí en sus informes se transfieren al proyecto de Pellwick junto con sus fotos y las empresas implicadas.&lt;/p&gt;&lt;ol&gt;&lt;li&gt;Abra o cree el proyecto de Pellwick de la obra.&lt;/li&gt;&lt;li&gt;En el menú «Importación de datos» elija «Importar defectos y empresas de un diario de obra» y seleccione el archivo del diario de obra (*.sjd).&lt;/li&gt;&lt;li&gt;El proyecto queda vinculado al diario de obra: más adelante transfiere los defectos nuevos y modificados con «Actualizar defectos y empresas desde el diario de obra» o de forma automática.&lt;/li&gt;&lt;/ol&gt;&lt;p&gt;Los defectos que haya editado en el proyecto de Pellwick no se sobrescriben al actualizar.&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&lt;h3&gt;Datenimport von einem Mobilgerät&lt;/h3&gt;&lt;p&gt;Mängel, Mängelfotos und Firmen können Sie auf der Baustelle mit der Quellor App auf einem Smartphone oder Tablet erfassen und anschließend in das Pellwick-Projekt importieren.&lt;/p&gt;&lt;ol&gt;&lt;li&gt;Übertragen Sie die Datenbank der App auf Ihren Computer.&lt;/li&gt;&lt;li&gt;Wählen Sie im Menü &quot;Datenimport&quot; den Eintrag &quot;Mängel und Firmen aus der Quellor App importieren&quot; und wählen Sie die übertragene Datei aus.&lt;/li&gt;&lt;li&gt;Die Mängel werden mit ihren Fotos und Firmen in das geöffnete Projekt übernommen.&lt;/li&gt;&lt;/ol&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h3&gt;Importación de datos desde un dispositivo móvil&lt;/h3&gt;&lt;p&gt;Puede registrar defectos, fotos de defectos y empresas en la obra con la app de Quellor en un smartphone o una tableta e importarlos después al proyecto de Pellwick.&lt;/p&gt;&lt;ol&gt;&lt;li&gt;Transfiera la base de datos de la app a su ordenador.&lt;/li&gt;&lt;li&gt;En el menú «Importación de datos» elija «Importar defectos y empresas de la app de Quellor» y seleccione el archivo transferido.&lt;/li&gt;&lt;li&gt;Los defectos se transfieren al proyecto abierto junto con sus fotos y empresas.&lt;/li&gt;&lt;/ol&gt;</translation>
     </message>
 </context>
 <context>
     <name>KalSpellChecker</name>
     <message>
         <source>Wörterbuch-Datei %1 existiert nicht.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo de diccionario %1 no existe.</translation>
     </message>
     <message>
         <source>Speicherfehler beim Anlegen des Moduls Rechtschreibprüfung. Bitte kontaktieren Sie den Softwarehersteller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de memoria al crear el módulo de corrección ortográfica. Póngase en contacto con el fabricante del software.</translation>
     </message>
     <message>
         <source>Fehler beim Initialisieren des Moduls Rechtschreibprüfung. Bitte kontaktieren Sie den Softwarehersteller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Error al inicializar el módulo de corrección ortográfica. Póngase en contacto con el fabricante del software.</translation>
     </message>
     <message>
         <source>Dateifehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de archivo</translation>
     </message>
     <message>
         <source>Anwender-Wörterbuch in %1 konnte nicht geöffnet werden</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido abrir el diccionario del usuario en %1</translation>
     </message>
     <message>
         <source>Anwender-Wörterbuch in %1 konnte nicht geöffnet werden.
 (Evtl. fehlende Schreibrechte)
 Hinzufügen des Wortes nicht möglich!</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido abrir el diccionario del usuario en %1.
+(Puede que falten permisos de escritura)
+¡No es posible añadir la palabra!</translation>
     </message>
     <message>
         <source>Fehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Error</translation>
     </message>
     <message>
         <source>Ordner %1 
 zum Speichern der Wörterbücher konnte nicht angelegt werden!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡No se ha podido crear la carpeta %1 
+para guardar los diccionarios!</translation>
     </message>
     <message>
         <source>Das Modul Rechtschreibprüfung ist nicht geladen!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡El módulo de corrección ortográfica no está cargado!</translation>
     </message>
     <message>
         <source>Rechtschreibprüfung aus</source>
-        <translation type="unfinished"></translation>
+        <translation>Desactivar corrección ortográfica</translation>
     </message>
     <message>
         <source>Rechtschreibprüfung ein</source>
-        <translation type="unfinished"></translation>
+        <translation>Activar corrección ortográfica</translation>
     </message>
 </context>
 <context>
     <name>KalSpellCheckerDialog</name>
     <message>
         <source>Rechtschreibprüfung</source>
-        <translation type="unfinished"></translation>
+        <translation>Corrección ortográfica</translation>
     </message>
     <message>
         <source>Nicht im Wörterbuch:</source>
-        <translation type="unfinished"></translation>
+        <translation>No está en el diccionario:</translation>
     </message>
     <message>
         <source>Ersetzen durch:</source>
-        <translation type="unfinished"></translation>
+        <translation>Reemplazar por:</translation>
     </message>
     <message>
         <source>Vorschläge:</source>
-        <translation type="unfinished"></translation>
+        <translation>Sugerencias:</translation>
     </message>
     <message>
         <source>Ignorieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorar</translation>
     </message>
     <message>
         <source>Alle ignorieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Ignorar todo</translation>
     </message>
     <message>
         <source>Ändern</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar</translation>
     </message>
     <message>
         <source>Alle ändern</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar todo</translation>
     </message>
     <message>
         <source>Zum Wörterbuch hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir al diccionario</translation>
     </message>
     <message>
         <source>Abbrechen</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Fehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Error</translation>
     </message>
     <message>
         <source>Das Modul Rechtschreibprüfung ist nicht geladen!</source>
-        <translation type="unfinished"></translation>
+        <translation>¡El módulo de corrección ortográfica no está cargado!</translation>
     </message>
     <message>
         <source>Die Rechtschreibprüfung konnte keinen Fehler finden.</source>
-        <translation type="unfinished"></translation>
+        <translation>La corrección ortográfica no ha encontrado ningún error.</translation>
     </message>
     <message>
         <source>Die Rechtschreibprüfung ist beendet.</source>
-        <translation type="unfinished"></translation>
+        <translation>La corrección ortográfica ha finalizado.</translation>
     </message>
 </context>
 <context>
     <name>KalSqlError</name>
     <message>
         <source>Datenbankfehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Error de base de datos</translation>
     </message>
 </context>
 <context>
     <name>KalSqlTableModel</name>
     <message>
         <source>Nr.</source>
-        <translation type="unfinished"></translation>
+        <translation>N.º</translation>
     </message>
     <message>
         <source>Beschreibung</source>
-        <translation type="unfinished"></translation>
+        <translation>Descripción</translation>
     </message>
     <message>
         <source>Firma</source>
-        <translation type="unfinished"></translation>
+        <translation>Empresa</translation>
     </message>
     <message>
         <source>Typ</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipo</translation>
     </message>
     <message>
         <source>Autor</source>
-        <translation type="unfinished"></translation>
+        <translation>Autor</translation>
     </message>
     <message>
         <source>Erfasst am</source>
-        <translation type="unfinished"></translation>
+        <translation>Registrado el</translation>
     </message>
     <message>
         <source>Raum</source>
-        <translation type="unfinished"></translation>
+        <translation>Estancia</translation>
     </message>
     <message>
         <source>Raumbuch-Nr.</source>
-        <translation type="unfinished"></translation>
+        <translation>N.º de libro de estancias</translation>
     </message>
     <message>
         <source>Plan</source>
-        <translation type="unfinished"></translation>
+        <translation>Plano</translation>
     </message>
     <message>
         <source>Fotos</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotos</translation>
     </message>
     <message>
         <source>Beseitigungsanweisung</source>
-        <translation type="unfinished"></translation>
+        <translation>Instrucción de subsanación</translation>
     </message>
     <message>
         <source>Priorität</source>
-        <translation type="unfinished"></translation>
+        <translation>Prioridad</translation>
     </message>
     <message>
         <source>Frist</source>
-        <translation type="unfinished"></translation>
+        <translation>Plazo</translation>
     </message>
     <message>
         <source>1. Nachfrist</source>
-        <translation type="unfinished"></translation>
+        <translation>1.ª prórroga</translation>
     </message>
     <message>
         <source>2. Nachfrist</source>
-        <translation type="unfinished"></translation>
+        <translation>2.ª prórroga</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado</translation>
     </message>
     <message>
         <source>Minderung</source>
-        <translation type="unfinished"></translation>
+        <translation>Reducción de precio</translation>
     </message>
     <message>
         <source>Farbe</source>
-        <translation type="unfinished"></translation>
+        <translation>Color</translation>
     </message>
     <message>
         <source>Plan-Name oder Nummer</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre o número del plano</translation>
     </message>
     <message>
         <source>Index</source>
-        <translation type="unfinished"></translation>
+        <translation>Índice</translation>
     </message>
     <message>
         <source>Datum</source>
-        <translation type="unfinished"></translation>
+        <translation>Fecha</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición</translation>
     </message>
     <message>
         <source>Titel</source>
-        <translation type="unfinished"></translation>
+        <translation>Título</translation>
     </message>
     <message>
         <source>Kommentar</source>
-        <translation type="unfinished"></translation>
+        <translation>Comentario</translation>
     </message>
     <message>
         <source>Gewerk</source>
-        <translation type="unfinished"></translation>
+        <translation>Oficio</translation>
     </message>
     <message>
         <source>Vorname</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Nachname</source>
-        <translation type="unfinished"></translation>
+        <translation>Apellidos</translation>
     </message>
     <message>
         <source>Straße</source>
-        <translation type="unfinished"></translation>
+        <translation>Calle</translation>
     </message>
     <message>
         <source>PLZ</source>
-        <translation type="unfinished"></translation>
+        <translation>C.P.</translation>
     </message>
     <message>
         <source>Stadt</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciudad</translation>
     </message>
     <message>
         <source>Telefon</source>
-        <translation type="unfinished"></translation>
+        <translation>Teléfono</translation>
     </message>
     <message>
         <source>Fax</source>
-        <translation type="unfinished"></translation>
+        <translation>Fax</translation>
     </message>
     <message>
         <source>Mobil</source>
-        <translation type="unfinished"></translation>
+        <translation>Móvil</translation>
     </message>
     <message>
         <source>E-Mail</source>
-        <translation type="unfinished"></translation>
+        <translation>Correo electrónico</translation>
     </message>
     <message>
         <source>Adressenliste</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de direcciones</translation>
     </message>
     <message>
         <source> - mit Minderung</source>
-        <translation type="unfinished"></translation>
+        <translation> - con reducción de precio</translation>
     </message>
     <message>
         <source>Standardstatus</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado estándar</translation>
     </message>
     <message>
         <source>Benutzerstatus</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado de usuario</translation>
     </message>
     <message>
         <source>Meta</source>
-        <translation type="unfinished"></translation>
+        <translation>Meta</translation>
     </message>
     <message>
         <source>Kal</source>
-        <translation type="unfinished"></translation>
+        <translation>Kal</translation>
     </message>
     <message>
         <source>Mängel</source>
-        <translation type="unfinished"></translation>
+        <translation>Defectos</translation>
     </message>
     <message>
         <source>Pläne</source>
-        <translation type="unfinished"></translation>
+        <translation>Planos</translation>
     </message>
     <message>
         <source>Mail-Addresslisten</source>
-        <translation type="unfinished"></translation>
+        <translation>Listas de direcciones de correo</translation>
     </message>
     <message>
         <source>Firmen</source>
-        <translation type="unfinished"></translation>
+        <translation>Empresas</translation>
     </message>
     <message>
         <source>Mail-Addressen</source>
-        <translation type="unfinished"></translation>
+        <translation>Direcciones de correo</translation>
     </message>
 </context>
 <context>
     <name>KalStartup</name>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión %1</translation>
     </message>
     <message>
         <source>Mängelmanagement für Bauprojekte</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestión de defectos para proyectos de construcción</translation>
     </message>
     <message>
         <source>Sie verwenden eine Bildschirm-Skalierung von %1%. Dies kann es zu Problemen bei der Darstellung des Pellwicks führen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Está utilizando un escalado de pantalla del %1%. Esto puede causar problemas en la visualización de Pellwick.</translation>
     </message>
     <message>
         <source>
 
 Wenn Schriften oder Symbole abgeschnitten oder unscharf dargestellt werden, stellen Sie die Skalierung für Pellwick auf 100 % zurück:
 </source>
-        <translation type="unfinished"></translation>
+        <translation>
+
+Si los textos o los iconos aparecen cortados o borrosos, vuelva a ajustar el escalado de Pellwick al 100 %:
+</translation>
     </message>
     <message>
         <source> 1. Öffnen Sie die Systemsteuerung.
  2. Wählen Sie &quot;Darstellung und Anpassung&quot; und dann &quot;Anzeige&quot;.
  3. Wählen Sie &quot;Kleiner - 100 %&quot; und bestätigen Sie mit &quot;Übernehmen&quot;.
  4. Melden Sie sich ab und wieder an.</source>
-        <translation type="unfinished"></translation>
+        <translation> 1. Abra el Panel de control.
+ 2. Elija «Apariencia y personalización» y después «Pantalla».
+ 3. Elija «Más pequeño - 100 %» y confirme con «Aplicar».
+ 4. Cierre la sesión y vuelva a iniciarla.</translation>
     </message>
     <message>
         <source>1. Rechtsklick auf das Pellwick-Desktop-Icon.
 2. Wählen Sie &quot;Eigenschaften&quot; und dann die Registerkarte &quot;Kompatibilität&quot;.
 3. Klicken Sie auf &quot;Hohe DPI-Einstellungen ändern&quot; und aktivieren Sie &quot;Verhalten bei hoher DPI-Skalierung überschreiben&quot; mit &quot;Anwendung&quot;.
 4. Bestätigen Sie mit &quot;OK&quot; und starten Sie Pellwick neu.</source>
-        <translation type="unfinished"></translation>
+        <translation>1. Haga clic con el botón derecho en el icono de Pellwick del escritorio.
+2. Elija «Propiedades» y después la pestaña «Compatibilidad».
+3. Haga clic en «Cambiar configuración de PPP alta» y active «Invalidar el comportamiento de escalado de PPP alto» con «Aplicación».
+4. Confirme con «Aceptar» y reinicie Pellwick.</translation>
     </message>
     <message>
         <source>1. Öffnen Sie die Bildschirm-Einstellungen Ihrer Arbeitsumgebung.
 2. Stellen Sie die Skalierung bzw. die Schriftauflösung auf 100 % (96 DPI).
 3. Melden Sie sich ab und wieder an und starten Sie Pellwick neu.</source>
-        <translation type="unfinished"></translation>
+        <translation>1. Abra la configuración de pantalla de su entorno de escritorio.
+2. Ajuste el escalado o la resolución de las fuentes al 100 % (96 PPP).
+3. Cierre la sesión, vuelva a iniciarla y reinicie Pellwick.</translation>
     </message>
     <message>
         <source>Bildschirm-Skalierung</source>
-        <translation type="unfinished"></translation>
+        <translation>Escalado de pantalla</translation>
     </message>
     <message>
         <source>Diese Meldung nicht mehr anzeigen</source>
-        <translation type="unfinished"></translation>
+        <translation>No volver a mostrar este mensaje</translation>
     </message>
     <message>
         <source>Datenimport</source>
-        <translation type="unfinished"></translation>
+        <translation>Importación de datos</translation>
     </message>
     <message>
         <source>Das Projekt wurde mit dem Bautagebuch
@@ -1487,7 +1587,10 @@ Wenn Schriften oder Symbole abgeschnitten oder unscharf dargestellt werden, stel
 verknüpft.
 
 Der Import von Mängeln und Firmen aus dem Bautagebuch ist in dieser Programmversion noch nicht verfügbar.</source>
-        <translation type="unfinished"></translation>
+        <translation>El proyecto se ha vinculado al diario de obra
+%1
+
+La importación de defectos y empresas del diario de obra todavía no está disponible en esta versión del programa.</translation>
     </message>
     <message>
         <source>Hilfe zum Datenimport
@@ -1497,58 +1600,65 @@ Pellwick arbeitet eigenständig (standalone): Sie erfassen Mängel, Fotos, Plän
 Pellwick arbeitet auch mit dem Quellor Bautagebuch zusammen: Das Bautagebuch ist dann die Datenquelle, aus der Mängel, Mängelfotos und Firmen in das Pellwick-Projekt übernommen werden.
 
 Anleitungen dazu finden Sie im Menü &quot;Hilfe&quot;.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda sobre la importación de datos
+
+Pellwick funciona de forma independiente (standalone): registra defectos, fotos, planos y empresas directamente en el proyecto de Pellwick.
+
+Pellwick también funciona junto con el diario de obra de Quellor: el diario de obra es entonces la fuente de datos desde la que se transfieren defectos, fotos de defectos y empresas al proyecto de Pellwick.
+
+Encontrará guías al respecto en el menú «Ayuda».</translation>
     </message>
     <message>
         <source>Hilfe zum Datenimport</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda sobre la importación de datos</translation>
     </message>
 </context>
 <context>
     <name>KalTableView</name>
     <message>
         <source>Neue Zeile hinzufügen</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir fila nueva</translation>
     </message>
     <message>
         <source>Gewählte Zeilen entfernen</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar las filas seleccionadas</translation>
     </message>
     <message>
         <source>Gewählte Zeilen kopieren</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar las filas seleccionadas</translation>
     </message>
     <message>
         <source>Doppelklick für neue Zeile</source>
-        <translation type="unfinished"></translation>
+        <translation>Doble clic para una fila nueva</translation>
     </message>
     <message>
         <source>Status löschen</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar estado</translation>
     </message>
     <message>
         <source>Wenn Sie einen Status löschen, der bereits Mängeln zugeordnet ist, verlieren diese Mängel ihren Status!
 Soll der gewählte Status tatsächlich gelöscht werden?</source>
-        <translation type="unfinished"></translation>
+        <translation>Si elimina un estado que ya está asignado a defectos, esos defectos pierden su estado.
+¿Desea eliminar realmente el estado seleccionado?</translation>
     </message>
     <message>
         <source>Eintrag entfernen</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar entrada</translation>
     </message>
     <message>
         <source>Soll der gewählte Eintrag tatsächlich entfernt werden?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Desea eliminar realmente la entrada seleccionada?</translation>
     </message>
 </context>
 <context>
     <name>main</name>
     <message>
         <source>Fehler</source>
-        <translation type="unfinished"></translation>
+        <translation>Error</translation>
     </message>
     <message>
         <source>Ihre QT-Installation unterstützt SQLITE nicht. Bitte kontaktieren Sie den Softwarehersteller.</source>
-        <translation type="unfinished"></translation>
+        <translation>Su instalación de Qt no es compatible con SQLite. Póngase en contacto con el fabricante del software.</translation>
     </message>
 </context>
 </TS>

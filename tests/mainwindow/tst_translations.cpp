@@ -111,8 +111,8 @@ void TestTranslations::compiledFilesTranslate_data()
     QTest::addColumn<QString>("locale");
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("open");
-    QTest::newRow("en_GB") << "en_GB" << "Datei" << "Open";
-    QTest::newRow("en_US") << "en_US" << "Datei" << "Open";
+    QTest::newRow("en_GB") << "en_GB" << "File" << "Open";
+    QTest::newRow("en_US") << "en_US" << "File" << "Open";
     QTest::newRow("es_ES") << "es_ES" << "Archivo" << "Abrir";
 }
 
