@@ -77,6 +77,7 @@ void KalDateEdit::on_toolButtonPopup_clicked()
         m_calendar->setLocale(QLocale());
         connect(m_calendar, &QCalendarWidget::clicked, this, &KalDateEdit::on_calendarWidget_clicked);
         connect(m_calendar, &QCalendarWidget::activated, this, &KalDateEdit::on_calendarWidget_clicked);
+        m_calendar->installEventFilter(this);
     }
     m_calendar->setWindowTitle(calendarTitle());
     const QDate current = KalDateFormat::parse(text());
@@ -113,6 +114,14 @@ void KalDateEdit::focusOutEvent(QFocusEvent *event)
         scheduleWarning();
     }
     QLineEdit::focusOutEvent(event);
+}
+
+bool KalDateEdit::eventFilter(QObject *watched, QEvent *event)
+{
+    // Like a popup: clicking elsewhere closes the calendar.
+    if (watched == m_calendar && event->type() == QEvent::WindowDeactivate)
+        m_calendar->hide();
+    return QLineEdit::eventFilter(watched, event);
 }
 
 void KalDateEdit::resizeEvent(QResizeEvent *event)

@@ -1,6 +1,9 @@
 #include "KalDateEdit.h"
 #include "KalDateFormat.h"
+#include "KalCompleterLineEdit.h"
+#include "KalCompleterTextEdit.h"
 #include "KalScriptedPrompt.h"
+#include "KalTextAidsEditors.h"
 #include "TextAidsTests.h"
 
 #include <QCalendarWidget>
@@ -148,6 +151,50 @@ private slots:
         edit.setToolTip(QStringLiteral("Frist"));
         edit.toolButtonPopup()->click();
         QCOMPARE(calendar->windowTitle(), QStringLiteral("Frist"));
+    }
+
+    void gridEditors_data()
+    {
+        QTest::addColumn<int>("editorNumber");
+        QTest::addColumn<QString>("className");
+        QTest::addColumn<QVariant>("stored");
+        QTest::addColumn<QVariant>("read");
+
+        QTest::newRow("completer line") << 2 << "KalCompleterLineEdit" << QVariant("Flur") << QVariant("Flur");
+        QTest::newRow("spelling text") << 3 << "KalCompleterTextEdit" << QVariant("Riss\nPutz") << QVariant("Riss\nPutz");
+        QTest::newRow("date from text") << 4 << "KalDateEdit" << QVariant("2024-03-05") << QVariant(QDate(2024, 3, 5));
+        QTest::newRow("date value") << 7 << "KalDateEdit" << QVariant(QDate(2024, 12, 31)) << QVariant(QDate(2024, 12, 31));
+        QTest::newRow("empty date") << 4 << "KalDateEdit" << QVariant() << QVariant(QDate());
+        QTest::newRow("not ours") << 1 << "" << QVariant() << QVariant();
+    }
+
+    void gridEditors()
+    {
+        QFETCH(int, editorNumber);
+        QFETCH(QString, className);
+        QFETCH(QVariant, stored);
+        QFETCH(QVariant, read);
+
+        QWidget parent;
+        QWidget *editor = KalTextAidsEditors::create(editorNumber, QStringLiteral("defect"), QStringLiteral("roomname"), &parent);
+        QCOMPARE(KalTextAidsEditors::handles(editorNumber), !className.isEmpty());
+        if (className.isEmpty()) {
+            QVERIFY(!editor);
+            return;
+        }
+        QVERIFY(editor);
+        QCOMPARE(QString::fromLatin1(editor->metaObject()->className()), className);
+        QVERIFY(KalTextAidsEditors::setEditorData(editor, stored));
+        bool handled = false;
+        QCOMPARE(KalTextAidsEditors::editorData(editor, &handled), read);
+        QVERIFY(handled);
+
+        int finished = 0;
+        KalTextAidsEditors::onEditingFinished(editor, &parent, [&finished] { ++finished; });
+        QMetaObject::invokeMethod(editor, "editingFinished");
+        QCOMPARE(finished, 1);
+        QCoreApplication::processEvents();
+        QVERIFY(prompt()->shown().isEmpty());
     }
 };
 
