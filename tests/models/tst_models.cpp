@@ -719,7 +719,12 @@ private slots:
         QCOMPARE(defects->rowCount(), 6);
         QVERIFY(defects->removeRows(0, 2, QModelIndex(), true));
         QCOMPARE(defects->rowCount(), 4);
-        model("status")->submitWithNotification();
+        // Changes of the looked-up statuses repaint the status column.
+        KalSqlTableModel *statuses = model("status");
+        QVERIFY(statuses->setData(statuses->index(0, statuses->fieldIndex("status")), "Anders"));
+        QVERIFY(statuses->submitWithNotification());
+        QVERIFY(statuses->removeRows(statuses->rowCount() - 1, 1, QModelIndex(), true));
+        QCOMPARE(statuses->rowCount(), 7);
     }
 };
 
