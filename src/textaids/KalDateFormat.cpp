@@ -1,5 +1,7 @@
 #include "KalDateFormat.h"
 
+#include "KalEnvironment.h"
+
 #include <QRegularExpression>
 #include <QStringList>
 
@@ -64,14 +66,18 @@ QDate parse(const QString &text, const QLocale &locale)
 
     // Any of the usual separators, one or two digits for day and month,
     // two or four for the year.
-    static const QRegularExpression local(QStringLiteral("^(\\d{1,2})[./-](\\d{1,2})[./-](\\d{2}|\\d{4})$"));
+    // The year may also be left out ("1.2." or "1.2"): this year.
+    static const QRegularExpression local(
+        QStringLiteral("^(\\d{1,2})[./-](\\d{1,2})(?:[./-](\\d{2}|\\d{4})?)?$"));
     const QRegularExpressionMatch m = local.match(trimmed);
     if (!m.hasMatch())
         return QDate();
     int first = m.captured(1).toInt();
     int second = m.captured(2).toInt();
     int year = m.captured(3).toInt();
-    if (m.captured(3).size() == 2)
+    if (m.captured(3).isEmpty())
+        year = KalEnvironment::now().date().year();
+    else if (m.captured(3).size() == 2)
         year += 2000;
     const int day = orderFor(locale) == Order::MonthDayYear ? second : first;
     const int month = orderFor(locale) == Order::MonthDayYear ? first : second;

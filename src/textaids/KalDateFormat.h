@@ -16,7 +16,8 @@ QString userPattern(const QLocale &locale = QLocale());
 QString toText(const QDate &date, const QLocale &locale = QLocale());
 
 // Parses the locale's notation and the short forms people type
-// ("1.2.24", "01.02.2024", "2024-02-01"). Invalid date when it does not parse.
+// ("1.2.24", "01.02.2024", "2024-02-01", "1.2." for this year). Invalid date
+// when it does not parse.
 QDate parse(const QString &text, const QLocale &locale = QLocale());
 
 } // namespace KalDateFormat
