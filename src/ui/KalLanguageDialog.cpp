@@ -48,9 +48,10 @@ KalLanguageDialog::KalLanguageDialog(bool restartEnabled, QWidget *parent)
     layout->addWidget(buttons);
 
     const Choice stored = storedChoice();
+    // A language the program has no texts for runs in German, the
+    // language of its own texts.
     const int button = buttonFor(stored.language, stored.country);
-    if (button >= 0)
-        setCheckedButton(Button(button));
+    setCheckedButton(button >= 0 ? Button(button) : German);
     setMinimumWidth(340);
 }
 

@@ -754,6 +754,8 @@ void TestMainWindow::languageDialog_data()
                                     << int(KalLanguageDialog::EnglishUsa) << "Später neu starten" << true << false;
     QTest::newRow("USA preset") << 31 << 225 << int(KalLanguageDialog::EnglishUsa)
                                 << int(KalLanguageDialog::EnglishUsa) << "" << false << false;
+    QTest::newRow("French runs in German") << 37 << 74 << int(KalLanguageDialog::German)
+                                           << int(KalLanguageDialog::German) << "Später neu starten" << true << false;
     QTest::newRow("Mexico counts as Spanish") << 111 << 139 << int(KalLanguageDialog::Spanish)
                                               << int(KalLanguageDialog::German) << "Später neu starten" << true << false;
 }
