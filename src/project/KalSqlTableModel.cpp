@@ -30,6 +30,13 @@ KalSqlTableModel::CompanyFormatter &companyFormatterStorage()
 // with the old one are rebuilt.
 int s_formatterGeneration = 0;
 
+// Living models (GUI thread only), so that a new company format repaints them.
+QVector<KalSqlTableModel *> &liveModels()
+{
+    static QVector<KalSqlTableModel *> models;
+    return models;
+}
+
 QString defaultCompanyText(const QSqlRecord &company)
 {
     const QString name = company.value(QStringLiteral("company")).toString();
@@ -83,6 +90,7 @@ KalSqlTableModel::KalSqlTableModel(KalProject *project, QObject *parent, const Q
     , m_userStatusText(tr("Benutzerstatus"))
 {
     setEditStrategy(QSqlTableModel::OnManualSubmit);
+    liveModels().append(this);
     connect(this, &QSqlTableModel::primeInsert, this, &KalSqlTableModel::assignNewId);
 
     // Rows are found by id through a map that any change of rows invalidates.
@@ -98,7 +106,10 @@ KalSqlTableModel::KalSqlTableModel(KalProject *project, QObject *parent, const Q
             });
 }
 
-KalSqlTableModel::~KalSqlTableModel() = default;
+KalSqlTableModel::~KalSqlTableModel()
+{
+    liveModels().removeOne(this);
+}
 
 void KalSqlTableModel::setTable(const QString &tableName)
 {
@@ -317,6 +328,11 @@ void KalSqlTableModel::setCompanyFormatter(const CompanyFormatter &formatter)
 {
     companyFormatterStorage() = formatter;
     ++s_formatterGeneration;
+    const QVector<KalSqlTableModel *> models = liveModels();
+    for (KalSqlTableModel *model : models) {
+        if (model->m_lookups.contains(CompanyRole))
+            model->lookupSourceChanged(CompanyRole);
+    }
 }
 
 QString KalSqlTableModel::companyText(const QSqlRecord &company)

@@ -95,6 +95,7 @@ public:
 
     // Company text shown for CompanyRole. The default is the company name with
     // the trade in brackets; the master data install the configured format.
+    // Replacing it repaints the company columns of every model.
     static void setCompanyFormatter(const CompanyFormatter &formatter);
     static QString companyText(const QSqlRecord &company);
 

@@ -605,9 +605,12 @@ private slots:
         const qint64 defect = insertDefect({{"company_id", company}});
         selectAll();
         QCOMPARE(cell("defect", defect, "company_id").toString(), QStringLiteral("Muster (Maler)"));
+        QSignalSpy repaint(model("defect"), &QAbstractItemModel::dataChanged);
         KalSqlTableModel::setCompanyFormatter([](const QSqlRecord &r) {
             return r.value("type").toString() + QStringLiteral(": ") + r.value("company").toString();
         });
+        QCOMPARE(repaint.count(), 1);
+        QCOMPARE(repaint.at(0).at(0).toModelIndex().column(), model("defect")->fieldIndex("company_id"));
         QCOMPARE(cell("defect", defect, "company_id").toString(), QStringLiteral("Maler: Muster"));
     }
 
