@@ -1,15 +1,19 @@
 #include "KalItemDelegate.h"
 
+#include "KalCompleterTextEdit.h"
 #include "KalDateFormat.h"
 #include "KalPrompt.h"
 #include "KalSqlTableModel.h"
+#include "KalTextAidsEditors.h"
 
 #include <QAbstractProxyModel>
 #include <QApplication>
 #include <QEvent>
 #include <QLineEdit>
 #include <QPainter>
-#include <QPlainTextEdit>
+#include <QPointer>
+#include <QSqlRecord>
+#include <QTextEdit>
 #include <QTimer>
 
 namespace {
@@ -140,33 +144,34 @@ QModelIndex KalItemDelegate::sourceIndex(const QModelIndex &index)
     return QModelIndex();
 }
 
-QWidget *KalItemDelegate::makeEditor(int editor, int column, QWidget *parent) const
+QWidget *KalItemDelegate::makeEditor(int editor, const QModelIndex &source, QWidget *parent) const
 {
-    Q_UNUSED(column)
-    if (isLineEditor(editor)) {
-        auto *edit = new QLineEdit(parent);
-        edit->setFrame(false);
-        edit->setFocusPolicy(Qt::StrongFocus);
-        connect(edit, &QLineEdit::editingFinished, this, &KalItemDelegate::slotCommitAndCloseEditor);
-        return edit;
+    const auto *sql = qobject_cast<const KalSqlTableModel *>(source.model());
+    const QString table = sql ? sql->tableName() : QString();
+    const QString field = sql ? sql->record().fieldName(source.column()) : QString();
+
+    QWidget *widget = nullptr;
+    if (KalTextAidsEditors::handles(editor)) {
+        // Completer, spelling and date fields come from the text input aids.
+        widget = KalTextAidsEditors::create(editor, table, field, parent);
+    } else if (isLineEditor(editor)) {
+        auto *line = new QLineEdit(parent);
+        line->setFrame(false);
+        widget = line;
     }
-    if (isDateEditor(editor)) {
-        auto *edit = new QLineEdit(parent);
-        edit->setFrame(false);
-        edit->setFocusPolicy(Qt::StrongFocus);
-        edit->setPlaceholderText(KalDateFormat::userPattern());
-        connect(edit, &QLineEdit::editingFinished, this, &KalItemDelegate::slotCommitAndCloseEditor);
-        return edit;
-    }
-    if (editor == SpellTextEdit) {
-        // Focus loss and Tab commit through the base event filter.
-        auto *edit = new QPlainTextEdit(parent);
-        edit->setFrameShape(QFrame::NoFrame);
-        edit->setFocusPolicy(Qt::StrongFocus);
-        connect(this, &KalItemDelegate::rehighlightRequested, edit, [edit] { edit->viewport()->update(); });
-        return edit;
-    }
-    return nullptr;
+    if (!widget)
+        return nullptr;
+    widget->setFocusPolicy(Qt::StrongFocus);
+    if (auto *text = qobject_cast<QTextEdit *>(widget))
+        text->setFrameShape(QFrame::NoFrame);
+    if (auto *spelling = qobject_cast<KalCompleterTextEdit *>(widget))
+        connect(this, &KalItemDelegate::rehighlightRequested, spelling, &KalCompleterTextEdit::slot_rehighlight);
+    QPointer<QWidget> guarded(widget);
+    KalTextAidsEditors::onEditingFinished(widget, const_cast<KalItemDelegate *>(this), [this, guarded] {
+        if (guarded)
+            const_cast<KalItemDelegate *>(this)->commitAndClose(guarded);
+    });
+    return widget;
 }
 
 QWidget *KalItemDelegate::createEditor(QWidget *parent, const QStyleOptionViewItem &option,
@@ -180,7 +185,7 @@ QWidget *KalItemDelegate::createEditor(QWidget *parent, const QStyleOptionViewIt
         return QStyledItemDelegate::createEditor(parent, option, index);
     if (editor == NoEditor || editor == CheckNoEditor)
         return nullptr;
-    return makeEditor(editor, source.column(), parent);
+    return makeEditor(editor, source, parent);
 }
 
 void KalItemDelegate::setEditorData(QWidget *editor, const QModelIndex &index) const
@@ -202,7 +207,7 @@ void KalItemDelegate::setEditorData(QWidget *editor, const QModelIndex &index) c
         }
     }
     if (number == SpellTextEdit) {
-        if (auto *edit = qobject_cast<QPlainTextEdit *>(editor)) {
+        if (auto *edit = qobject_cast<QTextEdit *>(editor)) {
             edit->setPlainText(value.toString());
             return;
         }
@@ -227,7 +232,7 @@ QVariant KalItemDelegate::editorValue(int editor, QWidget *widget, bool *ok) con
     }
     if (auto *edit = qobject_cast<QLineEdit *>(widget))
         return edit->text();
-    if (auto *edit = qobject_cast<QPlainTextEdit *>(widget))
+    if (auto *edit = qobject_cast<QTextEdit *>(widget))
         return edit->toPlainText();
     *ok = false;
     return QVariant();
@@ -246,7 +251,10 @@ void KalItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, c
     const QVariant value = editorValue(number, editor, &ok);
     if (!ok) {
         if (isDateEditor(number)) {
-            // Shown once the editor has closed; the stored date stays.
+            // The stored date stays. The field forgets the text, so that it
+            // neither warns a second time nor commits it again when it closes.
+            if (auto *line = qobject_cast<QLineEdit *>(editor))
+                line->clear();
             const QString pattern = KalDateFormat::userPattern();
             QTimer::singleShot(0, [pattern] {
                 KalPrompt::warning(tr("Format-Fehler"),
@@ -366,9 +374,12 @@ QSize KalItemDelegate::sizeHint(const QStyleOptionViewItem &option, const QModel
 
 void KalItemDelegate::slotCommitAndCloseEditor()
 {
-    auto *editor = qobject_cast<QWidget *>(sender());
-    if (!editor)
-        return;
+    if (auto *editor = qobject_cast<QWidget *>(sender()))
+        commitAndClose(editor);
+}
+
+void KalItemDelegate::commitAndClose(QWidget *editor)
+{
     emit commitData(editor);
     emit closeEditor(editor);
 }

@@ -66,9 +66,10 @@ protected:
 
 private:
     // The one place where editors are made, so that richer editors can replace them.
-    QWidget *makeEditor(int editor, int column, QWidget *parent) const;
+    QWidget *makeEditor(int editor, const QModelIndex &source, QWidget *parent) const;
     // The value the editor holds, in the form the model stores it.
     QVariant editorValue(int editor, QWidget *widget, bool *ok) const;
+    void commitAndClose(QWidget *editor);
     void paintCameraCell(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
     void paintColorCell(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const;
 

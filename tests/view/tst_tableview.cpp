@@ -1,5 +1,8 @@
 #include "tst_tableview.h"
 
+#include "KalCompleterLineEdit.h"
+#include "KalCompleterTextEdit.h"
+#include "KalDateEdit.h"
 #include "KalHeaderView.h"
 #include "KalItemDelegate.h"
 #include "KalProject.h"
@@ -12,7 +15,8 @@
 #include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPlainTextEdit>
+#include <QTextEdit>
+#include <QVBoxLayout>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QSortFilterProxyModel>
@@ -386,7 +390,7 @@ void TstTableView::setModelDataMarksOnlyRealChanges()
     delegate->setEditorData(editor.get(), index);
     if (auto *line = qobject_cast<QLineEdit *>(editor.get()))
         line->setText(typed);
-    else if (auto *text = qobject_cast<QPlainTextEdit *>(editor.get()))
+    else if (auto *text = qobject_cast<QTextEdit *>(editor.get()))
         text->setPlainText(typed);
     else
         QFAIL("unexpected editor");
@@ -430,11 +434,86 @@ void TstTableView::invalidDateIsRefused()
     view.kalDelegate()->setModelData(line, m, index);
 
     QCOMPARE(m->data(index, Qt::EditRole).toDate(), QDate(2024, 4, 3));
+    QVERIFY(line->text().isEmpty()); // the field forgets what could not be read
     QVERIFY(!m->isDirty());
     QTRY_COMPARE(m_prompt->shown().size(), 1);
     QCOMPARE(m_prompt->shown().first().title, QStringLiteral("Format-Fehler"));
     QCOMPARE(m_prompt->shown().first().text,
              QStringLiteral("Das eingegebene Datum ist nicht korrekt.\nBitte verwenden Sie das Format TT.MM.JJJJ!"));
+}
+
+void TstTableView::invalidDateInGridWarnsOnce_data()
+{
+    QTest::addColumn<bool>("byReturn");
+    QTest::newRow("Return") << true;
+    QTest::newRow("focus elsewhere") << false;
+}
+
+void TstTableView::invalidDateInGridWarnsOnce()
+{
+    QFETCH(bool, byReturn);
+    const qint64 id = insertDefect(QStringLiteral("1"), {{"correction_date", QDate(2024, 4, 3)}});
+    KalSqlTableModel *m = model(QStringLiteral("defect"));
+    QVERIFY(m->select());
+
+    QWidget window;
+    auto *layout = new QVBoxLayout(&window);
+    auto *view = new KalTableView;
+    auto *elsewhere = new QLineEdit;
+    layout->addWidget(view);
+    layout->addWidget(elsewhere);
+    view->setModel(m);
+    window.resize(900, 400);
+    window.show();
+    QApplication::setActiveWindow(&window);
+    QVERIFY(QTest::qWaitForWindowActive(&window));
+
+    const QModelIndex index = m->index(m->findRowById(id), m->fieldIndex(QStringLiteral("correction_date")));
+    view->setCurrentIndex(index);
+    view->edit(index);
+    auto *editor = qobject_cast<KalDateEdit *>(view->indexWidget(index));
+    QVERIFY(editor);
+    editor->setFocus();
+    QTRY_VERIFY(editor->hasFocus());
+    editor->selectAll();
+    QTest::keyClicks(editor, QStringLiteral("31.02.2020"));
+    if (byReturn)
+        QTest::keyClick(editor, Qt::Key_Return);
+    else
+        elsewhere->setFocus();
+    QTRY_VERIFY(!view->indexWidget(index));
+    QTest::qWait(50);
+
+    QCOMPARE(m->data(index, Qt::EditRole).toDate(), QDate(2024, 4, 3));
+    QVERIFY(!m->isDirty());
+    QCOMPARE(m_prompt->titles(), QStringList{QStringLiteral("Format-Fehler")});
+}
+
+void TstTableView::multiLineEditorWritesText()
+{
+    // No table asks for the multi-line editor in the grid yet; a view may.
+    const qint64 id = insertDefect(QStringLiteral("1"));
+    KalSqlTableModel *m = model(QStringLiteral("defect"));
+    QVERIFY(m->select());
+    KalTableView view;
+    view.setModel(m);
+    const int column = m->fieldIndex(QStringLiteral("description"));
+    view.kalDelegate()->setEditorNumber(column, KalItemDelegate::SpellTextEdit);
+    const QModelIndex index = m->index(m->findRowById(id), column);
+
+    QStyleOptionViewItem option;
+    std::unique_ptr<QWidget> editor(view.kalDelegate()->createEditor(view.viewport(), option, index));
+    auto *text = qobject_cast<KalCompleterTextEdit *>(editor.get());
+    QVERIFY(text);
+    view.kalDelegate()->setEditorData(text, index);
+    QCOMPARE(text->toPlainText(), QStringLiteral("Mangel 1"));
+    text->setPlainText(QStringLiteral("Zeile 1\nZeile 2"));
+    view.kalDelegate()->setModelData(text, m, index);
+    QCOMPARE(m->data(index, Qt::EditRole).toString(), QStringLiteral("Zeile 1\nZeile 2"));
+    QCOMPARE(m->data(m->index(index.row(), m->fieldIndex(QStringLiteral("site_journal_data_modified"))), Qt::EditRole)
+                 .toInt(),
+             1);
+    m->revertAll();
 }
 
 void TstTableView::editorsPerColumn_data()
@@ -443,20 +522,22 @@ void TstTableView::editorsPerColumn_data()
     QTest::addColumn<QString>("field");
     QTest::addColumn<int>("editorNumber");
     QTest::addColumn<bool>("hasEditor");
+    QTest::addColumn<QString>("editorClass");
 
-    QTest::newRow("defect reduction (Bool)") << "defect" << "reduction" << 9 << false;
-    QTest::newRow("defect photo count") << "defect" << "image_cnt" << 5 << false;
-    QTest::newRow("defect deadline") << "defect" << "correction_date" << 4 << true;
-    QTest::newRow("defect third deadline (Date)") << "defect" << "deadline_3" << 4 << true;
-    QTest::newRow("defect number: Qt's editor") << "defect" << "number" << 0 << true;
-    QTest::newRow("status type") << "status" << "type" << 9 << false;
-    QTest::newRow("status text") << "status" << "status" << 1 << true;
-    QTest::newRow("company email") << "company" << "email" << 6 << true;
-    QTest::newRow("photo caption") << "photo_info" << "caption" << 8 << true;
-    QTest::newRow("photo comment") << "photo_info" << "comment" << 2 << true;
-    QTest::newRow("photo date") << "photo_info" << "date" << 4 << true;
-    QTest::newRow("plan name") << "plan_info" << "plan_name" << 2 << true;
-    QTest::newRow("plan date") << "plan_info" << "date" << 4 << true;
+    QTest::newRow("defect reduction (Bool)") << "defect" << "reduction" << 9 << false << "";
+    QTest::newRow("defect photo count") << "defect" << "image_cnt" << 5 << false << "";
+    QTest::newRow("defect deadline") << "defect" << "correction_date" << 4 << true << "KalDateEdit";
+    QTest::newRow("defect third deadline (Date)") << "defect" << "deadline_3" << 4 << true << "KalDateEdit";
+    QTest::newRow("defect number: Qt's editor") << "defect" << "number" << 0 << true << "";
+    QTest::newRow("status type") << "status" << "type" << 9 << false << "";
+    QTest::newRow("status text") << "status" << "status" << 1 << true << "QLineEdit";
+    QTest::newRow("company email") << "company" << "email" << 6 << true << "QLineEdit";
+    QTest::newRow("photo caption") << "photo_info" << "caption" << 8 << true << "QLineEdit";
+    QTest::newRow("photo comment") << "photo_info" << "comment" << 2 << true << "KalCompleterLineEdit";
+    QTest::newRow("photo date") << "photo_info" << "date" << 4 << true << "KalDateEdit";
+    QTest::newRow("plan name") << "plan_info" << "plan_name" << 2 << true << "KalCompleterLineEdit";
+    QTest::newRow("plan index") << "plan_info" << "plan_index" << 2 << true << "KalCompleterLineEdit";
+    QTest::newRow("plan date") << "plan_info" << "date" << 4 << true << "KalDateEdit";
 }
 
 void TstTableView::editorsPerColumn()
@@ -465,6 +546,7 @@ void TstTableView::editorsPerColumn()
     QFETCH(QString, field);
     QFETCH(int, editorNumber);
     QFETCH(bool, hasEditor);
+    QFETCH(QString, editorClass);
 
     qint64 id = -1;
     if (table == QLatin1String("defect"))
@@ -493,6 +575,8 @@ void TstTableView::editorsPerColumn()
     QStyleOptionViewItem option;
     std::unique_ptr<QWidget> editor(view.kalDelegate()->createEditor(view.viewport(), option, index));
     QCOMPARE(bool(editor), hasEditor);
+    if (!editorClass.isEmpty())
+        QCOMPARE(QString::fromLatin1(editor->metaObject()->className()), editorClass);
     if (editorNumber == 1 || editorNumber == 4 || editorNumber == 6 || editorNumber == 8) {
         auto *line = qobject_cast<QLineEdit *>(editor.get());
         QVERIFY(line);

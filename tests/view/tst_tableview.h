@@ -30,6 +30,9 @@ private slots:
     void setModelDataMarksOnlyRealChanges_data();
     void setModelDataMarksOnlyRealChanges();
     void invalidDateIsRefused();
+    void invalidDateInGridWarnsOnce_data();
+    void invalidDateInGridWarnsOnce();
+    void multiLineEditorWritesText();
     void editorsPerColumn_data();
     void editorsPerColumn();
     void columnWidthsPerTableAndFormat();
