@@ -70,9 +70,19 @@ void KalCompleterTextEdit::setSpellChecking(bool on)
         return;
     }
     m_highlighter = new KalSpellCheckerHighlighter(document());
-    if (KalSpellChecker *checker = KalSpellChecker::instance())
-        connect(checker, &KalSpellChecker::rehighlightAllSpellCheckerWidgets, this,
-                &KalCompleterTextEdit::slot_rehighlight, Qt::UniqueConnection);
+    followChecker();
+}
+
+void KalCompleterTextEdit::followChecker()
+{
+    // The checker of the run may be created or replaced after this field.
+    KalSpellChecker *checker = KalSpellChecker::instance();
+    if (!m_highlighter || !checker || checker == m_followedChecker)
+        return;
+    m_followedChecker = checker;
+    connect(checker, &KalSpellChecker::rehighlightAllSpellCheckerWidgets, this,
+            &KalCompleterTextEdit::slot_rehighlight, Qt::UniqueConnection);
+    m_highlighter->rehighlight();
 }
 
 void KalCompleterTextEdit::slot_rehighlight()
@@ -126,6 +136,7 @@ void KalCompleterTextEdit::keyPressEvent(QKeyEvent *event)
 void KalCompleterTextEdit::focusInEvent(QFocusEvent *event)
 {
     QTextEdit::focusInEvent(event);
+    followChecker();
     if (m_button) {
         repositionButton();
         m_button->show();

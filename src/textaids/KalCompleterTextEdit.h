@@ -1,6 +1,9 @@
 #pragma once
 
+#include <QPointer>
 #include <QTextEdit>
+
+class KalSpellChecker;
 
 class KalCompleter;
 class KalFieldButton;
@@ -53,8 +56,10 @@ private:
     void insertValue(const QString &value);
     QString paragraphPrefix() const;
     void repositionButton();
+    void followChecker();
 
     KalCompleter *m_completer = nullptr;
     KalFieldButton *m_button = nullptr;
     KalSpellCheckerHighlighter *m_highlighter = nullptr;
+    QPointer<KalSpellChecker> m_followedChecker;
 };

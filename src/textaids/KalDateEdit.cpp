@@ -5,6 +5,8 @@
 #include "KalPrompt.h"
 
 #include <QCalendarWidget>
+#include <QCoreApplication>
+#include <QPointer>
 #include <QFocusEvent>
 #include <QGuiApplication>
 #include <QScreen>
@@ -53,18 +55,26 @@ void KalDateEdit::scheduleWarning()
     // several reasons in one go give one warning.
     if (m_warningPending)
         return;
+    // A grid editor may be gone by then (closed on focus loss); the warning
+    // is still due.
     m_warningPending = true;
-    QTimer::singleShot(0, this, [this] {
-        m_warningPending = false;
-        showFormatWarning();
+    QPointer<KalDateEdit> self(this);
+    QTimer::singleShot(0, QCoreApplication::instance(), [self] {
+        if (self)
+            self->m_warningPending = false;
+        KalPrompt::warning(tr("Format-Fehler"), formatWarningText());
     });
+}
+
+QString KalDateEdit::formatWarningText()
+{
+    return tr("Das eingegebene Datum ist nicht korrekt.\nBitte verwenden Sie das Format %1!")
+        .arg(KalDateFormat::userPattern(QLocale()));
 }
 
 void KalDateEdit::showFormatWarning()
 {
-    KalPrompt::warning(tr("Format-Fehler"), tr("Das eingegebene Datum ist nicht korrekt.\nBitte verwenden Sie das "
-                                               "Format %1!")
-                                                .arg(KalDateFormat::userPattern(QLocale())));
+    KalPrompt::warning(tr("Format-Fehler"), formatWarningText());
 }
 
 void KalDateEdit::on_toolButtonPopup_clicked()

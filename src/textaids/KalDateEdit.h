@@ -24,6 +24,9 @@ public:
     QCalendarWidget *calendarWidget() const { return m_calendar; }
     // "Datum auswählen" unless the field has a tool tip.
     QString calendarTitle() const;
+    // "Das eingegebene Datum ist nicht korrekt. ..." with the pattern of the
+    // default locale.
+    static QString formatWarningText();
 
 public slots:
     void on_toolButtonPopup_clicked();

@@ -131,6 +131,25 @@ private slots:
         QVERIFY(prompt()->shown().isEmpty());
     }
 
+    void warningOutlivesClosedEditor()
+    {
+        // A grid closes its editor as soon as the focus leaves it.
+        QWidget window;
+        auto *layout = new QVBoxLayout(&window);
+        auto *edit = new KalDateEdit(&window);
+        auto *other = new QLineEdit(&window);
+        layout->addWidget(edit);
+        layout->addWidget(other);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        edit->setFocus();
+        QTest::keyClicks(edit, QStringLiteral("32.1.2024"));
+        other->setFocus();
+        QCOMPARE(edit->text(), QString());
+        delete edit;
+        QTRY_COMPARE(prompt()->titles(), QStringList{QStringLiteral("Format-Fehler")});
+    }
+
     void calendar()
     {
         KalDateEdit edit;

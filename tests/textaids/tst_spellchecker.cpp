@@ -162,6 +162,20 @@ private slots:
         QVERIFY(markedRanges(edit.document()).isEmpty());
     }
 
+    void fieldFollowsLaterChecker()
+    {
+        KalSpellChecker::setInstance(nullptr);
+        KalCompleterTextEdit edit;
+        edit.setPlainText(QStringLiteral("Das Fenstr klemmt"));
+        QVERIFY(markedRanges(edit.document()).isEmpty());
+        KalSpellChecker::setInstance(new KalSpellChecker(germanBase(), m_userDict));
+        QFocusEvent focusIn(QEvent::FocusIn);
+        QApplication::sendEvent(&edit, &focusIn);
+        QCOMPARE(markedRanges(edit.document()), (QVector<Range>{{4, 6}}));
+        QVERIFY(KalSpellChecker::switchSpellChecking(false));
+        QVERIFY(markedRanges(edit.document()).isEmpty());
+    }
+
     void userDictionary()
     {
         // Created empty on first use.
