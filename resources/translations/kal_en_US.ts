@@ -871,6 +871,10 @@ The changes will be saved before the database is cleaned up.
         <source>Version %1</source>
         <translation>Version %1</translation>
     </message>
+    <message>
+        <source>Die Zuordnung von Plänen ist in dieser Programmversion noch nicht verfügbar.</source>
+        <translation>Assigning plans is not yet available in this version of the program.</translation>
+    </message>
 </context>
 <context>
     <name>KalMessageBoxPrompt</name>

@@ -871,6 +871,10 @@ Los cambios se guardarán antes de depurar la base de datos.
         <source>Version %1</source>
         <translation>Versión %1</translation>
     </message>
+    <message>
+        <source>Die Zuordnung von Plänen ist in dieser Programmversion noch nicht verfügbar.</source>
+        <translation>La asignación de planos todavía no está disponible en esta versión del programa.</translation>
+    </message>
 </context>
 <context>
     <name>KalMessageBoxPrompt</name>

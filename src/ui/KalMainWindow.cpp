@@ -801,6 +801,15 @@ bool KalMainWindow::eventFilter(QObject *watched, QEvent *event)
         if (watched == gvPlan->viewport())
             layoutPlanHint();
         break;
+    case QEvent::MouseButtonDblClick:
+        // The plan library and editor are not part of the program yet; say
+        // so instead of silently ignoring the double click the hint invites.
+        if (inPlan && m_shownPlanId == -1 && tvDefects->currentIndex().isValid()) {
+            KalPrompt::information(tr("Pläne"), tr("Die Zuordnung von Plänen ist in dieser Programmversion noch "
+                                                   "nicht verfügbar."));
+            return true;
+        }
+        break;
     case QEvent::ToolTip: {
         if (!tooltipHelpActive()) {
             QToolTip::hideText();

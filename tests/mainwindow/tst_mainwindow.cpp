@@ -550,6 +550,9 @@ void TestMainWindow::planPanelShowsHintForDefectWithoutPlan()
             texts << text->toPlainText();
     }
     QCOMPARE(texts, QStringList{m_window->planPanelHint()});
+    // The double click the hint invites says that plans cannot be assigned yet.
+    QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, view->viewport()->rect().center());
+    QCOMPARE(m_prompt->titles(), QStringList{"Pläne"});
     QCOMPARE(m_window->planPanelHint(),
              QStringLiteral("Dieser Mangel ist in keinem Plan verortet.\nMit einem Doppelklick in dieses Fenster können "
                             "Sie dem Mangel einen Plan zuordnen.\nMit einem Doppelklick auf einen Mangel können Sie "
