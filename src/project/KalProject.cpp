@@ -9,7 +9,9 @@
 #include "KalSettings.h"
 #include "KalSqlTableModel.h"
 
+#include <QBuffer>
 #include <QDateTime>
+#include <QImageReader>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -79,6 +81,20 @@ bool isLockError(const QSqlError &error)
     bool ok = false;
     const int code = error.nativeErrorCode().toInt(&ok) & 0xff;
     return ok && (code == 5 || code == 6);
+}
+
+// Thumbnails come from files anybody may have written: look at the size
+// before decoding, so a hostile one cannot take all memory.
+QImage decodeThumbnail(const QByteArray &bytes)
+{
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer);
+    const QSize size = reader.size();
+    if (!size.isValid() || qint64(size.width()) * size.height() > 4096LL * 4096LL)
+        return QImage();
+    return reader.read();
 }
 
 bool isConstraintError(const QSqlError &error)
@@ -193,7 +209,7 @@ QImage KalProject::imageThumbnail(qint64 imageId) const
     query.prepare(QStringLiteral("SELECT thumbnail FROM image WHERE id = :id"));
     query.bindValue(QStringLiteral(":id"), imageId);
     if (query.exec() && query.next())
-        return QImage::fromData(query.value(0).toByteArray());
+        return decodeThumbnail(query.value(0).toByteArray());
     return QImage();
 }
 
@@ -203,7 +219,7 @@ QImage KalProject::planThumbnail(qint64 planId) const
     query.prepare(QStringLiteral("SELECT thumbnail FROM plan WHERE id = :id"));
     query.bindValue(QStringLiteral(":id"), planId);
     if (query.exec() && query.next())
-        return QImage::fromData(query.value(0).toByteArray());
+        return decodeThumbnail(query.value(0).toByteArray());
     return QImage();
 }
 
