@@ -18,6 +18,8 @@
 #include <QGraphicsView>
 #include <QHeaderView>
 #include <QMenu>
+#include <QMenuBar>
+#include <QToolBar>
 #include <QSqlRecord>
 #include <QPushButton>
 #include <QSettings>
@@ -66,6 +68,9 @@ private slots:
     void languageDialog();
     void restartWritesAndConsumesReopenKey();
     void quitIsRefusedOnCancel();
+    void menusShortcutsAndToolBar();
+    void missingDisplay_data();
+    void missingDisplay();
     void scalingPercent_data();
     void scalingPercent();
     void commandLineIsCarriedOut_data();
@@ -821,6 +826,71 @@ void TestMainWindow::quitIsRefusedOnCancel()
     QVERIFY(m_window->close());
     QVERIFY(QSettings().contains("MainWindow/Geometry"));
     QVERIFY(QSettings().contains("MainWindow/WindowState"));
+}
+
+void TestMainWindow::menusShortcutsAndToolBar()
+{
+    QStringList menus;
+    for (QAction *a : m_window->menuBar()->actions())
+        menus << a->text();
+    QCOMPARE(menus, (QStringList{"Datei", "Bearbeiten", "Stammdaten", "Drucken", "Datenimport", "Einstellungen", "Hilfe"}));
+    const QList<QToolBar *> bars = m_window->findChildren<QToolBar *>();
+    QCOMPARE(bars.size(), 1);
+    QCOMPARE(bars.first()->windowTitle(), QStringLiteral("Symbolleiste"));
+
+    const QList<QPair<QString, QKeySequence>> shortcuts{
+        {"actionCreateFile", QKeySequence(Qt::CTRL | Qt::Key_N)},
+        {"actionOpenFile", QKeySequence(Qt::CTRL | Qt::Key_O)},
+        {"actionSaveFile", QKeySequence(Qt::CTRL | Qt::Key_S)},
+        {"actionFileSaveAs", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)}};
+    for (const auto &s : shortcuts)
+        QCOMPARE(m_window->findChild<QAction *>(s.first)->shortcut(), s.second);
+
+    // Ctrl+S on an untitled project asks for a name.
+    KalFileDialog::queueChoice(path("kurz.pwp"));
+    QTest::keyClick(m_window.get(), Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(QFileInfo(m_window->project()->projectPath()).fileName(), QStringLiteral("kurz.pwp"));
+}
+
+void TestMainWindow::missingDisplay_data()
+{
+    QTest::addColumn<QByteArray>("platform");
+    QTest::addColumn<QByteArray>("display");
+    QTest::addColumn<QByteArray>("wayland");
+    QTest::addColumn<bool>("refused");
+
+    QTest::newRow("nothing set") << QByteArray() << QByteArray() << QByteArray() << true;
+    QTest::newRow("xcb without display") << QByteArray("xcb") << QByteArray() << QByteArray() << true;
+    QTest::newRow("offscreen needs none") << QByteArray("offscreen") << QByteArray() << QByteArray() << false;
+    QTest::newRow("wayland") << QByteArray() << QByteArray() << QByteArray("wayland-0") << false;
+    QTest::newRow("remote X") << QByteArray() << QByteArray("host.example:0") << QByteArray() << false;
+    QTest::newRow("local X without server") << QByteArray() << QByteArray(":987") << QByteArray() << true;
+}
+
+void TestMainWindow::missingDisplay()
+{
+    QFETCH(QByteArray, platform);
+    QFETCH(QByteArray, display);
+    QFETCH(QByteArray, wayland);
+    QFETCH(bool, refused);
+
+    const QByteArray oldPlatform = qgetenv("QT_QPA_PLATFORM");
+    const QByteArray oldDisplay = qgetenv("DISPLAY");
+    const QByteArray oldWayland = qgetenv("WAYLAND_DISPLAY");
+    auto set = [](const char *name, const QByteArray &value) {
+        if (value.isEmpty())
+            qunsetenv(name);
+        else
+            qputenv(name, value);
+    };
+    set("QT_QPA_PLATFORM", platform);
+    set("DISPLAY", display);
+    set("WAYLAND_DISPLAY", wayland);
+    const QString reason = KalStartup::missingDisplayReason();
+    set("QT_QPA_PLATFORM", oldPlatform);
+    set("DISPLAY", oldDisplay);
+    set("WAYLAND_DISPLAY", oldWayland);
+    QCOMPARE(!reason.isEmpty(), refused);
 }
 
 void TestMainWindow::scalingPercent_data()
