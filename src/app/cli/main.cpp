@@ -1,4 +1,5 @@
 // pellwick-cli: project files from scripts and headless machines.
+#include "KalCliExport.h"
 #include "KalDatabaseSchema.h"
 #include "KalPrompt.h"
 #include "KalProject.h"
@@ -32,6 +33,8 @@ const char *const kUsage =
     "             [--company ID] [--status ID] [--priority TEXT]\n"
     "                               add a defect, save with backups, print its id\n"
     "  vacuum FILE.pwp              compact the project and save it\n"
+    "  export-defects FILE.pwp [--output OUT.csv] [--columns compact|all]\n"
+    "                               defect list as CSV (UTF-8, \";\"), to stdout without --output (read-only)\n"
     "\n"
     "Options:\n"
     "  --yes        answer questions with the recommended choice (default: the safe one)\n"
@@ -364,5 +367,7 @@ int main(int argc, char **argv)
             return usageError(QStringLiteral("unknown argument '%1'").arg(rest.first()));
         return commandVacuum(file);
     }
+    if (command == QLatin1String("export-defects"))
+        return kalCliExportDefects(QStringList{file} + rest);
     return usageError(QStringLiteral("unknown command '%1'").arg(command));
 }
