@@ -773,6 +773,64 @@ void TstTableView::statusColourPressReportsId()
     QCOMPARE(other.count(), 0);
 }
 
+void TstTableView::colourAndCameraCellsArePainted()
+{
+    const qint64 none = insertDefect(QStringLiteral("1"), {{"image_cnt", 0}});
+    const qint64 three = insertDefect(QStringLiteral("2"), {{"image_cnt", 3}});
+    KalSqlTableModel *defects = model(QStringLiteral("defect"));
+    QVERIFY(defects->select());
+    KalTableView view;
+    view.setModel(defects);
+    view.resize(1400, 300);
+    const int photos = defects->fieldIndex(QStringLiteral("image_cnt"));
+    view.setColumnWidth(photos, 80);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    view.scrollTo(defects->index(0, photos));
+
+    // Dark pixels in the cell: the camera (and the count) are drawn.
+    auto darkPixels = [&](const QRect &rect) {
+        const QImage image = view.viewport()->grab(rect).toImage();
+        int dark = 0;
+        for (int y = 0; y < image.height(); ++y)
+            for (int x = 0; x < image.width(); ++x)
+                dark += qGray(image.pixel(x, y)) < 128;
+        return dark;
+    };
+    const QRect emptyCell = view.visualRect(defects->index(defects->findRowById(none), photos)).adjusted(1, 1, -1, -1);
+    const QRect cameraCell = view.visualRect(defects->index(defects->findRowById(three), photos)).adjusted(1, 1, -1, -1);
+    QCOMPARE(darkPixels(emptyCell), 0);
+    QVERIFY(darkPixels(cameraCell.adjusted(0, 0, -cameraCell.width() / 2, 0)) > 20); // the camera on the left
+
+    // A status's colour cell shows its colour, also in a selected row.
+    insertRow(QStringLiteral("status"), {{"id", 77}, {"status", "Lila"}, {"color", "#8020c0"}, {"type", 2},
+                                         {"reduction_option", 0}, {"pos", 77}});
+    insertRow(QStringLiteral("status"), {{"id", 78}, {"status", "Unbekannt"}, {"color", "keine Farbe"}, {"type", 2},
+                                         {"reduction_option", 0}, {"pos", 78}});
+    KalSqlTableModel *status = model(QStringLiteral("status"));
+    QVERIFY(status->select());
+    KalTableView statusView;
+    statusView.setModel(status);
+    statusView.resize(900, 500);
+    statusView.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&statusView));
+    const int colourColumn = status->fieldIndex(QStringLiteral("color"));
+    for (bool selected : {false, true}) {
+        if (selected)
+            QVERIFY(statusView.selectId(77));
+        const QModelIndex cell = status->index(status->findRowById(77), colourColumn);
+        statusView.scrollTo(cell);
+        const QImage image = statusView.viewport()->grab(statusView.visualRect(cell)).toImage();
+        QCOMPARE(QColor(image.pixel(image.width() / 2, image.height() / 2)), QColor(QStringLiteral("#8020c0")));
+    }
+    // An unknown colour name paints nothing.
+    QVERIFY(statusView.selectId(77));
+    const QModelIndex unknown = status->index(status->findRowById(78), colourColumn);
+    statusView.scrollTo(unknown);
+    const QImage image = statusView.viewport()->grab(statusView.visualRect(unknown)).toImage();
+    QCOMPARE(QColor(image.pixel(image.width() / 2, image.height() / 2)), statusView.palette().color(QPalette::Base));
+}
+
 // --- icons ------------------------------------------------------------------------------
 
 void TstTableView::iconsAreCompiledIn_data()

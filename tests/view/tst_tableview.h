@@ -39,6 +39,7 @@ private slots:
     void emptyTableHint();
     void cornerButtons();
     void statusColourPressReportsId();
+    void colourAndCameraCellsArePainted();
     void iconsAreCompiledIn_data();
     void iconsAreCompiledIn();
 
