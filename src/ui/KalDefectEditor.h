@@ -1,0 +1,117 @@
+#pragma once
+
+#include <QDialog>
+#include <QPointer>
+#include <QVariant>
+#include <QVector>
+
+class KalCompleterLineEdit;
+class KalCompleterTextEdit;
+class KalDateEdit;
+class KalProject;
+class KalSqlTableModel;
+class QCheckBox;
+class QComboBox;
+class QDataWidgetMapper;
+class QDialogButtonBox;
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QPushButton;
+
+// Edits one row of the defect model in place. OK writes the fields and
+// submits; Cancel reverts everything the dialog wrote into the defect row.
+// Companies and statuses created from here are written at once and stay.
+class KalDefectEditor : public QDialog
+{
+    Q_OBJECT
+
+public:
+    KalDefectEditor(KalProject *project, int row, QWidget *parent = nullptr);
+    ~KalDefectEditor() override;
+
+    // The fields compared on OK, in the order they are compared.
+    static QStringList comparedFields();
+    // Help text shown by the info button beside "Erfasst von".
+    static QString userIdHelpText();
+
+    // Id carried by a combo entry; these mark the special entries.
+    enum SpecialEntry { NewEntry = -1000, ClearPlanEntry = -1001 };
+
+public slots:
+    void slotAccepted();
+    void slotRejected();
+    void slotImageEditorButtonClicked();
+    void slotPlanDialogButtonClicked();
+    void slotPlanEditorButtonClicked();
+    void slotSelectedStatusChanged(int index);
+    void slotSelectedCompanyChanged(int index);
+    void slotSelectedPlanChanged(int index);
+    void slotTypeEditingFinished();
+    void slotRoomNameEditingFinished();
+    void slotRoomBookNoEditingFinished();
+    void slotPriorityEditingFinished();
+    void on_pbUserIdInfo_clicked();
+    void on_leUserId_textEdited(const QString &text);
+
+protected:
+    void done(int result) override;
+
+private:
+    void buildUi();
+    void fillCompanyCombo();
+    void fillStatusCombo();
+    void fillPlanCombo();
+    void selectComboId(QComboBox *combo, const QVariant &id);
+    void applyReductionRule(bool clearWhenNotAllowed);
+    bool statusAllowsReduction(const QVariant &statusId) const;
+    void readDates();
+    void writeDates();
+    void updatePhotoButton();
+    void saveGeometrySetting();
+    QVariant value(const QString &field) const;
+    bool writeValue(const QString &field, const QVariant &value);
+    qint64 createStatus(const QString &name);
+    static bool sameValue(const QVariant &a, const QVariant &b);
+
+    KalProject *m_project;
+    QPointer<KalSqlTableModel> m_defects;
+    QPointer<KalSqlTableModel> m_companies;
+    QPointer<KalSqlTableModel> m_statuses;
+    QPointer<KalSqlTableModel> m_plans;
+    int m_row;
+    qint64 m_defectId = -1;
+    QVector<QPair<QString, QVariant>> m_openValues;
+    QVariant m_companyBefore;
+    QVariant m_statusBefore;
+    QVariant m_planBefore;
+    bool m_finished = false;
+
+    QDataWidgetMapper *m_mapper = nullptr;
+    QGroupBox *gbCollection = nullptr;
+    QGroupBox *gbLocalization = nullptr;
+    QGroupBox *gbManagement = nullptr;
+    QLineEdit *leNumber = nullptr;
+    KalCompleterTextEdit *teDescription = nullptr;
+    QComboBox *cbxCompany = nullptr;
+    KalCompleterLineEdit *leType = nullptr;
+    KalCompleterLineEdit *leUserId = nullptr;
+    QPushButton *pbUserIdInfo = nullptr;
+    KalDateEdit *deCreationDate = nullptr;
+    KalCompleterLineEdit *leRoomName = nullptr;
+    KalCompleterLineEdit *leRoomBookNo = nullptr;
+    QComboBox *cbxPlan = nullptr;
+    QPushButton *pbPlanDialog = nullptr;
+    QPushButton *pbPlanEditor = nullptr;
+    QLineEdit *lePhotos = nullptr;
+    QPushButton *pbPhotoEditor = nullptr;
+    KalCompleterLineEdit *leCorrectionInstruction = nullptr;
+    KalCompleterLineEdit *lePriority = nullptr;
+    KalDateEdit *deCorrectionDate = nullptr;
+    KalDateEdit *deDeadline1 = nullptr;
+    KalDateEdit *deDeadline2 = nullptr;
+    QLabel *lblDeadline3 = nullptr;
+    QComboBox *cbxStatus = nullptr;
+    QCheckBox *cbReduction = nullptr;
+    QDialogButtonBox *m_buttons = nullptr;
+};
