@@ -25,7 +25,7 @@ public:
     bool load(const QString &path, QString *errorText);
     bool loadData(const QByteArray &data, QString *errorText);
 
-    // Guesses; each setter re-reads the rows and keeps the other choices.
+    // Guesses; each setter re-reads the rows and guesses the mapping again.
     QChar separator() const { return m_separator; }
     void setSeparator(QChar separator);
     Encoding encoding() const { return m_encoding; }
@@ -45,17 +45,23 @@ public:
 
     // Per column the KalCompanyRecord field it fills, or -1 (ignored).
     QVector<int> mapping() const { return m_mapping; }
-    // Assigns a field to a column; a field mapped elsewhere is taken from there.
+    // Assigns a field (or -1) to a column. Several columns may fill one field
+    // (street and house number): their values are joined with a blank.
     void setMapping(int column, int field);
 
     // Field a column caption names ("Firma", "E-Mail", "Straße", ...), -1 if none.
     static int fieldForCaption(const QString &caption);
 
-    // Mapped data rows; rows without any mapped value are left out.
+    // Mapped data rows, values trimmed; rows without any mapped value are
+    // left out. A city given as "12345 Musterstadt" fills the postcode too.
     QVector<KalCompanyRecord> companies() const;
 
 private:
+    void decode();
     void parse();
+    void splitHeader();
+    QChar guessSeparator() const;
+    bool guessHeader() const;
     void guessMapping();
     static QVector<QStringList> parseRows(const QString &text, QChar separator);
 
