@@ -111,7 +111,7 @@ const QRegularExpression &plzPattern()
 }
 const QRegularExpression &plzCityPattern()
 {
-    static const QRegularExpression p(QStringLiteral("^(?:D-|A-|CH-)?(\\d{4,5})\\s+(\\S.*)$"));
+    static const QRegularExpression p(QStringLiteral("^(?:D-|A-|CH-)?(\\d{4,5})\\s+(\\p{L}.*)$"));
     return p;
 }
 const QRegularExpression &phonePattern()

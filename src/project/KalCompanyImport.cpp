@@ -302,8 +302,12 @@ KalCompanyImport::Result KalCompanyImport::insertCompanies(KalProject &project,
         if (id < 0)
             return fail(tr("Es konnte keine neue Id vergeben werden."));
         insert.bindValue(QStringLiteral(":id"), id);
-        for (int field = 0; field < KalCompanyRecord::FieldCount; ++field)
-            insert.bindValue(QLatin1Char(':') + QLatin1String(s_columns[field]), record.values[field].trimmed());
+        for (int field = 0; field < KalCompanyRecord::FieldCount; ++field) {
+            // The text columns are NOT NULL: a null QString would bind as NULL.
+            const QString value = record.values[field].trimmed();
+            insert.bindValue(QLatin1Char(':') + QLatin1String(s_columns[field]),
+                             value.isEmpty() ? QString(QLatin1String("")) : value);
+        }
         insert.bindValue(QStringLiteral(":pos"), ++pos);
         if (!insert.exec())
             return fail(insert.lastError().text());
