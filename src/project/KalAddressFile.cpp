@@ -210,7 +210,8 @@ bool KalAddressFile::loadData(const QByteArray &data, QString *errorText)
     if (candidate.m_text.trimmed().isEmpty())
         return fail(tr("Die Datei ist leer."));
 
-    candidate.m_separator = candidate.guessSeparator();
+    candidate.m_separator =
+        candidate.m_declaredSeparator.isNull() ? candidate.guessSeparator() : candidate.m_declaredSeparator;
     candidate.parse();
     if (candidate.m_allRows.isEmpty())
         return fail(tr("Die Datei enthält keine Adressen."));
@@ -233,6 +234,16 @@ void KalAddressFile::decode()
     }
     if (m_text.startsWith(QChar(0xFEFF)))
         m_text.remove(0, 1);
+    // Spreadsheets write "sep=;" as the first line to name the separator.
+    m_declaredSeparator = QChar();
+    if (m_text.size() >= 5 && m_text.startsWith(QLatin1String("sep="), Qt::CaseInsensitive)) {
+        const int end = m_text.indexOf(QLatin1Char('\n'));
+        const QString line = m_text.left(end < 0 ? m_text.size() : end).trimmed();
+        if (line.size() == 5) {
+            m_declaredSeparator = line.at(4);
+            m_text.remove(0, end < 0 ? m_text.size() : end + 1);
+        }
+    }
 }
 
 QChar KalAddressFile::guessSeparator() const

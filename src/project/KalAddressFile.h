@@ -69,6 +69,7 @@ private:
     QString m_text;
     Encoding m_encoding = Utf8;
     QChar m_separator = QLatin1Char(';');
+    QChar m_declaredSeparator; // from a "sep=" first line
     bool m_hasHeader = false;
     QVector<QStringList> m_allRows; // including a header row
     QVector<QStringList> m_rows;

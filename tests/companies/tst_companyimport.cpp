@@ -122,6 +122,14 @@ private slots:
             << QByteArray("NAME;ORT\n\nGlas Klar;Aachen\n;\n")
             << ";" << int(KalAddressFile::Utf8) << true << 1
             << QStringList{"company=Glas Klar", "city=Aachen"} << QStringList{"company=Glas Klar", "city=Aachen"};
+        QTest::newRow("semicolons win over commas in names")
+            << QByteArray("Firma;Ort\nM\xC3\xBCller, Hans;Bonn\nSchmidt, Eva;K\xC3\xB6ln\n")
+            << ";" << int(KalAddressFile::Utf8) << true << 2
+            << QStringList{"company=Müller, Hans", "city=Bonn"} << QStringList{"company=Schmidt, Eva", "city=Köln"};
+        QTest::newRow("spreadsheet's sep= line, trailing separators")
+            << QByteArray("sep=,\r\nFirma,Ort,\r\nA;B GmbH,Trier,\r\n")
+            << "," << int(KalAddressFile::Utf8) << true << 1
+            << QStringList{"company=A;B GmbH", "city=Trier"} << QStringList{"company=A;B GmbH", "city=Trier"};
         QTest::newRow("UTF-16 with BOM")
             << QByteArray("\xFF\xFE")
                    + QTextCodec::codecForName("UTF-16LE")->fromUnicode(QString("Firma;Ort\nA\u00c4 GmbH;Trier\n"))
