@@ -10,6 +10,7 @@
 #include "KalSqlTableModel.h"
 #include "KalTableView.h"
 
+#include <QDir>
 #include <QHeaderView>
 #include <QIcon>
 #include <QImageReader>
@@ -855,6 +856,12 @@ void TstTableView::iconsAreCompiledIn_data()
     for (const QString &name : names)
         QTest::newRow(qPrintable(name)) << QStringLiteral(":/KalMainWindow/Resources/") + name;
     QTest::newRow("window icon") << QStringLiteral(":/KalDatabase/Pellwick.ico");
+    // Whatever else is compiled in must load as well.
+    const QDir folder(QStringLiteral(":/KalMainWindow/Resources"));
+    for (const QString &name : folder.entryList({QStringLiteral("*.png"), QStringLiteral("*.ico")}, QDir::Files)) {
+        if (!names.contains(name))
+            QTest::newRow(qPrintable(QStringLiteral("compiled in: ") + name)) << folder.filePath(name);
+    }
 }
 
 void TstTableView::iconsAreCompiledIn()
