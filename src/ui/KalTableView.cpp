@@ -111,7 +111,8 @@ void KalTableView::setModel(QAbstractItemModel *model)
 {
     if (m_sqlModel) {
         saveColumnWidths();
-        disconnect(m_sqlModel, nullptr, this, nullptr);
+        disconnect(m_sqlModel, &KalSqlTableModel::beforeSubmit, this, &KalTableView::slotStoreSelection);
+        disconnect(m_sqlModel, &KalSqlTableModel::afterSubmit, this, &KalTableView::slotResetSelection);
     }
     m_storedIds.clear();
     m_storedCurrentId = -1;
