@@ -110,6 +110,9 @@ void KalMessageBoxPrompt::notice(const QString &title, const QString &text, int 
                                                 QMessageBox::NoButton, dialogParent());
     box->setStandardButtons(QMessageBox::NoButton);
     box->setWindowModality(Qt::NonModal);
+    // The busy window of the work that follows may appear meanwhile; the
+    // notice is what the user is meant to read.
+    box->setWindowFlag(Qt::WindowStaysOnTopHint, true);
     box->show();
 
     QEventLoop loop;
