@@ -47,16 +47,16 @@ QTimer *whenBoxShows(const std::function<void(QMessageBox *)> &act)
     return timer;
 }
 
-KalPrompt::Button parseButton(const QString &spec)
+KalPrompt::Button parseButton(const QString &code)
 {
-    if (spec.startsWith(QLatin1String("+")))
-        return {KalPrompt::AcceptCustom, spec.mid(1)};
-    if (spec.startsWith(QLatin1String("-")))
-        return {KalPrompt::RejectCustom, spec.mid(1)};
+    if (code.startsWith(QLatin1String("+")))
+        return {KalPrompt::AcceptCustom, code.mid(1)};
+    if (code.startsWith(QLatin1String("-")))
+        return {KalPrompt::RejectCustom, code.mid(1)};
     static const QHash<QString, KalPrompt::ButtonRole> roles{
         {"Ok", KalPrompt::Ok}, {"Yes", KalPrompt::Yes}, {"No", KalPrompt::No}, {"Cancel", KalPrompt::Cancel},
         {"Save", KalPrompt::Save}, {"Discard", KalPrompt::Discard}, {"Abort", KalPrompt::Abort}};
-    return {roles.value(spec), QString()};
+    return {roles.value(code), QString()};
 }
 
 QMessageBox::StandardButton standardOf(KalPrompt::ButtonRole role)
@@ -222,8 +222,8 @@ void TstGuiSeams::messageBoxMapsButtons()
     message.icon = KalPrompt::Question;
     message.title = QStringLiteral("Projekt geändert");
     message.text = QStringLiteral("Das Projekt wurde geändert. Möchten Sie die Änderungen speichern?");
-    for (const QString &spec : buttons)
-        message.buttons << parseButton(spec);
+    for (const QString &code : buttons)
+        message.buttons << parseButton(code);
     message.defaultButton = defaultButton;
     message.escapeButton = escapeButton;
 
