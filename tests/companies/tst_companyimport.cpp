@@ -130,6 +130,10 @@ private slots:
             << QByteArray("sep=,\r\nFirma,Ort,\r\nA;B GmbH,Trier,\r\n")
             << "," << int(KalAddressFile::Utf8) << true << 1
             << QStringList{"company=A;B GmbH", "city=Trier"} << QStringList{"company=A;B GmbH", "city=Trier"};
+        QTest::newRow("old Mac line ends")
+            << QByteArray("Firma;Ort\rA GmbH;Bonn\rB KG;Trier\r")
+            << ";" << int(KalAddressFile::Utf8) << true << 2
+            << QStringList{"company=A GmbH", "city=Bonn"} << QStringList{"company=B KG", "city=Trier"};
         QTest::newRow("UTF-16 with BOM")
             << QByteArray("\xFF\xFE")
                    + QTextCodec::codecForName("UTF-16LE")->fromUnicode(QString("Firma;Ort\nA\u00c4 GmbH;Trier\n"))
@@ -214,6 +218,33 @@ private slots:
         QVERIFY2(error.contains("kaputt.csv") && error.contains(reason), qPrintable(error));
         QVERIFY(!file.load(m_dir.filePath("fehlt.csv"), &error));
         QVERIFY(error.contains("fehlt.csv"));
+    }
+
+    // Whatever a file holds: a clear refusal, or rows of equal width.
+    void garbledFiles()
+    {
+        const QByteArray alphabet("ab;,\t|\"\r\n 1@\xC3\xA4\xE4");
+        for (int seed = 1; seed <= 300; ++seed) {
+            QByteArray data;
+            quint32 x = quint32(seed) * 2654435761u;
+            const int size = 1 + seed % 97;
+            for (int i = 0; i < size; ++i) {
+                x = x * 1103515245u + 12345u;
+                data += alphabet.at(int((x >> 16) % quint32(alphabet.size())));
+            }
+            KalAddressFile file;
+            QString error;
+            if (!file.loadData(data, &error)) {
+                QVERIFY2(!error.isEmpty(), data.toHex().constData());
+                continue;
+            }
+            QVERIFY(file.columnCount() > 0);
+            QCOMPARE(file.mapping().size(), file.columnCount());
+            QCOMPARE(file.columnCaptions().size(), file.columnCount());
+            for (const QStringList &row : file.rows())
+                QCOMPARE(row.size(), file.columnCount());
+            QVERIFY(file.companies().size() <= file.rows().size());
+        }
     }
 
     void fromOtherProject()
