@@ -176,9 +176,11 @@ void KalMainWindow::createActions()
 
     actionEditPlanTable = later(QStringLiteral("actionEditPlanTable"), QStringLiteral("icon-plaene.ico"), tr("Pläne"),
                                 tr("Planverwaltung öffnen"));
-    actionEditStatusTable = later(QStringLiteral("actionEditStatusTable"), QStringLiteral("icon-status.ico"),
-                                  tr("Status"), tr("Statusverwaltung öffnen"));
+    actionEditStatusTable = makeAction(QStringLiteral("actionEditStatusTable"), QStringLiteral("icon-status.ico"));
+    actionEditStatusTable->setText(tr("Status"));
     actionEditStatusTable->setIconText(tr("Statusverwaltung öffnen"));
+    actionEditStatusTable->setToolTip(tr("Statusverwaltung öffnen"));
+    connect(actionEditStatusTable, &QAction::triggered, this, &KalMainWindow::on_actionEditStatusTable_triggered);
 
     actionEditProjectData = later(QStringLiteral("actionEditProjectData"), QStringLiteral("icon-projektdaten.ico"),
                                   tr("Projektdaten bearbeiten"), QString());
@@ -388,6 +390,8 @@ void KalMainWindow::createCentralWidget()
     tvDefects = new KalTableView(tablePane);
     tvDefects->setObjectName(QStringLiteral("tvDefects"));
     tvDefects->setSortingEnabled(true);
+    // A double click opens the defect editor; F2 still edits a cell in place.
+    tvDefects->setEditTriggers(QAbstractItemView::EditKeyPressed);
     tvDefects->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
     tvDefects->installEventFilter(this);
     tvDefects->viewport()->installEventFilter(this);
@@ -673,6 +677,12 @@ void KalMainWindow::bindDefectTable()
     if (QItemSelectionModel *selection = tvDefects->selectionModel())
         connect(selection, &QItemSelectionModel::currentRowChanged, this, &KalMainWindow::defectRowChanged,
                 Qt::UniqueConnection);
+    // The header keeps its sort indicator across models (a save rebuilds
+    // them); the new model is sorted to match it.
+    QHeaderView *header = tvDefects->horizontalHeader();
+    const int sortColumn = header->sortIndicatorSection();
+    if (sortColumn >= 0 && sortColumn < model->columnCount())
+        model->sort(sortColumn, header->sortIndicatorOrder());
 }
 
 void KalMainWindow::slotDefectModelAboutToReset()

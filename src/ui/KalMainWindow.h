@@ -56,6 +56,8 @@ public:
 
     // Adds a defect with its defaults and selects it; its id or -1.
     qint64 addDefect();
+    // Runs the defect editor on a defect and selects it again afterwards.
+    void openDefectEditor(qint64 id);
     // Copies the given defects; the ids of the copies.
     QList<qint64> copyDefects(const QList<qint64> &ids);
     QList<qint64> selectedDefectIds() const;
@@ -93,6 +95,7 @@ private slots:
     void on_actionFileSaveAs_triggered();
     void on_actionCompactDB_triggered();
     void on_actionAddDefect_triggered();
+    void on_actionEditStatusTable_triggered();
     void on_actionSettingsLanguage_triggered();
     void on_actionStartSpellChecking_triggered();
     void on_actionTooltipHelp_triggered();

@@ -2,6 +2,7 @@
 
 #include "KalMainWindow.h"
 
+#include "KalDefectEditor.h"
 #include "KalEnvironment.h"
 #include "KalFileDialog.h"
 #include "KalItemDelegate.h"
@@ -11,6 +12,7 @@
 #include "KalSettings.h"
 #include "KalShortHelpDialog.h"
 #include "KalSpellChecker.h"
+#include "KalStatusDialog.h"
 #include "KalSqlError.h"
 #include "KalSqlTableModel.h"
 #include "KalTableView.h"
@@ -132,7 +134,11 @@ int KalMainWindow::saveCurrent(bool askForName)
         if (QFileInfo(target).absoluteFilePath() == QFileInfo(m_project->projectPath()).absoluteFilePath())
             target.clear();
     }
+    // Saving reopens the working copy and rebuilds the models: keep the
+    // user's place in the list.
+    const QList<qint64> selected = selectedDefectIds();
     const int result = m_project->saveProject(target);
+    selectDefects(selected);
     if (result == KalProject::NotSaved)
         return Cancelled;
     if (result != KalProject::Saved) {
@@ -414,9 +420,30 @@ void KalMainWindow::on_actionAddDefect_triggered()
 
 void KalMainWindow::slotDefectTableAddButtonClicked()
 {
-    // The defect editor is not part of the program yet: the new row is
-    // selected and edited in the grid.
-    addDefect();
+    const qint64 id = addDefect();
+    if (id > 0)
+        openDefectEditor(id);
+}
+
+void KalMainWindow::openDefectEditor(qint64 id)
+{
+    KalSqlTableModel *model = defectModel();
+    if (!model)
+        return;
+    const int row = model->findRowById(id);
+    if (row < 0)
+        return;
+    {
+        KalDefectEditor editor(m_project, row, this);
+        editor.exec();
+    }
+    // Sorting or the edit may have moved the row: find it again by id.
+    tvDefects->doItemsLayout();
+    model = defectModel();
+    if (model && model->findRowById(id) >= 0) {
+        tvDefects->selectId(id, QAbstractItemView::PositionAtCenter);
+        defectRowChanged(QModelIndex(), tvDefects->currentIndex());
+    }
 }
 
 void KalMainWindow::slotDefectTableCopyButtonClicked()
@@ -433,9 +460,20 @@ void KalMainWindow::slotDefectTableDeleteButtonClicked()
 
 void KalMainWindow::slotOpenDefectEditor(const QModelIndex &index)
 {
-    // Until the defect editor exists a double click edits the cell in place;
-    // the row stays current.
-    Q_UNUSED(index)
+    KalSqlTableModel *model = defectModel();
+    if (!model || !index.isValid())
+        return;
+    const qint64 id = model->data(model->index(index.row(), model->fieldIndex(QStringLiteral("id"))), Qt::EditRole)
+                          .toLongLong();
+    openDefectEditor(id);
+}
+
+void KalMainWindow::on_actionEditStatusTable_triggered()
+{
+    if (!m_project->isOpen())
+        return;
+    KalStatusDialog dialog(m_project, this);
+    dialog.exec();
 }
 
 void KalMainWindow::slotSaveSelectionBeforeSorting(int logicalIndex, Qt::SortOrder order)

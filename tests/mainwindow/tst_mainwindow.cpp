@@ -17,6 +17,7 @@
 #include <QGraphicsTextItem>
 #include <QGraphicsView>
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
 #include <QToolBar>
@@ -57,6 +58,7 @@ private slots:
     void copyTakesOnlyTheListedFields();
     void selectionSurvivesSortAndSubmit();
     void planPanelShowsHintForDefectWithoutPlan();
+    void doubleClickOpensDefectEditor();
     void helpTextToggle();
     void importMenuState_data();
     void importMenuState();
@@ -542,6 +544,13 @@ void TestMainWindow::selectionSurvivesSortAndSubmit()
     QVERIFY(model->setData(model->index(model->findRowById(ids.at(0)), model->fieldIndex("description")), "geändert"));
     QVERIFY(model->submitWithNotification(true));
     QCOMPARE(sorted(), chosen);
+
+    // Saving rebuilds the models; order and selection stay.
+    KalFileDialog::queueChoice(path("s.pwp"));
+    QCOMPARE(m_window->maybeSave(false, true), 0);
+    model = m_window->defectModel();
+    QCOMPARE(model->data(model->index(0, room)).toString(), QStringLiteral("Abstellraum"));
+    QCOMPARE(sorted(), chosen);
 }
 
 void TestMainWindow::planPanelShowsHintForDefectWithoutPlan()
@@ -562,6 +571,39 @@ void TestMainWindow::planPanelShowsHintForDefectWithoutPlan()
              QStringLiteral("Dieser Mangel ist in keinem Plan verortet.\nMit einem Doppelklick in dieses Fenster können "
                             "Sie dem Mangel einen Plan zuordnen.\nMit einem Doppelklick auf einen Mangel können Sie "
                             "diesen Mangel bearbeiten.\n"));
+}
+
+void TestMainWindow::doubleClickOpensDefectEditor()
+{
+    QList<qint64> ids;
+    for (const char *room : {"Bad", "Flur", "Küche"})
+        ids << insertDefect({{"number", "1"}, {"description", "D"}, {"roomname", QString::fromUtf8(room)}});
+    KalTableView *view = m_window->defectTable();
+    KalSqlTableModel *model = m_window->defectModel();
+    const int row = model->findRowById(ids.at(1));
+    const QModelIndex cell = model->index(row, model->fieldIndex("roomname"));
+    view->scrollTo(cell);
+
+    QString opened;
+    QTimer poll;
+    poll.setInterval(50);
+    connect(&poll, &QTimer::timeout, [&opened, &poll] {
+        if (QWidget *modal = QApplication::activeModalWidget()) {
+            opened = QString::fromLatin1(modal->metaObject()->className());
+            poll.stop();
+            modal->close();
+        }
+    });
+    poll.start();
+    const QPoint at = view->visualRect(cell).center();
+    QTest::mousePress(view->viewport(), Qt::LeftButton, {}, at);
+    QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, at);
+    QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, at);
+    QCOMPARE(opened, QStringLiteral("KalDefectEditor"));
+    QCOMPARE(m_window->selectedDefectIds(), QList<qint64>{ids.at(1)});
+    // The double click did not also start editing the cell in place.
+    for (QLineEdit *edit : view->viewport()->findChildren<QLineEdit *>())
+        QVERIFY(!edit->isVisible());
 }
 
 void TestMainWindow::helpTextToggle()
@@ -657,7 +699,7 @@ void TestMainWindow::actionsWithoutFeatureAreDisabled_data()
     QTest::newRow("language") << "actionSettingsLanguage" << true << "Sprache wählen";
     QTest::newRow("about") << "actionProgramInfoDialog" << true << "Info über Pellwick";
     QTest::newRow("plans") << "actionEditPlanTable" << false << "Pläne";
-    QTest::newRow("statuses") << "actionEditStatusTable" << false << "Status";
+    QTest::newRow("statuses") << "actionEditStatusTable" << true << "Status";
     QTest::newRow("project data") << "actionEditProjectData" << false << "Projektdaten bearbeiten";
     QTest::newRow("companies") << "actionEditCompanyTable" << false << "Firmenliste bearbeiten";
     QTest::newRow("company format") << "actionEditCompanyFormat" << false << "Firmendaten Ausgabeformat";
