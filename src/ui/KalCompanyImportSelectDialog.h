@@ -1,0 +1,46 @@
+#pragma once
+
+#include <QDialog>
+#include <QVector>
+
+class KalProject;
+class QPushButton;
+
+// "Quelle wählen": where companies are imported from. Each source asks for
+// its file and then shows the import dialog for it.
+class KalCompanyImportSelectDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    enum Source { AddressFile = 1, ProjectFile = 2, SiteJournal = 3 };
+
+    explicit KalCompanyImportSelectDialog(KalProject *project, QWidget *parent = nullptr);
+
+    // Whether the import engines are part of the program.
+    static bool isAvailable() { return true; }
+
+    // Asks for the file of a source and runs its import dialog. Returns the
+    // ids of the inserted companies (empty when cancelled or nothing came in).
+    static QVector<qint64> importFrom(KalProject *project, Source source, QWidget *parent);
+
+    static QString fileDialogTitle(Source source);
+    static QString fileDialogFilter(Source source);
+
+    QVector<qint64> insertedIds() const { return m_insertedIds; }
+
+public slots:
+    void on_pbAddressFile_clicked();
+    void on_pbProjectFile_clicked();
+    void on_pbSiteJournal_clicked();
+
+private:
+    void choose(Source source);
+
+    KalProject *m_project;
+    QVector<qint64> m_insertedIds;
+    QPushButton *pbAddressFile = nullptr;
+    QPushButton *pbProjectFile = nullptr;
+    QPushButton *pbSiteJournal = nullptr;
+    QPushButton *pbCancel = nullptr;
+};

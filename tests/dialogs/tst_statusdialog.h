@@ -1,0 +1,30 @@
+#pragma once
+
+#include "dialogs_fixture.h"
+
+#include <QObject>
+
+class KalScriptedPrompt;
+
+class TstStatusDialog : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void cleanupTestCase();
+    void init();
+
+    void newProjectHasDefaults();
+    void addStatus();
+    void factorySetting_data();
+    void factorySetting();
+    void removeUserStatuses_data();
+    void removeUserStatuses();
+    void colourChoice_data();
+    void colourChoice();
+
+private:
+    DialogsFixture m_fx;
+    KalScriptedPrompt *m_prompt = nullptr;
+};
