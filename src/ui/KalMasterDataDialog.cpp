@@ -158,9 +158,18 @@ QWidget *KalMasterDataDialog::buildCompanyPage()
         tvCompanies->setModel(m_companyProxy);
         for (const char *hidden : {"id", "pos", "modified", "site_journal_id", "delete_on_import"})
             tvCompanies->setColumnHidden(m_companies->fieldIndex(QLatin1String(hidden)), true);
-        m_companyProxy->sort(m_companies->fieldIndex(QStringLiteral("pos")), Qt::AscendingOrder);
+        // Enabling sorting sorts by the header's indicator: point it at `pos`.
+        tvCompanies->horizontalHeader()->setSortIndicator(m_companies->fieldIndex(QStringLiteral("pos")), Qt::AscendingOrder);
         tvCompanies->setSortingEnabled(true);
+        m_companyProxy->sort(m_companies->fieldIndex(QStringLiteral("pos")), Qt::AscendingOrder);
         tvCompanies->horizontalHeader()->setSortIndicatorShown(false);
+        if (!tvCompanies->restoreColumnWidths()) {
+            for (int c = 0; c < m_companies->columnCount(); ++c)
+                tvCompanies->setColumnWidth(c, 110);
+            tvCompanies->setColumnWidth(m_companies->fieldIndex(QStringLiteral("company")), 170);
+            tvCompanies->setColumnWidth(m_companies->fieldIndex(QStringLiteral("plz")), 60);
+            tvCompanies->setColumnWidth(m_companies->fieldIndex(QStringLiteral("email")), 170);
+        }
         connect(tvCompanies, &KalTableView::signalAddButtonClicked, this, &KalMasterDataDialog::slotAddCompany);
         connect(tvCompanies->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
                 &KalMasterDataDialog::slotScrollAfterSorting);

@@ -64,8 +64,10 @@ KalStatusDialog::KalStatusDialog(KalProject *project, QWidget *parent)
         tvStatus->setModel(m_proxy);
         for (const char *hidden : {"id", "reduction_option", "pos"})
             tvStatus->setColumnHidden(m_model->fieldIndex(QLatin1String(hidden)), true);
-        m_proxy->sort(m_model->fieldIndex(QStringLiteral("pos")), Qt::AscendingOrder);
+        // Enabling sorting sorts by the header's indicator: point it at `pos`.
+        tvStatus->horizontalHeader()->setSortIndicator(m_model->fieldIndex(QStringLiteral("pos")), Qt::AscendingOrder);
         tvStatus->setSortingEnabled(true);
+        m_proxy->sort(m_model->fieldIndex(QStringLiteral("pos")), Qt::AscendingOrder);
         tvStatus->horizontalHeader()->setSortIndicatorShown(false);
         if (!tvStatus->restoreColumnWidths()) {
             tvStatus->setColumnWidth(m_model->fieldIndex(QStringLiteral("status")), 260);

@@ -53,6 +53,17 @@ void TstStatusDialog::newProjectHasDefaults()
         ++n;
     }
     QCOMPARE(n, 8);
+
+    // The grid lists them in their `pos` order, whatever the model's order.
+    QVERIFY(m_fx.exec(QStringLiteral("UPDATE status SET pos = 0 WHERE id = 8")));
+    QVERIFY(m_fx.reselect());
+    KalStatusDialog dialog(m_fx.project());
+    QAbstractItemModel *shown = dialog.tableView()->model();
+    const int idColumn = m_fx.model(QStringLiteral("status"))->idColumn();
+    QList<int> order;
+    for (int r = 0; r < shown->rowCount(); ++r)
+        order << shown->index(r, idColumn).data(Qt::EditRole).toInt();
+    QCOMPARE(order, (QList<int>{8, 1, 2, 3, 4, 5, 6, 7}));
 }
 
 void TstStatusDialog::addStatus()
