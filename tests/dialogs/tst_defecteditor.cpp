@@ -6,11 +6,18 @@
 #include "KalScriptedPrompt.h"
 #include "KalSqlTableModel.h"
 
+#include "KalCompanyDialog.h"
+
+#include <QApplication>
 #include <QCheckBox>
+#include <QInputDialog>
+#include <QTimer>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QTextEdit>
+#include <QSqlQuery>
 #include <QtTest>
+#include <functional>
 
 namespace {
 
@@ -30,6 +37,30 @@ void choose(QComboBox *combo, qint64 id)
     combo->setCurrentIndex(index);
     emit combo->activated(index);
 }
+
+// Answers the next modal dialog of type T with `answer` once it is shown.
+template <typename T>
+class ModalAnswer
+{
+public:
+    explicit ModalAnswer(const std::function<void(T *)> &answer)
+    {
+        m_timer.setInterval(10);
+        QObject::connect(&m_timer, &QTimer::timeout, [this, answer] {
+            if (auto *dialog = qobject_cast<T *>(QApplication::activeModalWidget())) {
+                m_timer.stop();
+                m_seen = true;
+                answer(dialog);
+            }
+        });
+        m_timer.start();
+    }
+    bool seen() const { return m_seen; }
+
+private:
+    QTimer m_timer;
+    bool m_seen = false;
+};
 
 } // namespace
 
@@ -265,4 +296,98 @@ void TstDefectEditor::invalidDateKeepsDialogOpen()
              QStringLiteral("2031-01-02"));
     editor.reject();
     QCoreApplication::processEvents();
+}
+
+void TstDefectEditor::newStatusFromEditor_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("created");
+
+    QTest::newRow("a name") << "Abgenommen" << true;
+    QTest::newRow("empty") << "" << false;
+    QTest::newRow("blanks only") << "   " << false;
+}
+
+void TstDefectEditor::newStatusFromEditor()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, created);
+
+    const int statusesBefore = m_fx.scalar(QStringLiteral("SELECT COUNT(*) FROM status")).toInt();
+    const qint64 id = newDefect({{QStringLiteral("status_id"), 7}, {QStringLiteral("reduction"), 1}});
+    QString title;
+    {
+        KalDefectEditor editor(m_fx.project(), rowOf(id));
+        auto *status = editor.findChild<QComboBox *>(QStringLiteral("cbxStatus"));
+        auto *reduction = editor.findChild<QCheckBox *>(QStringLiteral("cbReduction"));
+        ModalAnswer<QInputDialog> answer([&](QInputDialog *input) {
+            title = input->windowTitle();
+            input->setTextValue(name);
+            input->accept();
+        });
+        choose(status, KalDefectEditor::NewEntry);
+        QVERIFY(answer.seen());
+        QCOMPARE(title, QStringLiteral("Neuen Status anlegen"));
+        if (created) {
+            QCOMPARE(status->currentText(), name);
+            QCOMPARE(status->itemText(status->count() - 1), QStringLiteral("Neu..."));
+            // A new user status has no reduction option.
+            QVERIFY(!reduction->isEnabled());
+            QVERIFY(!reduction->isChecked());
+        } else {
+            QCOMPARE(status->currentData().toInt(), 7);
+            QVERIFY(reduction->isChecked());
+        }
+        // The status stays even though the defect edit is cancelled.
+        editor.reject();
+    }
+    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT COUNT(*) FROM status")).toInt(), statusesBefore + (created ? 1 : 0));
+    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT status_id FROM defect WHERE id = :id"), {{QStringLiteral("id"), id}})
+                 .toInt(),
+             7);
+    if (created) {
+        QSqlQuery q(m_fx.project()->database());
+        q.prepare(QStringLiteral("SELECT id, type, color, reduction_option, pos FROM status WHERE status = :name"));
+        q.bindValue(QStringLiteral(":name"), name);
+        QVERIFY(q.exec() && q.next());
+        QVERIFY(q.value(0).toInt() > 8);
+        QCOMPARE(q.value(1).toInt(), 2);
+        QCOMPARE(q.value(2).toString(), QStringLiteral("#859FAF"));
+        QCOMPARE(q.value(3).toInt(), 0);
+        QCOMPARE(q.value(4).toInt(), statusesBefore + 1);
+    }
+}
+
+void TstDefectEditor::newCompanyFromEditorStays()
+{
+    const qint64 id = newDefect({{QStringLiteral("company_id"), m_companyA}});
+    qint64 created = -1;
+    {
+        KalDefectEditor editor(m_fx.project(), rowOf(id));
+        auto *company = editor.findChild<QComboBox *>(QStringLiteral("cbxCompany"));
+        ModalAnswer<KalCompanyDialog> answer([&](KalCompanyDialog *dialog) {
+            dialog->findChild<QLineEdit *>(QStringLiteral("leCompany"))->setText(QStringLiteral("Gamma Glas"));
+            dialog->findChild<QLineEdit *>(QStringLiteral("leType"))->setText(QStringLiteral("Glaser"));
+            dialog->accept();
+        });
+        choose(company, KalDefectEditor::NewEntry);
+        QVERIFY(answer.seen());
+        created = company->currentData().toLongLong();
+        QVERIFY(created > m_companyB);
+        QVERIFY(company->currentText().contains(QStringLiteral("Gamma Glas")));
+        editor.slotAccepted();
+    }
+    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT company_id FROM defect WHERE id = :id"), {{QStringLiteral("id"), id}})
+                 .toLongLong(),
+             created);
+    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT company FROM company WHERE id = :id"), {{QStringLiteral("id"), created}})
+                 .toString(),
+             QStringLiteral("Gamma Glas"));
+    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT site_journal_data_modified FROM defect WHERE id = :id"),
+                         {{QStringLiteral("id"), id}})
+                 .toInt(),
+             1);
+    // Clean up so the other tests keep their two companies.
+    QVERIFY(m_fx.exec(QStringLiteral("DELETE FROM company WHERE id = :id"), {{QStringLiteral("id"), created}}));
+    QVERIFY(m_fx.reselect());
 }

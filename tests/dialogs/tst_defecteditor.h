@@ -24,6 +24,9 @@ private slots:
     void okMarksOnlyRealChanges();
     void combosFollowPositions();
     void invalidDateKeepsDialogOpen();
+    void newStatusFromEditor_data();
+    void newStatusFromEditor();
+    void newCompanyFromEditorStays();
 
 private:
     qint64 newDefect(const QVariantMap &values = QVariantMap());
