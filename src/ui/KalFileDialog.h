@@ -11,7 +11,8 @@ class QWidget;
 // nothing.
 //
 // Tests queue the next answers instead of showing a dialog: each queued
-// entry answers one dialog, an empty list means "cancel".
+// entry answers one dialog, an empty list means "cancel". Without a screen
+// (offscreen platform) a dialog nobody queued an answer for is cancelled.
 class KalFileDialog
 {
 public:

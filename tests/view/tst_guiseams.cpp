@@ -171,6 +171,13 @@ void TstGuiSeams::fileDialogCancelRemembersNothing()
     KalFileDialog::queueCancel();
     QVERIFY(KalFileDialog::getExistingDirectory(nullptr, KalSettings::ProjectOpen, QString()).isEmpty());
     QCOMPARE(KalSettings::filePathForDialog(KalSettings::ProjectOpen), remembered);
+
+    // Nothing queued and no screen: cancelled with a warning instead of waiting forever.
+    QCOMPARE(KalFileDialog::queuedChoices(), 0);
+    QTest::ignoreMessage(QtWarningMsg, "KalFileDialog: no answer queued for \"Projekt öffnen\", cancelled");
+    QVERIFY(KalFileDialog::getOpenFileName(nullptr, KalSettings::ProjectOpen, QStringLiteral("Projekt öffnen"),
+                                           QString()).isEmpty());
+    QCOMPARE(KalSettings::filePathForDialog(KalSettings::ProjectOpen), remembered);
 }
 
 void TstGuiSeams::fileDialogStartsWithProposedName()
