@@ -5,6 +5,7 @@
 
 #include <QAbstractItemView>
 #include <QLineEdit>
+#include <QPointer>
 #include <QSet>
 #include <QSettings>
 #include <QStringListModel>
@@ -165,8 +166,11 @@ void KalCompleter::showExplanation(QWidget *parent)
     message.escapeButton = 1;
     message.dontShowAgainKey = QLatin1String(DontShowKey);
     message.dontShowAgainText = tr("Diese Meldung nicht mehr anzeigen");
+    // The field may be a grid editor that closes once the focus goes to the
+    // message or dialog, so the dialog belongs to the field's window.
+    QPointer<QWidget> window(parent ? parent->window() : nullptr);
     if (KalPrompt::ask(message) == 0) {
-        KalCompleterDialog dialog(parent);
+        KalCompleterDialog dialog(window);
         dialog.exec();
     }
 }

@@ -145,19 +145,33 @@ void KalSpellCheckerDialog::clearMarking()
         m_edit->setExtraSelections({});
 }
 
+bool KalSpellCheckerDialog::fieldGone()
+{
+    if (m_edit && m_checker)
+        return false;
+    QDialog::reject();
+    return true;
+}
+
 void KalSpellCheckerDialog::on_pbIgnore_clicked()
 {
+    if (fieldGone())
+        return;
     goOn(m_wordStart + m_word.size());
 }
 
 void KalSpellCheckerDialog::on_pbIgnoreAll_clicked()
 {
+    if (fieldGone())
+        return;
     m_checker->ignoreWord(m_word);
     goOn(m_wordStart + m_word.size());
 }
 
 void KalSpellCheckerDialog::on_pbChange_clicked()
 {
+    if (fieldGone())
+        return;
     const QString replacement = m_leReplace->text();
     QTextCursor cursor(m_edit->document());
     cursor.setPosition(m_wordStart);
@@ -168,6 +182,8 @@ void KalSpellCheckerDialog::on_pbChange_clicked()
 
 void KalSpellCheckerDialog::on_pbChangeAll_clicked()
 {
+    if (fieldGone())
+        return;
     const QString replacement = m_leReplace->text();
     const QString text = m_edit->toPlainText();
     const QRegularExpression whole(QStringLiteral("\\b") + QRegularExpression::escape(m_word) + QStringLiteral("\\b"),
@@ -193,6 +209,8 @@ void KalSpellCheckerDialog::on_pbChangeAll_clicked()
 
 void KalSpellCheckerDialog::on_pbAddToDict_clicked()
 {
+    if (fieldGone())
+        return;
     m_checker->addToUserDict(m_word);
     goOn(m_wordStart + m_word.size());
 }

@@ -1,13 +1,15 @@
 #pragma once
 
 #include <QDialog>
+#include <QPointer>
+#include <QTextEdit>
 
-class KalSpellChecker;
+#include "KalSpellChecker.h"
+
 class QLabel;
 class QLineEdit;
 class QListWidget;
 class QPushButton;
-class QTextEdit;
 
 // Walks through a text field word by word and stops at every unknown word.
 class KalSpellCheckerDialog : public QDialog
@@ -40,12 +42,15 @@ protected:
 
 private:
     bool findNext();
+    bool fieldGone();
     void goOn(int fromPosition);
     void markWord();
     void clearMarking();
 
-    KalSpellChecker *m_checker;
-    QTextEdit *m_edit;
+    // Either may go away while the dialog is open (a grid editor closes when
+    // the focus leaves it); the check then simply ends.
+    QPointer<KalSpellChecker> m_checker;
+    QPointer<QTextEdit> m_edit;
     QLabel *m_lblWord;
     QListWidget *m_lwSuggestions;
     QLineEdit *m_leReplace;

@@ -470,6 +470,19 @@ private slots:
         QCOMPARE(edit.toPlainText(), QStringLiteral("Fenstr Tühr Fenstr Tühr"));
     }
 
+    void checkDialogFieldGone()
+    {
+        auto *edit = new QTextEdit;
+        edit->setPlainText(QStringLiteral("Fenstr Tühr"));
+        KalSpellCheckerDialog dialog(checker(), edit);
+        QVERIFY(dialog.start());
+        dialog.show();
+        delete edit;
+        dialog.findChild<QPushButton *>(QStringLiteral("pbChangeAll"))->click();
+        QVERIFY(!dialog.isVisible());
+        QVERIFY(prompt()->shown().isEmpty());
+    }
+
     void checkDialogWithoutErrors()
     {
         QTextEdit edit;
