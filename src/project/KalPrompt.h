@@ -32,6 +32,7 @@ public:
         int escapeButton = -1;     // index of the safe answer; -1: the last button
         QString dontShowAgainKey;  // settings key for a "don't show again" box
         QString dontShowAgainText; // its text
+        QString iconPath;          // own picture instead of the standard icon
     };
 
     virtual ~KalPrompt();

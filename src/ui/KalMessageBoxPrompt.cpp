@@ -4,6 +4,7 @@
 #include <QApplication>
 #include <QCheckBox>
 #include <QEventLoop>
+#include <QIcon>
 #include <QMessageBox>
 #include <QPointer>
 #include <QPushButton>
@@ -56,6 +57,8 @@ QString KalMessageBoxPrompt::dontShowAgainDefaultText()
 int KalMessageBoxPrompt::show(const Message &message)
 {
     QMessageBox box(boxIcon(message.icon), message.title, message.text, QMessageBox::NoButton, dialogParent());
+    if (!message.iconPath.isEmpty())
+        box.setIconPixmap(QIcon(message.iconPath).pixmap(48, 48));
 
     QVector<Button> buttons = message.buttons;
     if (buttons.isEmpty())
