@@ -39,7 +39,7 @@ QVector<Info> knownCompleters()
         {DefectTable, QStringLiteral("user_id"), LineEditKind, 5},
         {DefectTable, QStringLiteral("roomname"), LineEditKind, 7},
         {DefectTable, QStringLiteral("roombook_number"), LineEditKind, 8},
-        {DefectTable, QStringLiteral("correction_instruction"), TextEditKind, 11},
+        {DefectTable, QStringLiteral("correction_instruction"), LineEditKind, 11},
         {DefectTable, QStringLiteral("priority"), LineEditKind, 12},
         {QStringLiteral("plan_info"), QStringLiteral("plan_name"), LineEditKind, -1},
         {QStringLiteral("plan_info"), QStringLiteral("plan_index"), LineEditKind, -1},
