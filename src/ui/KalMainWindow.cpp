@@ -182,13 +182,18 @@ void KalMainWindow::createActions()
     actionEditStatusTable->setToolTip(tr("Statusverwaltung öffnen"));
     connect(actionEditStatusTable, &QAction::triggered, this, &KalMainWindow::on_actionEditStatusTable_triggered);
 
-    actionEditProjectData = later(QStringLiteral("actionEditProjectData"), QStringLiteral("icon-projektdaten.ico"),
-                                  tr("Projektdaten bearbeiten"), QString());
-    actionEditCompanyTable = later(QStringLiteral("actionEditCompanyTable"), QStringLiteral("icon-firmen.ico"),
-                                   tr("Firmenliste bearbeiten"), QString());
-    actionEditCompanyFormat = later(QStringLiteral("actionEditCompanyFormat"),
-                                    QStringLiteral("icon-firmen-format.ico"), tr("Firmendaten Ausgabeformat"),
-                                    QString());
+    actionEditProjectData = makeAction(QStringLiteral("actionEditProjectData"), QStringLiteral("icon-projektdaten.ico"));
+    actionEditProjectData->setText(tr("Projektdaten bearbeiten"));
+    actionEditProjectData->setToolTip(tr("Projektdaten bearbeiten"));
+    connect(actionEditProjectData, &QAction::triggered, this, &KalMainWindow::on_actionEditProjectData_triggered);
+    actionEditCompanyTable = makeAction(QStringLiteral("actionEditCompanyTable"), QStringLiteral("icon-firmen.ico"));
+    actionEditCompanyTable->setText(tr("Firmenliste bearbeiten"));
+    actionEditCompanyTable->setToolTip(tr("Firmenliste bearbeiten"));
+    connect(actionEditCompanyTable, &QAction::triggered, this, &KalMainWindow::on_actionEditCompanyTable_triggered);
+    actionEditCompanyFormat = makeAction(QStringLiteral("actionEditCompanyFormat"), QStringLiteral("icon-firmen-format.ico"));
+    actionEditCompanyFormat->setText(tr("Firmendaten Ausgabeformat"));
+    actionEditCompanyFormat->setToolTip(tr("Firmendaten Ausgabeformat"));
+    connect(actionEditCompanyFormat, &QAction::triggered, this, &KalMainWindow::on_actionEditCompanyFormat_triggered);
     actionEditLogos = later(QStringLiteral("actionEditLogos"), QStringLiteral("icon-logo.ico"),
                             tr("Logo hinzufügen / bearbeiten"), QString());
 
@@ -215,14 +220,18 @@ void KalMainWindow::createActions()
     actionImportFromApp = later(QStringLiteral("actionImportFromApp"), QStringLiteral("icon-datenimport-app.ico"),
                                 tr("Mängel und Firmen aus der Quellor App importieren\n"),
                                 tr("Importiert Mängel aus der Quellor App"));
-    actionImportDefectManagerCompanies = later(QStringLiteral("actionImportDefectManagerCompanies"),
-                                               QStringLiteral("icon-firmen-import.ico"),
-                                               tr("Import von Firmen aus anderer Pellwick-Datei"), QString());
-    actionImportSiteJournalCompanies = later(QStringLiteral("actionImportSiteJournalCompanies"),
-                                             QStringLiteral("icon-firmen-import.ico"),
-                                             tr("Import von Firmen aus Quellor Bautagebuch"), QString());
-    actionImportCSVCompanies = later(QStringLiteral("actionImportCSVCompanies"), QStringLiteral("icon-firmen-import.ico"),
-                                     tr("Import von Firmen aus externer Adress-Datei"), QString());
+    actionImportDefectManagerCompanies = makeAction(QStringLiteral("actionImportDefectManagerCompanies"), QStringLiteral("icon-firmen-import.ico"));
+    actionImportDefectManagerCompanies->setText(tr("Import von Firmen aus anderer Pellwick-Datei"));
+    actionImportDefectManagerCompanies->setToolTip(tr("Import von Firmen aus anderer Pellwick-Datei"));
+    connect(actionImportDefectManagerCompanies, &QAction::triggered, this, &KalMainWindow::on_actionImportDefectManagerCompanies_triggered);
+    actionImportSiteJournalCompanies = makeAction(QStringLiteral("actionImportSiteJournalCompanies"), QStringLiteral("icon-firmen-import.ico"));
+    actionImportSiteJournalCompanies->setText(tr("Import von Firmen aus Quellor Bautagebuch"));
+    actionImportSiteJournalCompanies->setToolTip(tr("Import von Firmen aus Quellor Bautagebuch"));
+    connect(actionImportSiteJournalCompanies, &QAction::triggered, this, &KalMainWindow::on_actionImportSiteJournalCompanies_triggered);
+    actionImportCSVCompanies = makeAction(QStringLiteral("actionImportCSVCompanies"), QStringLiteral("icon-firmen-import.ico"));
+    actionImportCSVCompanies->setText(tr("Import von Firmen aus externer Adress-Datei"));
+    actionImportCSVCompanies->setToolTip(tr("Import von Firmen aus externer Adress-Datei"));
+    connect(actionImportCSVCompanies, &QAction::triggered, this, &KalMainWindow::on_actionImportCSVCompanies_triggered);
 
     actionSettingsLanguage = makeAction(QStringLiteral("actionSettingsLanguage"), QStringLiteral("icon-sprache.ico"));
     actionSettingsLanguage->setText(tr("Sprache wählen"));

@@ -96,6 +96,12 @@ private slots:
     void on_actionCompactDB_triggered();
     void on_actionAddDefect_triggered();
     void on_actionEditStatusTable_triggered();
+    void on_actionEditProjectData_triggered();
+    void on_actionEditCompanyTable_triggered();
+    void on_actionEditCompanyFormat_triggered();
+    void on_actionImportDefectManagerCompanies_triggered();
+    void on_actionImportSiteJournalCompanies_triggered();
+    void on_actionImportCSVCompanies_triggered();
     void on_actionSettingsLanguage_triggered();
     void on_actionStartSpellChecking_triggered();
     void on_actionTooltipHelp_triggered();
@@ -120,6 +126,8 @@ private slots:
 
 private:
     int highestDefectNumber() const;
+    void openMasterData(int page);
+    void importCompanies(int source);
     qint64 insertDefectRow(const QMap<QString, QVariant> &values);
     void createActions();
     void createMenus();

@@ -2,11 +2,13 @@
 
 #include "KalMainWindow.h"
 
+#include "KalCompanyImportSelectDialog.h"
 #include "KalDefectEditor.h"
 #include "KalEnvironment.h"
 #include "KalFileDialog.h"
 #include "KalItemDelegate.h"
 #include "KalLanguageDialog.h"
+#include "KalMasterDataDialog.h"
 #include "KalProject.h"
 #include "KalPrompt.h"
 #include "KalSettings.h"
@@ -466,6 +468,64 @@ void KalMainWindow::slotOpenDefectEditor(const QModelIndex &index)
     const qint64 id = model->data(model->index(index.row(), model->fieldIndex(QStringLiteral("id"))), Qt::EditRole)
                           .toLongLong();
     openDefectEditor(id);
+}
+
+void KalMainWindow::openMasterData(int page)
+{
+    if (!m_project->isOpen())
+        return;
+    const QList<qint64> selected = selectedDefectIds();
+    {
+        KalMasterDataDialog dialog(m_project, this);
+        dialog.setCurrentPage(KalMasterDataDialog::Page(page));
+        dialog.exec();
+    }
+    // Company texts and the project name may have changed.
+    updateProjectHeader();
+    if (KalSqlTableModel *model = defectModel())
+        model->invalidateLookups();
+    tvDefects->viewport()->update();
+    selectDefects(selected);
+}
+
+void KalMainWindow::on_actionEditProjectData_triggered()
+{
+    openMasterData(KalMasterDataDialog::ProjectPage);
+}
+
+void KalMainWindow::on_actionEditCompanyTable_triggered()
+{
+    openMasterData(KalMasterDataDialog::CompanyPage);
+}
+
+void KalMainWindow::on_actionEditCompanyFormat_triggered()
+{
+    openMasterData(KalMasterDataDialog::CompanyFormatPage);
+}
+
+void KalMainWindow::importCompanies(int source)
+{
+    if (!m_project->isOpen())
+        return;
+    KalCompanyImportSelectDialog::importFrom(m_project, KalCompanyImportSelectDialog::Source(source), this);
+    if (KalSqlTableModel *model = defectModel())
+        model->invalidateLookups();
+    tvDefects->viewport()->update();
+}
+
+void KalMainWindow::on_actionImportDefectManagerCompanies_triggered()
+{
+    importCompanies(KalCompanyImportSelectDialog::ProjectFile);
+}
+
+void KalMainWindow::on_actionImportSiteJournalCompanies_triggered()
+{
+    importCompanies(KalCompanyImportSelectDialog::SiteJournal);
+}
+
+void KalMainWindow::on_actionImportCSVCompanies_triggered()
+{
+    importCompanies(KalCompanyImportSelectDialog::AddressFile);
 }
 
 void KalMainWindow::on_actionEditStatusTable_triggered()

@@ -59,6 +59,8 @@ private slots:
     void selectionSurvivesSortAndSubmit();
     void planPanelShowsHintForDefectWithoutPlan();
     void doubleClickOpensDefectEditor();
+    void actionsOpenTheirDialogs_data();
+    void actionsOpenTheirDialogs();
     void helpTextToggle();
     void importMenuState_data();
     void importMenuState();
@@ -606,6 +608,39 @@ void TestMainWindow::doubleClickOpensDefectEditor()
         QVERIFY(!edit->isVisible());
 }
 
+void TestMainWindow::actionsOpenTheirDialogs_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QString>("dialog");
+    QTest::newRow("statuses") << "actionEditStatusTable" << "KalStatusDialog";
+    QTest::newRow("project data") << "actionEditProjectData" << "KalMasterDataDialog";
+    QTest::newRow("companies") << "actionEditCompanyTable" << "KalMasterDataDialog";
+    QTest::newRow("company format") << "actionEditCompanyFormat" << "KalMasterDataDialog";
+    QTest::newRow("language") << "actionSettingsLanguage" << "KalLanguageDialog";
+    QTest::newRow("short help 1") << "actionShortHelpImportFromSiteJournal" << "KalShortHelpDialog";
+    QTest::newRow("short help 2") << "actionShortHelpImportFromMobile" << "KalShortHelpDialog";
+}
+
+void TestMainWindow::actionsOpenTheirDialogs()
+{
+    QFETCH(QString, action);
+    QFETCH(QString, dialog);
+    QString opened;
+    QTimer poll;
+    poll.setInterval(50);
+    connect(&poll, &QTimer::timeout, [&opened, &poll] {
+        if (QWidget *modal = QApplication::activeModalWidget()) {
+            opened = QString::fromLatin1(modal->metaObject()->className());
+            poll.stop();
+            modal->close();
+        }
+    });
+    poll.start();
+    m_window->findChild<QAction *>(action)->trigger();
+    QCOMPARE(opened, dialog);
+    QVERIFY(m_window->project()->isOpen());
+}
+
 void TestMainWindow::helpTextToggle()
 {
     auto *action = m_window->findChild<QAction *>(QStringLiteral("actionTooltipHelp"));
@@ -700,9 +735,9 @@ void TestMainWindow::actionsWithoutFeatureAreDisabled_data()
     QTest::newRow("about") << "actionProgramInfoDialog" << true << "Info über Pellwick";
     QTest::newRow("plans") << "actionEditPlanTable" << false << "Pläne";
     QTest::newRow("statuses") << "actionEditStatusTable" << true << "Status";
-    QTest::newRow("project data") << "actionEditProjectData" << false << "Projektdaten bearbeiten";
-    QTest::newRow("companies") << "actionEditCompanyTable" << false << "Firmenliste bearbeiten";
-    QTest::newRow("company format") << "actionEditCompanyFormat" << false << "Firmendaten Ausgabeformat";
+    QTest::newRow("project data") << "actionEditProjectData" << true << "Projektdaten bearbeiten";
+    QTest::newRow("companies") << "actionEditCompanyTable" << true << "Firmenliste bearbeiten";
+    QTest::newRow("company format") << "actionEditCompanyFormat" << true << "Firmendaten Ausgabeformat";
     QTest::newRow("logos") << "actionEditLogos" << false << "Logo hinzufügen / bearbeiten";
     QTest::newRow("print short") << "actionPrintDefectListShort" << false << "Mängelliste kompakt";
     QTest::newRow("print long") << "actionPrintDefectListLong" << false << "Mängelliste detailliert";
@@ -710,7 +745,11 @@ void TestMainWindow::actionsWithoutFeatureAreDisabled_data()
     QTest::newRow("initial import") << "actionInitialDataImport" << false
                                     << "Mängel und Firmen aus einem Bautagebuch importieren";
     QTest::newRow("app import") << "actionImportFromApp" << false << "Mängel und Firmen aus der Quellor App importieren\n";
-    QTest::newRow("csv import") << "actionImportCSVCompanies" << false << "Import von Firmen aus externer Adress-Datei";
+    QTest::newRow("csv import") << "actionImportCSVCompanies" << true << "Import von Firmen aus externer Adress-Datei";
+    QTest::newRow("project file import") << "actionImportDefectManagerCompanies" << true
+                                         << "Import von Firmen aus anderer Pellwick-Datei";
+    QTest::newRow("journal company import") << "actionImportSiteJournalCompanies" << true
+                                            << "Import von Firmen aus Quellor Bautagebuch";
     QTest::newRow("completer") << "actionSettingsCompleter" << false << "Texte ändern - Eingabe";
     QTest::newRow("plan size") << "actionSettingsPlanSize" << false << "Plangröße";
     QTest::newRow("photo size") << "actionSettingsImageSize" << false << "Fotogröße";
