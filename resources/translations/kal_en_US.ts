@@ -37,6 +37,43 @@
     </message>
 </context>
 <context>
+    <name>KalAddressFile</name>
+    <message>
+        <source>Die Datei
+%1
+kann nicht importiert werden:
+%2</source>
+        <translation>The file
+%1
+cannot be imported:
+%2</translation>
+    </message>
+    <message>
+        <source>Die Datei existiert nicht.</source>
+        <translation>The file does not exist.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist zu groß für eine Adressdatei.</source>
+        <translation>The file is too large for an address file.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist keine Textdatei.</source>
+        <translation>The file is not a text file.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist leer.</source>
+        <translation>The file is empty.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält keine Adressen.</source>
+        <translation>The file contains no addresses.</translation>
+    </message>
+    <message>
+        <source>Spalte %1</source>
+        <translation>Column %1</translation>
+    </message>
+</context>
+<context>
     <name>KalCommandLine</name>
     <message>
         <source>
@@ -79,6 +116,405 @@ The site journal file %1 does not exist.</translation>
     <message>
         <source>Info</source>
         <translation>Info</translation>
+    </message>
+</context>
+<context>
+    <name>KalCompanyDialog</name>
+    <message>
+        <source>Gewerk / Baufirma anlegen</source>
+        <translation>Create trade / contractor</translation>
+    </message>
+    <message>
+        <source>Ansprechpartner</source>
+        <translation>Contact person</translation>
+    </message>
+    <message>
+        <source>Gewerk:</source>
+        <translation>Trade:</translation>
+    </message>
+    <message>
+        <source>Vorname:</source>
+        <translation>First name:</translation>
+    </message>
+    <message>
+        <source>Nachname:</source>
+        <translation>Last name:</translation>
+    </message>
+    <message>
+        <source>Firma:</source>
+        <translation>Company:</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Bitte geben Sie mindestens ein Gewerk, einen Namen oder eine Firma ein.</source>
+        <translation>Please enter at least a trade, a name or a company.</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Database error</translation>
+    </message>
+    <message>
+        <source>Die Firma konnte nicht gespeichert werden.</source>
+        <translation>The company could not be saved.</translation>
+    </message>
+</context>
+<context>
+    <name>KalCompanyFormat</name>
+    <message>
+        <source>- leer -</source>
+        <translation>- empty -</translation>
+    </message>
+    <message>
+        <source>Gewerk</source>
+        <translation>Trade</translation>
+    </message>
+    <message>
+        <source>Vorname</source>
+        <translation>First name</translation>
+    </message>
+    <message>
+        <source>Nachname</source>
+        <translation>Last name</translation>
+    </message>
+    <message>
+        <source>Firma</source>
+        <translation>Company</translation>
+    </message>
+    <message>
+        <source>Straße</source>
+        <translation>Street</translation>
+    </message>
+    <message>
+        <source>Stadt</source>
+        <translation>City</translation>
+    </message>
+    <message>
+        <source>Telefon</source>
+        <translation>Telephone</translation>
+    </message>
+    <message>
+        <source>Handy</source>
+        <translation>Cell phone phone</translation>
+    </message>
+    <message>
+        <source>E-Mail</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Architekt</source>
+        <translation>Architect</translation>
+    </message>
+</context>
+<context>
+    <name>KalCompanyImport</name>
+    <message>
+        <source>Die Datei
+%1
+existiert nicht.</source>
+        <translation>The file
+%1
+does not exist.</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+konnte nicht geöffnet werden:
+%2</source>
+        <translation>The file
+%1
+could not be opened:
+%2</translation>
+    </message>
+    <message>
+        <source>Die Firmen der Datei
+%1
+konnten nicht gelesen werden:
+%2</source>
+        <translation>The companies of the file
+%1
+could not be read:
+%2</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+enthält keine Firmen.</source>
+        <translation>The file
+%1
+contains no companies.</translation>
+    </message>
+    <message>
+        <source>Gewerk</source>
+        <translation>Trade</translation>
+    </message>
+    <message>
+        <source>Vorname</source>
+        <translation>First name</translation>
+    </message>
+    <message>
+        <source>Nachname</source>
+        <translation>Last name</translation>
+    </message>
+    <message>
+        <source>Firma</source>
+        <translation>Company</translation>
+    </message>
+    <message>
+        <source>Straße</source>
+        <translation>Street</translation>
+    </message>
+    <message>
+        <source>PLZ</source>
+        <translation>ZIP code</translation>
+    </message>
+    <message>
+        <source>Stadt</source>
+        <translation>City</translation>
+    </message>
+    <message>
+        <source>Telefon</source>
+        <translation>Telephone</translation>
+    </message>
+    <message>
+        <source>Fax</source>
+        <translation>Fax</translation>
+    </message>
+    <message>
+        <source>Mobil</source>
+        <translation>Cell phone</translation>
+    </message>
+    <message>
+        <source>E-Mail</source>
+        <translation>E-mail</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+ist keine Pellwick-Projektdatei.</source>
+        <translation>The file
+%1
+is not a Pellwick project file.</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+ist keine Bautagebuch-Datei.</source>
+        <translation>The file
+%1
+is not a site journal file.</translation>
+    </message>
+    <message>
+        <source>Es ist kein Projekt geöffnet.</source>
+        <translation>No project is open.</translation>
+    </message>
+    <message>
+        <source>Das Projekt ist schreibgeschützt; es können keine Firmen importiert werden.</source>
+        <translation>The project is write-protected; no companies can be imported.</translation>
+    </message>
+    <message>
+        <source>Die geänderten Firmen konnten nicht gespeichert werden:
+%1</source>
+        <translation>The changed companies could not be saved:
+%1</translation>
+    </message>
+    <message>
+        <source>Die Firmen konnten nicht importiert werden:
+%1</source>
+        <translation>The companies could not be imported:
+%1</translation>
+    </message>
+    <message>
+        <source>Es konnte keine neue Id vergeben werden.</source>
+        <translation>No new id could be assigned.</translation>
+    </message>
+</context>
+<context>
+    <name>KalCompanyImportDialog</name>
+    <message>
+        <source>Firmen importieren</source>
+        <translation>Import companies</translation>
+    </message>
+    <message>
+        <source>Adressdatei</source>
+        <translation>Address file</translation>
+    </message>
+    <message>
+        <source>; (Semikolon)</source>
+        <translation>; (semicolon)</translation>
+    </message>
+    <message>
+        <source>, (Komma)</source>
+        <translation>, (comma)</translation>
+    </message>
+    <message>
+        <source>Tabulator</source>
+        <translation>Tab</translation>
+    </message>
+    <message>
+        <source>| (senkrechter Strich)</source>
+        <translation>| (vertical bar)</translation>
+    </message>
+    <message>
+        <source>Erste Zeile enthält Spaltenüberschriften</source>
+        <translation>First row contains column headings</translation>
+    </message>
+    <message>
+        <source>Ordnen Sie in der ersten Zeile jeder Spalte das passende Feld zu.</source>
+        <translation>In the first row of each column, assign the matching field.</translation>
+    </message>
+    <message>
+        <source>Trennzeichen:</source>
+        <translation>Separator:</translation>
+    </message>
+    <message>
+        <source>Zeichensatz:</source>
+        <translation>Character set:</translation>
+    </message>
+    <message>
+        <source>Zu importierende Firmen</source>
+        <translation>Companies to import</translation>
+    </message>
+    <message>
+        <source>Firma</source>
+        <translation>Company</translation>
+    </message>
+    <message>
+        <source>Gewerk</source>
+        <translation>Trade</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Stadt</source>
+        <translation>City</translation>
+    </message>
+    <message>
+        <source>Hinweis</source>
+        <translation>Note</translation>
+    </message>
+    <message>
+        <source>Alle auswählen</source>
+        <translation>Select all</translation>
+    </message>
+    <message>
+        <source>Keine auswählen</source>
+        <translation>Select none</translation>
+    </message>
+    <message>
+        <source>Importieren</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>Quelle: %1</source>
+        <translation>Source: %1</translation>
+    </message>
+    <message>
+        <source>Feld</source>
+        <translation>Field</translation>
+    </message>
+    <message>
+        <source>- ignorieren -</source>
+        <translation>- ignore -</translation>
+    </message>
+    <message>
+        <source>bereits vorhanden</source>
+        <translation>already exists</translation>
+    </message>
+    <message>
+        <source>Eine Firma ist im Projekt bereits vorhanden (rot markiert) und wurde nicht ausgewählt.</source>
+        <translation>One company already exists in the project (marked red) and was not selected.</translation>
+    </message>
+    <message>
+        <source>%1 Firmen sind im Projekt bereits vorhanden (rot markiert) und wurden nicht ausgewählt.</source>
+        <translation>%1 companies already exist in the project (marked red) and were not selected.</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Die Firmen konnten nicht importiert werden.</source>
+        <translation>The companies could not be imported.</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Eine Firma wurde importiert.</source>
+        <translation>One company was imported.</translation>
+    </message>
+    <message>
+        <source>%1 Firmen wurden importiert.</source>
+        <translation>%1 companies were imported.</translation>
+    </message>
+</context>
+<context>
+    <name>KalCompanyImportSelectDialog</name>
+    <message>
+        <source>Quelle wählen</source>
+        <translation>Choose source</translation>
+    </message>
+    <message>
+        <source>&amp;Externe Adress-Datei</source>
+        <translation>&amp;External address file</translation>
+    </message>
+    <message>
+        <source>Andere &amp;Pellwick-Datei</source>
+        <translation>Other &amp;Pellwick file</translation>
+    </message>
+    <message>
+        <source>Quellor &amp;Bautagebuch</source>
+        <translation>Quellor &amp;site journal</translation>
+    </message>
+    <message>
+        <source>&amp;Abbrechen</source>
+        <translation>&amp;Cancel</translation>
+    </message>
+    <message>
+        <source>Zu importierende Adressdatei auswählen</source>
+        <translation>Choose the address file to import</translation>
+    </message>
+    <message>
+        <source>Pellwick-Datei auswählen</source>
+        <translation>Choose Pellwick file</translation>
+    </message>
+    <message>
+        <source>Bautagebuch-Datei auswählen</source>
+        <translation>Choose site journal file</translation>
+    </message>
+    <message>
+        <source>Adressdateien (*.csv *.txt *asc *.tab *.prn);;alle Dateien (*.*)</source>
+        <translation>Address files (*.csv *.txt *asc *.tab *.prn);;all files (*.*)</translation>
+    </message>
+    <message>
+        <source>Pellwick Projekt (*.pwp)</source>
+        <translation>Pellwick project (*.pwp)</translation>
+    </message>
+    <message>
+        <source>Bautagebuch (*.sjd)</source>
+        <translation>Site journal (*.sjd)</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Die Firmen können nicht aus dem geöffneten Projekt selbst importiert werden.</source>
+        <translation>The companies cannot be imported from the open project itself.</translation>
+    </message>
+    <message>
+        <source>Dateifehler</source>
+        <translation>File error</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 enthält keine Firmen.</source>
+        <translation>The file %1 contains no companies.</translation>
     </message>
 </context>
 <context>
@@ -381,6 +817,180 @@ texts that have been entered in this field so far.</translation>
 Bitte verwenden Sie das Format %1!</source>
         <translation>The date entered is not correct.
 Please use the format %1!</translation>
+    </message>
+</context>
+<context>
+    <name>KalDefectCsv</name>
+    <message>
+        <source>Die Mängelliste konnte nicht gelesen werden:
+%1</source>
+        <translation>The defect list could not be read:
+%1</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+konnte nicht geschrieben werden:
+%2</source>
+        <translation>The file
+%1
+could not be written:
+%2</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Es ist kein Projekt geöffnet.</source>
+        <translation>No project is open.</translation>
+    </message>
+    <message>
+        <source>Dateifehler</source>
+        <translation>File error</translation>
+    </message>
+</context>
+<context>
+    <name>KalDefectEditor</name>
+    <message>
+        <source>Tragen Sie hier die Initialen der Person ein, die den Mangel erfasst hat
+(höchstens zwei Buchstaben, z. B. &quot;KM&quot; für Karl Mustermann).
+Kleinbuchstaben werden automatisch in Großbuchstaben umgewandelt.</source>
+        <translation>Enter here the initials of the person who recorded the defect
+(at most two letters, e.g. &quot;JS&quot; for John Smith).
+Lower-case letters are converted to capitals automatically.</translation>
+    </message>
+    <message>
+        <source>Mangel bearbeiten</source>
+        <translation>Edit defect</translation>
+    </message>
+    <message>
+        <source>Erfassung</source>
+        <translation>Recording</translation>
+    </message>
+    <message>
+        <source>Hinweis zum Feld &quot;Erfasst von&quot;</source>
+        <translation>Note on the field &quot;Recorded by&quot;</translation>
+    </message>
+    <message>
+        <source>Nummer</source>
+        <translation>Number</translation>
+    </message>
+    <message>
+        <source>Beschreibung</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Firma</source>
+        <translation>Company</translation>
+    </message>
+    <message>
+        <source>Typ</source>
+        <translation>Type</translation>
+    </message>
+    <message>
+        <source>Erfasst von</source>
+        <translation>Recorded by</translation>
+    </message>
+    <message>
+        <source>Erfasst am</source>
+        <translation>Recorded on</translation>
+    </message>
+    <message>
+        <source>Lokalisierung</source>
+        <translation>Location</translation>
+    </message>
+    <message>
+        <source>Plan austauschen</source>
+        <translation>Replace plan</translation>
+    </message>
+    <message>
+        <source>Marker bearbeiten</source>
+        <translation>Edit marker</translation>
+    </message>
+    <message>
+        <source>Fotos hinzufügen</source>
+        <translation>Add photos</translation>
+    </message>
+    <message>
+        <source>Raumname</source>
+        <translation>Room name</translation>
+    </message>
+    <message>
+        <source>Raumbuch-Nr.</source>
+        <translation>Room schedule no.</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>Plan</translation>
+    </message>
+    <message>
+        <source>Fotos</source>
+        <translation>Photos</translation>
+    </message>
+    <message>
+        <source>Management</source>
+        <translation>Management</translation>
+    </message>
+    <message>
+        <source>3. Nachfrist</source>
+        <translation>3rd extension</translation>
+    </message>
+    <message>
+        <source>Minderung</source>
+        <translation>Price reduction</translation>
+    </message>
+    <message>
+        <source>Beseitigungsanweisung</source>
+        <translation>Remedy instruction</translation>
+    </message>
+    <message>
+        <source>Priorität</source>
+        <translation>Priority</translation>
+    </message>
+    <message>
+        <source>Frist</source>
+        <translation>Deadline</translation>
+    </message>
+    <message>
+        <source>1. Nachfrist</source>
+        <translation>1st extension</translation>
+    </message>
+    <message>
+        <source>2. Nachfrist</source>
+        <translation>2nd extension</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Neu...</source>
+        <translation>New...</translation>
+    </message>
+    <message>
+        <source>%1 (Index %2)</source>
+        <translation>%1 (revision %2)</translation>
+    </message>
+    <message>
+        <source>Planzuordnung aufheben</source>
+        <translation>Remove plan assignment</translation>
+    </message>
+    <message>
+        <source>Neuen Status anlegen</source>
+        <translation>Create new status</translation>
+    </message>
+    <message>
+        <source>Status:</source>
+        <translation>Status:</translation>
+    </message>
+    <message>
+        <source>Sie können hier einen neuen Status für dieses Projekt anlegen</source>
+        <translation>Here you can create a new status for this project</translation>
+    </message>
+    <message>
+        <source>Fotos bearbeiten</source>
+        <translation>Edit photos</translation>
     </message>
 </context>
 <context>
@@ -877,7 +1487,129 @@ The changes will be saved before the database is cleaned up.
     </message>
 </context>
 <context>
+    <name>KalMasterDataDialog</name>
+    <message>
+        <source>Stammdaten</source>
+        <translation>Master data</translation>
+    </message>
+    <message>
+        <source>Projektdaten</source>
+        <translation>Project data</translation>
+    </message>
+    <message>
+        <source>Firmendaten</source>
+        <translation>Company data</translation>
+    </message>
+    <message>
+        <source>Projektname:</source>
+        <translation>Project name:</translation>
+    </message>
+    <message>
+        <source>Projektnummer:</source>
+        <translation>Project number:</translation>
+    </message>
+    <message>
+        <source>Druckausgabe</source>
+        <translation>Print output</translation>
+    </message>
+    <message>
+        <source>Links:</source>
+        <translation>Left:</translation>
+    </message>
+    <message>
+        <source>Mitte:</source>
+        <translation>Center:</translation>
+    </message>
+    <message>
+        <source>Rechts:</source>
+        <translation>Right:</translation>
+    </message>
+    <message>
+        <source>Kopfzeile:</source>
+        <translation>Header:</translation>
+    </message>
+    <message>
+        <source>Fußzeile:</source>
+        <translation>Footer:</translation>
+    </message>
+    <message>
+        <source>Firmenliste</source>
+        <translation>Company list</translation>
+    </message>
+    <message>
+        <source>Ausgabeformat für Firmendaten</source>
+        <translation>Output format for company data</translation>
+    </message>
+    <message>
+        <source>Dieses Feld in Klammern setzen</source>
+        <translation>Put this field in parentheses</translation>
+    </message>
+    <message>
+        <source>Auf Werkseinstellungen zurücksetzen</source>
+        <translation>Reset to factory settings</translation>
+    </message>
+    <message>
+        <source>Text 1:</source>
+        <translation>Text 1:</translation>
+    </message>
+    <message>
+        <source>Text 2:</source>
+        <translation>Text 2:</translation>
+    </message>
+    <message>
+        <source>Text 3:</source>
+        <translation>Text 3:</translation>
+    </message>
+    <message>
+        <source>Beispiel:</source>
+        <translation>Example:</translation>
+    </message>
+    <message>
+        <source>Drucken</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>Firmen importieren</source>
+        <translation>Import companies</translation>
+    </message>
+    <message>
+        <source>Projektname</source>
+        <translation>Project name</translation>
+    </message>
+    <message>
+        <source>Bitte denken Sie daran, den Projektnamen in der Kopfzeile zu platzieren (empfohlen)!</source>
+        <translation>Please remember to place the project name in the header (recommended)!</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Database error</translation>
+    </message>
+    <message>
+        <source>Die Projektdaten konnten nicht gespeichert werden.</source>
+        <translation>The project data could not be saved.</translation>
+    </message>
+    <message>
+        <source>Die Firmenliste konnte nicht gespeichert werden.</source>
+        <translation>The company list could not be saved.</translation>
+    </message>
+</context>
+<context>
     <name>KalMessageBoxPrompt</name>
+    <message>
+        <source>Diese Meldung nicht mehr anzeigen</source>
+        <translation>Do not show this message again</translation>
+    </message>
+</context>
+<context>
+    <name>KalPrivacyNotice</name>
+    <message>
+        <source>Erfassung personenbezogener Daten</source>
+        <translation>Recording personal data</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Wenn Sie hier personenbezogene Daten (gem. Art. 4 DSGVO) erfassen und Berichte mit diesen Daten veröffentlichen, benötigen Sie die Einwilligung der betroffenen Personen.&lt;/p&gt;&lt;p&gt;Den Personenbezug können Sie vermeiden, indem Sie allgemeine Angaben wie &amp;quot;Architekt&amp;quot; oder Initialen statt Namen eintragen.&lt;/p&gt;&lt;p&gt;Ein Muster für eine Einwilligungserklärung finden Sie unter &lt;a href=&quot;https://www.quellor.de/einwilligung&quot;&gt;www.quellor.de/einwilligung&lt;/a&gt;.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;If you record personal data here (as defined in Art. 4 GDPR) and publish reports containing these data, you need the consent of the persons concerned.&lt;/p&gt;&lt;p&gt;You can avoid personal references by entering general terms such as &amp;quot;Architect&amp;quot; or initials instead of names.&lt;/p&gt;&lt;p&gt;You will find a sample declaration of consent at &lt;a href=&quot;https://www.quellor.de/einwilligung&quot;&gt;www.quellor.de/einwilligung&lt;/a&gt;.&lt;/p&gt;</translation>
+    </message>
     <message>
         <source>Diese Meldung nicht mehr anzeigen</source>
         <translation>Do not show this message again</translation>
@@ -1615,6 +2347,51 @@ You will find guides for this in the &quot;Help&quot; menu.</translation>
     <message>
         <source>Hilfe zum Datenimport</source>
         <translation>Help on data import</translation>
+    </message>
+</context>
+<context>
+    <name>KalStatusDialog</name>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Werkseinstellung</source>
+        <translation>Factory setting</translation>
+    </message>
+    <message>
+        <source>Alle User-Status entfernen</source>
+        <translation>Remove all user statuses</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Neuer Status</source>
+        <translation>New status</translation>
+    </message>
+    <message>
+        <source>Statusfarbe wählen</source>
+        <translation>Choose status color</translation>
+    </message>
+    <message>
+        <source>Standard Status wiederherstellen</source>
+        <translation>Restore standard statuses</translation>
+    </message>
+    <message>
+        <source>Die Standard Status werden auf die Werkseinstellungen zurückgesetzt.</source>
+        <translation>The standard statuses are reset to the factory settings.</translation>
+    </message>
+    <message>
+        <source>Benutzerstatus löschen</source>
+        <translation>Delete user statuses</translation>
+    </message>
+    <message>
+        <source>Wenn Sie einen Status löschen, der bereits Mängeln zugeordnet ist, verlieren diese Mängel ihren Status!
+Wollen Sie wirklich alle Benutzerstatus löschen?</source>
+        <translation>If you delete a status that is already assigned to defects, these defects lose their status!
+Do you really want to delete all user statuses?</translation>
     </message>
 </context>
 <context>

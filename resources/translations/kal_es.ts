@@ -37,6 +37,43 @@
     </message>
 </context>
 <context>
+    <name>KalAddressFile</name>
+    <message>
+        <source>Die Datei
+%1
+kann nicht importiert werden:
+%2</source>
+        <translation>El archivo
+%1
+no se puede importar:
+%2</translation>
+    </message>
+    <message>
+        <source>Die Datei existiert nicht.</source>
+        <translation>El archivo no existe.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist zu groß für eine Adressdatei.</source>
+        <translation>El archivo es demasiado grande para ser un archivo de direcciones.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist keine Textdatei.</source>
+        <translation>El archivo no es un archivo de texto.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist leer.</source>
+        <translation>El archivo está vacío.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält keine Adressen.</source>
+        <translation>El archivo no contiene direcciones.</translation>
+    </message>
+    <message>
+        <source>Spalte %1</source>
+        <translation>Columna %1</translation>
+    </message>
+</context>
+<context>
     <name>KalCommandLine</name>
     <message>
         <source>
@@ -79,6 +116,405 @@ El archivo del diario de obra %1 no existe.</translation>
     <message>
         <source>Info</source>
         <translation>Información</translation>
+    </message>
+</context>
+<context>
+    <name>KalCompanyDialog</name>
+    <message>
+        <source>Gewerk / Baufirma anlegen</source>
+        <translation>Crear oficio / empresa constructora</translation>
+    </message>
+    <message>
+        <source>Ansprechpartner</source>
+        <translation>Persona de contacto</translation>
+    </message>
+    <message>
+        <source>Gewerk:</source>
+        <translation>Oficio:</translation>
+    </message>
+    <message>
+        <source>Vorname:</source>
+        <translation>Nombre:</translation>
+    </message>
+    <message>
+        <source>Nachname:</source>
+        <translation>Apellidos:</translation>
+    </message>
+    <message>
+        <source>Firma:</source>
+        <translation>Empresa:</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Información</translation>
+    </message>
+    <message>
+        <source>Bitte geben Sie mindestens ein Gewerk, einen Namen oder eine Firma ein.</source>
+        <translation>Introduzca al menos un oficio, un nombre o una empresa.</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Error de base de datos</translation>
+    </message>
+    <message>
+        <source>Die Firma konnte nicht gespeichert werden.</source>
+        <translation>No se ha podido guardar la empresa.</translation>
+    </message>
+</context>
+<context>
+    <name>KalCompanyFormat</name>
+    <message>
+        <source>- leer -</source>
+        <translation>- vacío -</translation>
+    </message>
+    <message>
+        <source>Gewerk</source>
+        <translation>Oficio</translation>
+    </message>
+    <message>
+        <source>Vorname</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Nachname</source>
+        <translation>Apellidos</translation>
+    </message>
+    <message>
+        <source>Firma</source>
+        <translation>Empresa</translation>
+    </message>
+    <message>
+        <source>Straße</source>
+        <translation>Calle</translation>
+    </message>
+    <message>
+        <source>Stadt</source>
+        <translation>Ciudad</translation>
+    </message>
+    <message>
+        <source>Telefon</source>
+        <translation>Teléfono</translation>
+    </message>
+    <message>
+        <source>Handy</source>
+        <translation>Teléfono móvil</translation>
+    </message>
+    <message>
+        <source>E-Mail</source>
+        <translation>Correo electrónico</translation>
+    </message>
+    <message>
+        <source>Architekt</source>
+        <translation>Arquitecto</translation>
+    </message>
+</context>
+<context>
+    <name>KalCompanyImport</name>
+    <message>
+        <source>Die Datei
+%1
+existiert nicht.</source>
+        <translation>El archivo
+%1
+no existe.</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+konnte nicht geöffnet werden:
+%2</source>
+        <translation>El archivo
+%1
+no se ha podido abrir:
+%2</translation>
+    </message>
+    <message>
+        <source>Die Firmen der Datei
+%1
+konnten nicht gelesen werden:
+%2</source>
+        <translation>Las empresas del archivo
+%1
+no se han podido leer:
+%2</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+enthält keine Firmen.</source>
+        <translation>El archivo
+%1
+no contiene empresas.</translation>
+    </message>
+    <message>
+        <source>Gewerk</source>
+        <translation>Oficio</translation>
+    </message>
+    <message>
+        <source>Vorname</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Nachname</source>
+        <translation>Apellidos</translation>
+    </message>
+    <message>
+        <source>Firma</source>
+        <translation>Empresa</translation>
+    </message>
+    <message>
+        <source>Straße</source>
+        <translation>Calle</translation>
+    </message>
+    <message>
+        <source>PLZ</source>
+        <translation>C.P.</translation>
+    </message>
+    <message>
+        <source>Stadt</source>
+        <translation>Ciudad</translation>
+    </message>
+    <message>
+        <source>Telefon</source>
+        <translation>Teléfono</translation>
+    </message>
+    <message>
+        <source>Fax</source>
+        <translation>Fax</translation>
+    </message>
+    <message>
+        <source>Mobil</source>
+        <translation>Móvil</translation>
+    </message>
+    <message>
+        <source>E-Mail</source>
+        <translation>Correo electrónico</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+ist keine Pellwick-Projektdatei.</source>
+        <translation>El archivo
+%1
+no es un archivo de proyecto de Pellwick.</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+ist keine Bautagebuch-Datei.</source>
+        <translation>El archivo
+%1
+no es un archivo de diario de obra.</translation>
+    </message>
+    <message>
+        <source>Es ist kein Projekt geöffnet.</source>
+        <translation>No hay ningún proyecto abierto.</translation>
+    </message>
+    <message>
+        <source>Das Projekt ist schreibgeschützt; es können keine Firmen importiert werden.</source>
+        <translation>El proyecto está protegido contra escritura; no se pueden importar empresas.</translation>
+    </message>
+    <message>
+        <source>Die geänderten Firmen konnten nicht gespeichert werden:
+%1</source>
+        <translation>No se han podido guardar las empresas modificadas:
+%1</translation>
+    </message>
+    <message>
+        <source>Die Firmen konnten nicht importiert werden:
+%1</source>
+        <translation>No se han podido importar las empresas:
+%1</translation>
+    </message>
+    <message>
+        <source>Es konnte keine neue Id vergeben werden.</source>
+        <translation>No se ha podido asignar un nuevo identificador.</translation>
+    </message>
+</context>
+<context>
+    <name>KalCompanyImportDialog</name>
+    <message>
+        <source>Firmen importieren</source>
+        <translation>Importar empresas</translation>
+    </message>
+    <message>
+        <source>Adressdatei</source>
+        <translation>Archivo de direcciones</translation>
+    </message>
+    <message>
+        <source>; (Semikolon)</source>
+        <translation>; (punto y coma)</translation>
+    </message>
+    <message>
+        <source>, (Komma)</source>
+        <translation>, (coma)</translation>
+    </message>
+    <message>
+        <source>Tabulator</source>
+        <translation>Tabulador</translation>
+    </message>
+    <message>
+        <source>| (senkrechter Strich)</source>
+        <translation>| (barra vertical)</translation>
+    </message>
+    <message>
+        <source>Erste Zeile enthält Spaltenüberschriften</source>
+        <translation>La primera fila contiene los encabezados de columna</translation>
+    </message>
+    <message>
+        <source>Ordnen Sie in der ersten Zeile jeder Spalte das passende Feld zu.</source>
+        <translation>En la primera fila de cada columna, asigne el campo correspondiente.</translation>
+    </message>
+    <message>
+        <source>Trennzeichen:</source>
+        <translation>Separador:</translation>
+    </message>
+    <message>
+        <source>Zeichensatz:</source>
+        <translation>Juego de caracteres:</translation>
+    </message>
+    <message>
+        <source>Zu importierende Firmen</source>
+        <translation>Empresas que se importarán</translation>
+    </message>
+    <message>
+        <source>Firma</source>
+        <translation>Empresa</translation>
+    </message>
+    <message>
+        <source>Gewerk</source>
+        <translation>Oficio</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Stadt</source>
+        <translation>Ciudad</translation>
+    </message>
+    <message>
+        <source>Hinweis</source>
+        <translation>Nota</translation>
+    </message>
+    <message>
+        <source>Alle auswählen</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Keine auswählen</source>
+        <translation>No seleccionar ninguna</translation>
+    </message>
+    <message>
+        <source>Importieren</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>Quelle: %1</source>
+        <translation>Origen: %1</translation>
+    </message>
+    <message>
+        <source>Feld</source>
+        <translation>Campo</translation>
+    </message>
+    <message>
+        <source>- ignorieren -</source>
+        <translation>- ignorar -</translation>
+    </message>
+    <message>
+        <source>bereits vorhanden</source>
+        <translation>ya existe</translation>
+    </message>
+    <message>
+        <source>Eine Firma ist im Projekt bereits vorhanden (rot markiert) und wurde nicht ausgewählt.</source>
+        <translation>Una empresa ya existe en el proyecto (marcada en rojo) y no se ha seleccionado.</translation>
+    </message>
+    <message>
+        <source>%1 Firmen sind im Projekt bereits vorhanden (rot markiert) und wurden nicht ausgewählt.</source>
+        <translation>%1 empresas ya existen en el proyecto (marcadas en rojo) y no se han seleccionado.</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Die Firmen konnten nicht importiert werden.</source>
+        <translation>No se han podido importar las empresas.</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Información</translation>
+    </message>
+    <message>
+        <source>Eine Firma wurde importiert.</source>
+        <translation>Se ha importado una empresa.</translation>
+    </message>
+    <message>
+        <source>%1 Firmen wurden importiert.</source>
+        <translation>Se han importado %1 empresas.</translation>
+    </message>
+</context>
+<context>
+    <name>KalCompanyImportSelectDialog</name>
+    <message>
+        <source>Quelle wählen</source>
+        <translation>Elegir origen</translation>
+    </message>
+    <message>
+        <source>&amp;Externe Adress-Datei</source>
+        <translation>Archivo de direcciones &amp;externo</translation>
+    </message>
+    <message>
+        <source>Andere &amp;Pellwick-Datei</source>
+        <translation>Otro archivo de &amp;Pellwick</translation>
+    </message>
+    <message>
+        <source>Quellor &amp;Bautagebuch</source>
+        <translation>&amp;Diario de obra de Quellor</translation>
+    </message>
+    <message>
+        <source>&amp;Abbrechen</source>
+        <translation>&amp;Cancelar</translation>
+    </message>
+    <message>
+        <source>Zu importierende Adressdatei auswählen</source>
+        <translation>Elegir el archivo de direcciones que desea importar</translation>
+    </message>
+    <message>
+        <source>Pellwick-Datei auswählen</source>
+        <translation>Elegir archivo de Pellwick</translation>
+    </message>
+    <message>
+        <source>Bautagebuch-Datei auswählen</source>
+        <translation>Elegir archivo del diario de obra</translation>
+    </message>
+    <message>
+        <source>Adressdateien (*.csv *.txt *asc *.tab *.prn);;alle Dateien (*.*)</source>
+        <translation>Archivos de direcciones (*.csv *.txt *asc *.tab *.prn);;todos los archivos (*.*)</translation>
+    </message>
+    <message>
+        <source>Pellwick Projekt (*.pwp)</source>
+        <translation>Proyecto de Pellwick (*.pwp)</translation>
+    </message>
+    <message>
+        <source>Bautagebuch (*.sjd)</source>
+        <translation>Diario de obra (*.sjd)</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Información</translation>
+    </message>
+    <message>
+        <source>Die Firmen können nicht aus dem geöffneten Projekt selbst importiert werden.</source>
+        <translation>Las empresas no se pueden importar del propio proyecto abierto.</translation>
+    </message>
+    <message>
+        <source>Dateifehler</source>
+        <translation>Error de archivo</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 enthält keine Firmen.</source>
+        <translation>El archivo %1 no contiene empresas.</translation>
     </message>
 </context>
 <context>
@@ -381,6 +817,180 @@ textos que se han introducido hasta ahora en este campo.</translation>
 Bitte verwenden Sie das Format %1!</source>
         <translation>La fecha introducida no es correcta.
 ¡Utilice el formato %1!</translation>
+    </message>
+</context>
+<context>
+    <name>KalDefectCsv</name>
+    <message>
+        <source>Die Mängelliste konnte nicht gelesen werden:
+%1</source>
+        <translation>No se ha podido leer la lista de defectos:
+%1</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+konnte nicht geschrieben werden:
+%2</source>
+        <translation>El archivo
+%1
+no se ha podido escribir:
+%2</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Es ist kein Projekt geöffnet.</source>
+        <translation>No hay ningún proyecto abierto.</translation>
+    </message>
+    <message>
+        <source>Dateifehler</source>
+        <translation>Error de archivo</translation>
+    </message>
+</context>
+<context>
+    <name>KalDefectEditor</name>
+    <message>
+        <source>Tragen Sie hier die Initialen der Person ein, die den Mangel erfasst hat
+(höchstens zwei Buchstaben, z. B. &quot;KM&quot; für Karl Mustermann).
+Kleinbuchstaben werden automatisch in Großbuchstaben umgewandelt.</source>
+        <translation>Introduzca aquí las iniciales de la persona que registró el defecto
+(dos letras como máximo, p. ej., «JP» para Juan Pérez).
+Las minúsculas se convierten automáticamente en mayúsculas.</translation>
+    </message>
+    <message>
+        <source>Mangel bearbeiten</source>
+        <translation>Editar defecto</translation>
+    </message>
+    <message>
+        <source>Erfassung</source>
+        <translation>Registro</translation>
+    </message>
+    <message>
+        <source>Hinweis zum Feld &quot;Erfasst von&quot;</source>
+        <translation>Nota sobre el campo «Registrado por»</translation>
+    </message>
+    <message>
+        <source>Nummer</source>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>Beschreibung</source>
+        <translation>Descripción</translation>
+    </message>
+    <message>
+        <source>Firma</source>
+        <translation>Empresa</translation>
+    </message>
+    <message>
+        <source>Typ</source>
+        <translation>Tipo</translation>
+    </message>
+    <message>
+        <source>Erfasst von</source>
+        <translation>Registrado por</translation>
+    </message>
+    <message>
+        <source>Erfasst am</source>
+        <translation>Registrado el</translation>
+    </message>
+    <message>
+        <source>Lokalisierung</source>
+        <translation>Ubicación</translation>
+    </message>
+    <message>
+        <source>Plan austauschen</source>
+        <translation>Sustituir plano</translation>
+    </message>
+    <message>
+        <source>Marker bearbeiten</source>
+        <translation>Editar marcador</translation>
+    </message>
+    <message>
+        <source>Fotos hinzufügen</source>
+        <translation>Añadir fotos</translation>
+    </message>
+    <message>
+        <source>Raumname</source>
+        <translation>Nombre de la estancia</translation>
+    </message>
+    <message>
+        <source>Raumbuch-Nr.</source>
+        <translation>N.º de libro de estancias</translation>
+    </message>
+    <message>
+        <source>Plan</source>
+        <translation>Plano</translation>
+    </message>
+    <message>
+        <source>Fotos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Management</source>
+        <translation>Gestión</translation>
+    </message>
+    <message>
+        <source>3. Nachfrist</source>
+        <translation>3.ª prórroga</translation>
+    </message>
+    <message>
+        <source>Minderung</source>
+        <translation>Reducción de precio</translation>
+    </message>
+    <message>
+        <source>Beseitigungsanweisung</source>
+        <translation>Instrucción de subsanación</translation>
+    </message>
+    <message>
+        <source>Priorität</source>
+        <translation>Prioridad</translation>
+    </message>
+    <message>
+        <source>Frist</source>
+        <translation>Plazo</translation>
+    </message>
+    <message>
+        <source>1. Nachfrist</source>
+        <translation>1.ª prórroga</translation>
+    </message>
+    <message>
+        <source>2. Nachfrist</source>
+        <translation>2.ª prórroga</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Neu...</source>
+        <translation>Nuevo...</translation>
+    </message>
+    <message>
+        <source>%1 (Index %2)</source>
+        <translation>%1 (índice %2)</translation>
+    </message>
+    <message>
+        <source>Planzuordnung aufheben</source>
+        <translation>Quitar la asignación del plano</translation>
+    </message>
+    <message>
+        <source>Neuen Status anlegen</source>
+        <translation>Crear estado nuevo</translation>
+    </message>
+    <message>
+        <source>Status:</source>
+        <translation>Estado:</translation>
+    </message>
+    <message>
+        <source>Sie können hier einen neuen Status für dieses Projekt anlegen</source>
+        <translation>Aquí puede crear un estado nuevo para este proyecto</translation>
+    </message>
+    <message>
+        <source>Fotos bearbeiten</source>
+        <translation>Editar fotos</translation>
     </message>
 </context>
 <context>
@@ -877,7 +1487,129 @@ Los cambios se guardarán antes de depurar la base de datos.
     </message>
 </context>
 <context>
+    <name>KalMasterDataDialog</name>
+    <message>
+        <source>Stammdaten</source>
+        <translation>Datos maestros</translation>
+    </message>
+    <message>
+        <source>Projektdaten</source>
+        <translation>Datos del proyecto</translation>
+    </message>
+    <message>
+        <source>Firmendaten</source>
+        <translation>Datos de la empresa</translation>
+    </message>
+    <message>
+        <source>Projektname:</source>
+        <translation>Nombre del proyecto:</translation>
+    </message>
+    <message>
+        <source>Projektnummer:</source>
+        <translation>Número del proyecto:</translation>
+    </message>
+    <message>
+        <source>Druckausgabe</source>
+        <translation>Salida de impresión</translation>
+    </message>
+    <message>
+        <source>Links:</source>
+        <translation>Izquierda:</translation>
+    </message>
+    <message>
+        <source>Mitte:</source>
+        <translation>Centro:</translation>
+    </message>
+    <message>
+        <source>Rechts:</source>
+        <translation>Derecha:</translation>
+    </message>
+    <message>
+        <source>Kopfzeile:</source>
+        <translation>Encabezado:</translation>
+    </message>
+    <message>
+        <source>Fußzeile:</source>
+        <translation>Pie de página:</translation>
+    </message>
+    <message>
+        <source>Firmenliste</source>
+        <translation>Lista de empresas</translation>
+    </message>
+    <message>
+        <source>Ausgabeformat für Firmendaten</source>
+        <translation>Formato de salida de los datos de empresa</translation>
+    </message>
+    <message>
+        <source>Dieses Feld in Klammern setzen</source>
+        <translation>Poner este campo entre paréntesis</translation>
+    </message>
+    <message>
+        <source>Auf Werkseinstellungen zurücksetzen</source>
+        <translation>Restablecer la configuración de fábrica</translation>
+    </message>
+    <message>
+        <source>Text 1:</source>
+        <translation>Texto 1:</translation>
+    </message>
+    <message>
+        <source>Text 2:</source>
+        <translation>Texto 2:</translation>
+    </message>
+    <message>
+        <source>Text 3:</source>
+        <translation>Texto 3:</translation>
+    </message>
+    <message>
+        <source>Beispiel:</source>
+        <translation>Ejemplo:</translation>
+    </message>
+    <message>
+        <source>Drucken</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>Firmen importieren</source>
+        <translation>Importar empresas</translation>
+    </message>
+    <message>
+        <source>Projektname</source>
+        <translation>Nombre del proyecto</translation>
+    </message>
+    <message>
+        <source>Bitte denken Sie daran, den Projektnamen in der Kopfzeile zu platzieren (empfohlen)!</source>
+        <translation>¡Recuerde colocar el nombre del proyecto en el encabezado (recomendado)!</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Error de base de datos</translation>
+    </message>
+    <message>
+        <source>Die Projektdaten konnten nicht gespeichert werden.</source>
+        <translation>No se han podido guardar los datos del proyecto.</translation>
+    </message>
+    <message>
+        <source>Die Firmenliste konnte nicht gespeichert werden.</source>
+        <translation>No se ha podido guardar la lista de empresas.</translation>
+    </message>
+</context>
+<context>
     <name>KalMessageBoxPrompt</name>
+    <message>
+        <source>Diese Meldung nicht mehr anzeigen</source>
+        <translation>No volver a mostrar este mensaje</translation>
+    </message>
+</context>
+<context>
+    <name>KalPrivacyNotice</name>
+    <message>
+        <source>Erfassung personenbezogener Daten</source>
+        <translation>Registro de datos personales</translation>
+    </message>
+    <message>
+        <source>&lt;p&gt;Wenn Sie hier personenbezogene Daten (gem. Art. 4 DSGVO) erfassen und Berichte mit diesen Daten veröffentlichen, benötigen Sie die Einwilligung der betroffenen Personen.&lt;/p&gt;&lt;p&gt;Den Personenbezug können Sie vermeiden, indem Sie allgemeine Angaben wie &amp;quot;Architekt&amp;quot; oder Initialen statt Namen eintragen.&lt;/p&gt;&lt;p&gt;Ein Muster für eine Einwilligungserklärung finden Sie unter &lt;a href=&quot;https://www.quellor.de/einwilligung&quot;&gt;www.quellor.de/einwilligung&lt;/a&gt;.&lt;/p&gt;</source>
+        <translation>&lt;p&gt;Si registra aquí datos personales (según el art. 4 del RGPD) y publica informes con estos datos, necesita el consentimiento de las personas afectadas.&lt;/p&gt;&lt;p&gt;Puede evitar la referencia personal introduciendo datos generales como &amp;quot;Arquitecto&amp;quot; o iniciales en lugar de nombres.&lt;/p&gt;&lt;p&gt;Encontrará un modelo de declaración de consentimiento en &lt;a href=&quot;https://www.quellor.de/einwilligung&quot;&gt;www.quellor.de/einwilligung&lt;/a&gt;.&lt;/p&gt;</translation>
+    </message>
     <message>
         <source>Diese Meldung nicht mehr anzeigen</source>
         <translation>No volver a mostrar este mensaje</translation>
@@ -900,9 +1632,9 @@ Los cambios se guardarán antes de depurar la base de datos.
         <source>Löschen der Datei
 %1
  fehlgeschlagen.</source>
-        <translation>No se ha podido eliminar el archivo
+        <translation>Eliminación del archivo
 %1
-.</translation>
+ fallida.</translation>
     </message>
     <message>
         <source>Datenbankfehler</source>
@@ -1100,33 +1832,33 @@ Libere al menos %2 MB e inténtelo de nuevo.</translation>
         <source>Löschen der Backup-Datei
 %1
  fehlgeschlagen.</source>
-        <translation>No se ha podido eliminar el archivo de copia de seguridad
+        <translation>Eliminación del archivo de copia de seguridad
 %1
-.</translation>
+ fallida.</translation>
     </message>
     <message>
         <source>Kopieren der Datei
 %1
  fehlgeschlagen.</source>
-        <translation>No se ha podido copiar el archivo
+        <translation>Copia del archivo
 %1
-.</translation>
+ fallida.</translation>
     </message>
     <message>
         <source>Umbenennen der Backup-Datei
 %1
  fehlgeschlagen.</source>
-        <translation>No se ha podido renombrar el archivo de copia de seguridad
+        <translation>Cambio de nombre del archivo de copia de seguridad
 %1
-.</translation>
+ fallido.</translation>
     </message>
     <message>
         <source>Die Datei
 %1
 konnte nicht gelöscht werden.</source>
-        <translation>No se ha podido eliminar el archivo
+        <translation>El archivo
 %1
-.</translation>
+no se ha podido eliminar.</translation>
     </message>
     <message>
         <source>Fehler beim Kopieren der Working Copy Datei.</source>
@@ -1615,6 +2347,51 @@ Encontrará guías al respecto en el menú «Ayuda».</translation>
     <message>
         <source>Hilfe zum Datenimport</source>
         <translation>Ayuda sobre la importación de datos</translation>
+    </message>
+</context>
+<context>
+    <name>KalStatusDialog</name>
+    <message>
+        <source>Status</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Werkseinstellung</source>
+        <translation>Configuración de fábrica</translation>
+    </message>
+    <message>
+        <source>Alle User-Status entfernen</source>
+        <translation>Eliminar todos los estados de usuario</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Neuer Status</source>
+        <translation>Estado nuevo</translation>
+    </message>
+    <message>
+        <source>Statusfarbe wählen</source>
+        <translation>Elegir el color del estado</translation>
+    </message>
+    <message>
+        <source>Standard Status wiederherstellen</source>
+        <translation>Restaurar los estados estándar</translation>
+    </message>
+    <message>
+        <source>Die Standard Status werden auf die Werkseinstellungen zurückgesetzt.</source>
+        <translation>Los estados estándar se restablecen a la configuración de fábrica.</translation>
+    </message>
+    <message>
+        <source>Benutzerstatus löschen</source>
+        <translation>Eliminar estados de usuario</translation>
+    </message>
+    <message>
+        <source>Wenn Sie einen Status löschen, der bereits Mängeln zugeordnet ist, verlieren diese Mängel ihren Status!
+Wollen Sie wirklich alle Benutzerstatus löschen?</source>
+        <translation>Si elimina un estado que ya está asignado a defectos, esos defectos pierden su estado.
+¿Desea eliminar realmente todos los estados de usuario?</translation>
     </message>
 </context>
 <context>
