@@ -238,8 +238,10 @@ void KalMainWindow::createActions()
     actionSettingsLanguage->setToolTip(tr("Sprache wählen"));
     connect(actionSettingsLanguage, &QAction::triggered, this, &KalMainWindow::on_actionSettingsLanguage_triggered);
 
-    actionSettingsCompleter = later(QStringLiteral("actionSettingsCompleter"), QStringLiteral("icon-texte.ico"),
-                                    tr("Texte ändern - Eingabe"), QString());
+    actionSettingsCompleter = makeAction(QStringLiteral("actionSettingsCompleter"), QStringLiteral("icon-texte.ico"));
+    actionSettingsCompleter->setText(tr("Texte ändern - Eingabe"));
+    actionSettingsCompleter->setToolTip(tr("Texte ändern - Eingabe"));
+    connect(actionSettingsCompleter, &QAction::triggered, this, &KalMainWindow::on_actionSettingsCompleter_triggered);
     actionStartSpellChecking = makeAction(QStringLiteral("actionStartSpellChecking"),
                                           QStringLiteral("icon-rechtschreibung.ico"));
     connect(actionStartSpellChecking, &QAction::triggered, this,

@@ -104,6 +104,7 @@ private slots:
     void on_actionImportCSVCompanies_triggered();
     void on_actionSettingsLanguage_triggered();
     void on_actionStartSpellChecking_triggered();
+    void on_actionSettingsCompleter_triggered();
     void on_actionTooltipHelp_triggered();
     void on_actionShortHelpImportFromSiteJournal_triggered();
     void on_actionShortHelpImportFromMobile_triggered();

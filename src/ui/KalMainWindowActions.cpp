@@ -3,6 +3,7 @@
 #include "KalMainWindow.h"
 
 #include "KalCompanyImportSelectDialog.h"
+#include "KalCompleterDialog.h"
 #include "KalDefectEditor.h"
 #include "KalEnvironment.h"
 #include "KalFileDialog.h"
@@ -563,6 +564,12 @@ void KalMainWindow::updateSpellCheckingAction()
     actionStartSpellChecking->setEnabled(checker != nullptr);
     actionStartSpellChecking->setText(KalSpellChecker::toggleActionText(active));
     actionStartSpellChecking->setToolTip(actionStartSpellChecking->text());
+}
+
+void KalMainWindow::on_actionSettingsCompleter_triggered()
+{
+    KalCompleterDialog dialog(this);
+    dialog.exec();
 }
 
 void KalMainWindow::on_actionStartSpellChecking_triggered()

@@ -617,6 +617,7 @@ void TestMainWindow::actionsOpenTheirDialogs_data()
     QTest::newRow("companies") << "actionEditCompanyTable" << "KalMasterDataDialog";
     QTest::newRow("company format") << "actionEditCompanyFormat" << "KalMasterDataDialog";
     QTest::newRow("language") << "actionSettingsLanguage" << "KalLanguageDialog";
+    QTest::newRow("auto texts") << "actionSettingsCompleter" << "KalCompleterDialog";
     QTest::newRow("short help 1") << "actionShortHelpImportFromSiteJournal" << "KalShortHelpDialog";
     QTest::newRow("short help 2") << "actionShortHelpImportFromMobile" << "KalShortHelpDialog";
 }
@@ -750,7 +751,7 @@ void TestMainWindow::actionsWithoutFeatureAreDisabled_data()
                                          << "Import von Firmen aus anderer Pellwick-Datei";
     QTest::newRow("journal company import") << "actionImportSiteJournalCompanies" << true
                                             << "Import von Firmen aus Quellor Bautagebuch";
-    QTest::newRow("completer") << "actionSettingsCompleter" << false << "Texte ändern - Eingabe";
+    QTest::newRow("completer") << "actionSettingsCompleter" << true << "Texte ändern - Eingabe";
     QTest::newRow("plan size") << "actionSettingsPlanSize" << false << "Plangröße";
     QTest::newRow("photo size") << "actionSettingsImageSize" << false << "Fotogröße";
     QTest::newRow("marker") << "actionStandardMarker" << false << "Standardmarker";
