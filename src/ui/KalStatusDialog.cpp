@@ -31,7 +31,7 @@ KalStatusDialog::KalStatusDialog(KalProject *project, QWidget *parent)
     : QDialog(parent), m_project(project), m_model(project ? project->model(QStringLiteral("status")) : nullptr)
 {
     setObjectName(QStringLiteral("KalStatusDialog"));
-    setWindowTitle(tr("Status"));
+    setWindowTitle(tr("Statusverwaltung"));
     setWindowIcon(QIcon(QStringLiteral(":/KalMainWindow/Resources/icon-status-editor.ico")));
 
     tvStatus = new KalTableView(this);

@@ -6,7 +6,9 @@
 #include "KalStatusDialog.h"
 #include "KalTableView.h"
 
+#include <QHeaderView>
 #include <QPushButton>
+#include <QSettings>
 #include <QToolButton>
 #include <QSqlQuery>
 #include <QtTest>
@@ -210,4 +212,25 @@ void TstStatusDialog::colourChoice()
     QCOMPARE(offered, QColor(QStringLiteral("#cb2821")));
     QCOMPARE(m_fx.scalar(QStringLiteral("SELECT color FROM status WHERE id = 2")).toString(), stored);
     KalStatusDialog::setColorChooser(KalStatusDialog::ColorChooser());
+}
+
+void TstStatusDialog::widthsAndGeometryKept()
+{
+    QSettings().remove(QStringLiteral("TableView/status/ColumnWidths"));
+    QSettings().remove(QStringLiteral("StatusDialog/Geometry"));
+    const int nameColumn = m_fx.model(QStringLiteral("status"))->fieldIndex(QStringLiteral("status"));
+    {
+        KalStatusDialog dialog(m_fx.project());
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        dialog.resize(640, 480);
+        // Written as soon as a column changes, not only on closing.
+        dialog.tableView()->horizontalHeader()->resizeSection(nameColumn, 321);
+        QVERIFY(QSettings().contains(QStringLiteral("TableView/status/ColumnWidths")));
+        dialog.accept();
+    }
+    QVERIFY(!QSettings().value(QStringLiteral("StatusDialog/Geometry")).toByteArray().isEmpty());
+    KalStatusDialog again(m_fx.project());
+    QCOMPARE(again.tableView()->columnWidth(nameColumn), 321);
+    QCOMPARE(again.size(), QSize(640, 480));
 }

@@ -23,6 +23,7 @@ private slots:
     void removeUserStatuses();
     void colourChoice_data();
     void colourChoice();
+    void widthsAndGeometryKept();
 
 private:
     DialogsFixture m_fx;
