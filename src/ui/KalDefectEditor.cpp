@@ -618,7 +618,9 @@ void KalDefectEditor::slotSelectedPlanChanged(int index)
         return;
     }
     if (id == ClearPlanEntry) {
-        writeValue(QStringLiteral("plan_info_id"), -1);
+        // NULL and -1 both mean "no plan"; only a real assignment is undone.
+        if (value(QStringLiteral("plan_info_id")).toLongLong() > 0)
+            writeValue(QStringLiteral("plan_info_id"), -1);
         cbxPlan->setCurrentIndex(-1);
         return;
     }
