@@ -1,6 +1,7 @@
 #include "tst_masterdata.h"
 
 #include "KalCompanyDialog.h"
+#include "KalAddressFile.h"
 #include "KalCompanyFormat.h"
 #include "KalCompanyImportDialog.h"
 #include "KalCompanyImportSelectDialog.h"
@@ -19,8 +20,10 @@
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSettings>
 #include <QSqlQuery>
+#include <QTableWidget>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QToolButton>
@@ -296,4 +299,51 @@ void TstMasterData::importPointsOutDuplicates()
                  .toString(),
              QStringLiteral("Farbe GmbH"));
     QVERIFY(m_prompt->texts().contains(QStringLiteral("Eine Firma wurde importiert.")));
+}
+
+void TstMasterData::addressFileMapping()
+{
+    m_fx.addCompany(QStringLiteral("Alpha Bau"), QStringLiteral("Maurer"), 1);
+    QVERIFY(m_fx.reselect());
+    auto file = std::make_shared<KalAddressFile>();
+    QString error;
+    // Captions the guess cannot place: the user maps the columns.
+    QVERIFY2(file->loadData(QByteArrayLiteral("Spalte A;Spalte B\nAlpha Bau;Maurer\nDelta Dach;Dachdecker\n"), &error),
+             qPrintable(error));
+    KalCompanyImportDialog dialog(m_fx.project());
+    dialog.setAddressFile(file, QStringLiteral("adressen.csv"));
+    auto *header = dialog.findChild<QCheckBox *>(QStringLiteral("cbHeader"));
+    auto *preview = dialog.findChild<QTableWidget *>(QStringLiteral("twPreview"));
+    QVERIFY(header && preview);
+    if (!header->isChecked())
+        header->setChecked(true);
+    QCOMPARE(preview->columnCount(), 2);
+
+    auto map = [&](int column, int field) {
+        auto *combo = dialog.findChild<QComboBox *>(QStringLiteral("cbxMapping%1").arg(column));
+        QVERIFY(combo);
+        const int index = combo->findData(field);
+        QVERIFY(index >= 0);
+        combo->setCurrentIndex(index);
+        emit combo->activated(index);
+        QCoreApplication::processEvents();
+    };
+    map(0, KalCompanyRecord::Company);
+    map(1, KalCompanyRecord::Type);
+
+    const QVector<KalCompanyRecord> companies = dialog.companies();
+    QCOMPARE(companies.size(), 2);
+    QCOMPARE(companies.at(1).value(KalCompanyRecord::Company), QStringLiteral("Delta Dach"));
+    QCOMPARE(companies.at(1).value(KalCompanyRecord::Type), QStringLiteral("Dachdecker"));
+    // "Alpha Bau / Maurer" is in the project: pointed out and not chosen.
+    QCOMPARE(dialog.duplicateRows(), QVector<int>{0});
+    QVERIFY(!dialog.isChecked(0));
+    QVERIFY(dialog.isChecked(1));
+    QCOMPARE(dialog.checkedCompanies().size(), 1);
+
+    // Nothing mapped: nothing to import.
+    map(0, -1);
+    map(1, -1);
+    QVERIFY(dialog.companies().isEmpty());
+    QVERIFY(!dialog.findChild<QPushButton *>(QStringLiteral("pbImport"))->isEnabled());
 }

@@ -25,6 +25,7 @@ private slots:
     void outputFormat();
     void quickCompanyDialog();
     void importPointsOutDuplicates();
+    void addressFileMapping();
 
 private:
     DialogsFixture m_fx;
