@@ -1352,16 +1352,6 @@ Mouse wheel: zoom in and out.
 Double-click: assign a plan or locate the defect on the plan.</translation>
     </message>
     <message>
-        <source>Liste der Mängel des Projekts.
-Doppelklick auf einen Mangel: bearbeiten.
-Klick auf eine Spaltenüberschrift: sortieren.
-Die Knöpfe oben links fügen Mängel hinzu, kopieren oder löschen sie.</source>
-        <translation>List of the defects of the project.
-Double-click on a defect: edit.
-Click on a column heading: sort.
-The buttons at the top left add, copy or delete defects.</translation>
-    </message>
-    <message>
         <source>Pellwick Projekt (*.pwp)</source>
         <translation>Pellwick project (*.pwp)</translation>
     </message>
@@ -1484,6 +1474,16 @@ The changes will be saved before the database is cleaned up.
     <message>
         <source>Die Zuordnung von Plänen ist in dieser Programmversion noch nicht verfügbar.</source>
         <translation>Assigning plans is not yet available in this version of the program.</translation>
+    </message>
+    <message>
+        <source>Liste der Mängel des Projekts.
+Doppelklick auf einen Mangel: bearbeiten.
+Klick auf eine Spaltenüberschrift: sortieren.
+Die Knöpfe unten links fügen Mängel hinzu, kopieren oder löschen sie.</source>
+        <translation>List of the defects of the project.
+Double-click on a defect: edit.
+Click on a column heading: sort.
+The buttons at the bottom left add, copy or delete defects.</translation>
     </message>
 </context>
 <context>
@@ -2352,10 +2352,6 @@ You will find guides for this in the &quot;Help&quot; menu.</translation>
 <context>
     <name>KalStatusDialog</name>
     <message>
-        <source>Status</source>
-        <translation>Status</translation>
-    </message>
-    <message>
         <source>Werkseinstellung</source>
         <translation>Factory setting</translation>
     </message>
@@ -2392,6 +2388,10 @@ You will find guides for this in the &quot;Help&quot; menu.</translation>
 Wollen Sie wirklich alle Benutzerstatus löschen?</source>
         <translation>If you delete a status that is already assigned to defects, these defects lose their status!
 Do you really want to delete all user statuses?</translation>
+    </message>
+    <message>
+        <source>Statusverwaltung</source>
+        <translation>Status management</translation>
     </message>
 </context>
 <context>

@@ -1352,16 +1352,6 @@ Rueda del ratón: ampliar y reducir.
 Doble clic: asignar un plano o ubicar el defecto en el plano.</translation>
     </message>
     <message>
-        <source>Liste der Mängel des Projekts.
-Doppelklick auf einen Mangel: bearbeiten.
-Klick auf eine Spaltenüberschrift: sortieren.
-Die Knöpfe oben links fügen Mängel hinzu, kopieren oder löschen sie.</source>
-        <translation>Lista de los defectos del proyecto.
-Doble clic en un defecto: editar.
-Clic en el encabezado de una columna: ordenar.
-Los botones de arriba a la izquierda añaden, copian o eliminan defectos.</translation>
-    </message>
-    <message>
         <source>Pellwick Projekt (*.pwp)</source>
         <translation>Proyecto de Pellwick (*.pwp)</translation>
     </message>
@@ -1484,6 +1474,16 @@ Los cambios se guardarán antes de depurar la base de datos.
     <message>
         <source>Die Zuordnung von Plänen ist in dieser Programmversion noch nicht verfügbar.</source>
         <translation>La asignación de planos todavía no está disponible en esta versión del programa.</translation>
+    </message>
+    <message>
+        <source>Liste der Mängel des Projekts.
+Doppelklick auf einen Mangel: bearbeiten.
+Klick auf eine Spaltenüberschrift: sortieren.
+Die Knöpfe unten links fügen Mängel hinzu, kopieren oder löschen sie.</source>
+        <translation>Lista de los defectos del proyecto.
+Doble clic en un defecto: editar.
+Clic en el encabezado de una columna: ordenar.
+Los botones de abajo a la izquierda añaden, copian o eliminan defectos.</translation>
     </message>
 </context>
 <context>
@@ -2352,10 +2352,6 @@ Encontrará guías al respecto en el menú «Ayuda».</translation>
 <context>
     <name>KalStatusDialog</name>
     <message>
-        <source>Status</source>
-        <translation>Estado</translation>
-    </message>
-    <message>
         <source>Werkseinstellung</source>
         <translation>Configuración de fábrica</translation>
     </message>
@@ -2392,6 +2388,10 @@ Encontrará guías al respecto en el menú «Ayuda».</translation>
 Wollen Sie wirklich alle Benutzerstatus löschen?</source>
         <translation>Si elimina un estado que ya está asignado a defectos, esos defectos pierden su estado.
 ¿Desea eliminar realmente todos los estados de usuario?</translation>
+    </message>
+    <message>
+        <source>Statusverwaltung</source>
+        <translation>Gestión de estados</translation>
     </message>
 </context>
 <context>

@@ -844,9 +844,10 @@ bool KalMainWindow::eventFilter(QObject *watched, QEvent *event)
                                        "Doppelklick: Plan zuordnen oder im Plan verorten.")
                                   : tr("Liste der Mängel des Projekts.\nDoppelklick auf einen Mangel: bearbeiten.\n"
                                        "Klick auf eine Spaltenüberschrift: sortieren.\n"
-                                       "Die Knöpfe oben links fügen Mängel hinzu, kopieren oder löschen sie."));
+                                       "Die Knöpfe unten links fügen Mängel hinzu, kopieren oder löschen sie."));
+            return true;
         }
-        return true;
+        return inPlan;
     }
     case QEvent::Leave:
         if (inPlan)
