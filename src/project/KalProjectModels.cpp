@@ -1,5 +1,7 @@
 #include "KalProjectModels.h"
 
+#include "KalCompanyFormat.h"
+
 #include "KalProject.h"
 #include "KalSqlTableModel.h"
 
@@ -180,6 +182,8 @@ const char *const s_tables[] = {
 KalProjectModels::KalProjectModels(KalProject *project)
     : m_project(project)
 {
+    // Companies are shown in the user's chosen format from the first paint.
+    KalCompanyFormat::installFromSettings();
     const QSqlDatabase db = project->database();
     for (const char *name : s_tables) {
         const QString table = QString::fromLatin1(name);

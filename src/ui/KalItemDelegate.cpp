@@ -181,8 +181,17 @@ QWidget *KalItemDelegate::createEditor(QWidget *parent, const QStyleOptionViewIt
     if (!source.isValid())
         return QStyledItemDelegate::createEditor(parent, option, index);
     const int editor = editorNumber(source.column());
-    if (editor == NoEntry)
+    if (editor == NoEntry) {
+        // A looked-up column stores an id but shows a name: typing into it
+        // would write text into the id. Those are chosen in the dialogs.
+        if (const KalSqlTableModel *model = sqlModel(index.model())) {
+            const int role = model->displayRole(source.column());
+            if (role == KalSqlTableModel::CompanyRole || role == KalSqlTableModel::StatusRole
+                || role == KalSqlTableModel::PlanRole)
+                return nullptr;
+        }
         return QStyledItemDelegate::createEditor(parent, option, index);
+    }
     if (editor == NoEditor || editor == CheckNoEditor)
         return nullptr;
     return makeEditor(editor, source, parent);

@@ -143,6 +143,7 @@ QWidget *KalMasterDataDialog::buildCompanyPage()
     auto *listGroup = new QGroupBox(tr("Firmenliste"), page);
     listGroup->setObjectName(QStringLiteral("gbCompanyList"));
     tvCompanies = new KalTableView(listGroup);
+    tvCompanies->setSubmitEdits(false); // OK writes, Cancel reverts
     tvCompanies->setObjectName(QStringLiteral("tvCompanies"));
     tvCompanies->copyButton()->hide();
     auto *listLayout = new QVBoxLayout(listGroup);

@@ -128,6 +128,17 @@ void KalTableView::setModel(QAbstractItemModel *model)
     if (m_sqlModel) {
         m_delegate = KalItemDelegate::createFor(m_sqlModel, this);
         setItemDelegate(m_delegate);
+        // After the editor has closed (never while it is still on the
+        // stack): a submit re-selects the model.
+        connect(m_delegate, &QAbstractItemDelegate::closeEditor, this, [this] {
+            QMetaObject::invokeMethod(
+                this,
+                [this] {
+                    if (m_submitEdits && m_sqlModel && m_sqlModel->isDirty())
+                        m_sqlModel->submitWithNotification(true);
+                },
+                Qt::QueuedConnection);
+        });
         connect(m_sqlModel, &KalSqlTableModel::beforeSubmit, this, &KalTableView::slotStoreSelection);
         connect(m_sqlModel, &KalSqlTableModel::afterSubmit, this, &KalTableView::slotResetSelection);
         restoreColumnWidths();

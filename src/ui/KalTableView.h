@@ -25,6 +25,11 @@ public:
     // and keeps the selection across the model's submits. Saves the widths
     // of the previous model first.
     void setModel(QAbstractItemModel *model) override;
+    // Whether an edit made in a cell is written at once (the default) or
+    // stays pending until the owner submits or reverts, as in dialogs with
+    // OK and Cancel.
+    void setSubmitEdits(bool submit) { m_submitEdits = submit; }
+    bool submitEdits() const { return m_submitEdits; }
 
     KalSqlTableModel *sqlModel() const;
     KalItemDelegate *kalDelegate() const;
@@ -101,4 +106,5 @@ private:
     QPointer<KalSqlTableModel> m_sqlModel;
     QList<qint64> m_storedIds;
     qint64 m_storedCurrentId = -1;
+    bool m_submitEdits = true;
 };

@@ -7,6 +7,7 @@
 #include "KalTableView.h"
 
 #include <QHeaderView>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSettings>
 #include <QToolButton>
@@ -89,6 +90,29 @@ void TstStatusDialog::addStatus()
     QVERIFY(!q.next());
     // The new status is the selected one.
     QCOMPARE(dialog.tableView()->selectedIds(), QList<qint64>{second});
+}
+
+void TstStatusDialog::renameIsWrittenAtOnce()
+{
+    KalStatusDialog dialog(m_fx.project());
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    KalTableView *view = dialog.tableView();
+    QAbstractItemModel *shown = view->model();
+    const int nameColumn = m_fx.model(QStringLiteral("status"))->fieldIndex(QStringLiteral("status"));
+    const QModelIndex index = shown->index(0, nameColumn);
+    view->setCurrentIndex(index);
+    view->edit(index);
+    auto *editor = view->viewport()->findChild<QLineEdit *>();
+    QVERIFY(editor);
+    editor->setText(QStringLiteral("Offen, Mängelrüge versandt"));
+    QTest::keyClick(editor, Qt::Key_Return);
+    QCoreApplication::processEvents();
+    dialog.close();
+    QSqlQuery q(m_fx.project()->database());
+    QVERIFY(q.exec(QStringLiteral("SELECT status FROM status WHERE id = 1")) && q.next());
+    QCOMPARE(q.value(0).toString(), QStringLiteral("Offen, Mängelrüge versandt"));
+    QVERIFY(m_fx.project()->isModified());
 }
 
 void TstStatusDialog::factorySetting_data()

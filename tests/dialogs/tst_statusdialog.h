@@ -17,6 +17,7 @@ private slots:
 
     void newProjectHasDefaults();
     void addStatus();
+    void renameIsWrittenAtOnce();
     void factorySetting_data();
     void factorySetting();
     void removeUserStatuses_data();

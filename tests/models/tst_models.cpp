@@ -236,7 +236,7 @@ private slots:
         QTest::addColumn<bool>("reduction");
         QTest::addColumn<QString>("expected");
         // Company 1 = "Muster Bau GmbH" (Maurer), 2 = "Ohne Gewerk" (no trade), plan 1 = "EG Nord".
-        QTest::newRow("company with trade") << "company_id" << QVariant(1) << false << "Muster Bau GmbH (Maurer)";
+        QTest::newRow("company with trade") << "company_id" << QVariant(1) << false << "Muster Bau GmbH  (Maurer)";
         QTest::newRow("company without trade") << "company_id" << QVariant(2) << false << "Ohne Gewerk";
         QTest::newRow("company -1") << "company_id" << QVariant(-1) << false << "";
         QTest::newRow("company unknown") << "company_id" << QVariant(4711) << false << "";
@@ -604,7 +604,8 @@ private slots:
         const qint64 company = insertCompany("Muster", "Maler");
         const qint64 defect = insertDefect({{"company_id", company}});
         selectAll();
-        QCOMPARE(cell("defect", defect, "company_id").toString(), QStringLiteral("Muster (Maler)"));
+        // The factory output format: name, two blanks, trade in brackets.
+        QCOMPARE(cell("defect", defect, "company_id").toString(), QStringLiteral("Muster  (Maler)"));
         QSignalSpy repaint(model("defect"), &QAbstractItemModel::dataChanged);
         KalSqlTableModel::setCompanyFormatter([](const QSqlRecord &r) {
             return r.value("type").toString() + QStringLiteral(": ") + r.value("company").toString();

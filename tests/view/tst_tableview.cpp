@@ -417,6 +417,41 @@ void TstTableView::setModelDataMarksOnlyRealChanges()
     m->revertAll();
 }
 
+void TstTableView::cellEditsAreWrittenUnlessTheOwnerDecides_data()
+{
+    QTest::addColumn<bool>("submitEdits");
+    QTest::newRow("grid writes at once") << true;
+    QTest::newRow("dialog with OK and Cancel") << false;
+}
+
+void TstTableView::cellEditsAreWrittenUnlessTheOwnerDecides()
+{
+    QFETCH(bool, submitEdits);
+    const qint64 id = insertCompany(QStringLiteral("Dach AG"));
+    KalSqlTableModel *m = model(QStringLiteral("company"));
+    QVERIFY(m->select());
+    KalTableView view;
+    view.setSubmitEdits(submitEdits);
+    view.setModel(m);
+    view.resize(900, 300);
+    view.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    const QModelIndex index = m->index(m->findRowById(id), m->fieldIndex(QStringLiteral("city")));
+    view.setCurrentIndex(index);
+    view.edit(index);
+    auto *editor = view.viewport()->findChild<QLineEdit *>();
+    QVERIFY(editor);
+    editor->setText(QStringLiteral("Ulm"));
+    QTest::keyClick(editor, Qt::Key_Return);
+    QCoreApplication::processEvents();
+    QCOMPARE(m->isDirty(), !submitEdits);
+    QSqlQuery q(m_project->database());
+    QVERIFY(q.exec(QStringLiteral("SELECT city, modified FROM company WHERE id = %1").arg(id)) && q.next());
+    QCOMPARE(q.value(0).toString(), submitEdits ? QStringLiteral("Ulm") : QStringLiteral("Köln"));
+    QCOMPARE(q.value(1).toInt(), submitEdits ? 1 : 0);
+    m->revertAll();
+}
+
 void TstTableView::invalidDateIsRefused()
 {
     const qint64 id = insertDefect(QStringLiteral("1"), {{"correction_date", QDate(2024, 4, 3)}});
@@ -530,6 +565,10 @@ void TstTableView::editorsPerColumn_data()
     QTest::newRow("defect deadline") << "defect" << "correction_date" << 4 << true << "KalDateEdit";
     QTest::newRow("defect third deadline (Date)") << "defect" << "deadline_3" << 4 << true << "KalDateEdit";
     QTest::newRow("defect number: Qt's editor") << "defect" << "number" << 0 << true << "";
+    // Ids shown as names are chosen in the defect editor, never typed.
+    QTest::newRow("defect company id") << "defect" << "company_id" << 0 << false << "";
+    QTest::newRow("defect status id") << "defect" << "status_id" << 0 << false << "";
+    QTest::newRow("defect plan id") << "defect" << "plan_info_id" << 0 << false << "";
     QTest::newRow("status type") << "status" << "type" << 9 << false << "";
     QTest::newRow("status text") << "status" << "status" << 1 << true << "QLineEdit";
     QTest::newRow("company email") << "company" << "email" << 6 << true << "QLineEdit";

@@ -29,6 +29,8 @@ private slots:
     void selectionAndDeleteThroughProxy();
     void setModelDataMarksOnlyRealChanges_data();
     void setModelDataMarksOnlyRealChanges();
+    void cellEditsAreWrittenUnlessTheOwnerDecides_data();
+    void cellEditsAreWrittenUnlessTheOwnerDecides();
     void invalidDateIsRefused();
     void invalidDateInGridWarnsOnce_data();
     void invalidDateInGridWarnsOnce();
