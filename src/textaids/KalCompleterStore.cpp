@@ -109,7 +109,7 @@ QString fieldCaption(const QString &tableId, const QString &columnId)
         {"defect", "description", QT_TRANSLATE_NOOP("KalCompleterStore", "Beschreibung")},
         {"defect", "type", QT_TRANSLATE_NOOP("KalCompleterStore", "Typ")},
         {"defect", "user_id", QT_TRANSLATE_NOOP("KalCompleterStore", "Autor")},
-        {"defect", "roomname", QT_TRANSLATE_NOOP("KalCompleterStore", "Raum")},
+        {"defect", "roomname", QT_TRANSLATE_NOOP("KalCompleterStore", "Raumname")},
         {"defect", "roombook_number", QT_TRANSLATE_NOOP("KalCompleterStore", "Raumbuch-Nr.")},
         {"defect", "correction_instruction", QT_TRANSLATE_NOOP("KalCompleterStore", "Beseitigungsanweisung")},
         {"defect", "priority", QT_TRANSLATE_NOOP("KalCompleterStore", "Priorität")},

@@ -312,7 +312,7 @@ private slots:
         QCOMPARE(dialog.windowTitle(), QStringLiteral("Autovervollständigen bearbeiten"));
         QVERIFY(dialog.selectCompleter(QStringLiteral("defect"), QStringLiteral("roomname")));
         const int row = dialog.completerModel()->rowOf(QStringLiteral("defect"), QStringLiteral("roomname"));
-        QCOMPARE(dialog.completerModel()->index(row, 0).data().toString(), QStringLiteral("Mängel - Raum"));
+        QCOMPARE(dialog.completerModel()->index(row, 0).data().toString(), QStringLiteral("Mängel - Raumname"));
         QCOMPARE(dialog.valuesModel()->rowCount(), RoomDefaults.size());
 
         dialog.findChild<QPushButton *>(QStringLiteral("pbAddEntry"))->click();
