@@ -654,10 +654,6 @@ texts that have been entered in this field so far.</translation>
         <translation>Author</translation>
     </message>
     <message>
-        <source>Raum</source>
-        <translation>Room</translation>
-    </message>
-    <message>
         <source>Raumbuch-Nr.</source>
         <translation>Room schedule no.</translation>
     </message>
@@ -752,6 +748,10 @@ texts that have been entered in this field so far.</translation>
     <message>
         <source>Niedrig</source>
         <translation>Low</translation>
+    </message>
+    <message>
+        <source>Raumname</source>
+        <translation>Room name</translation>
     </message>
 </context>
 <context>

@@ -654,10 +654,6 @@ textos que se han introducido hasta ahora en este campo.</translation>
         <translation>Autor</translation>
     </message>
     <message>
-        <source>Raum</source>
-        <translation>Estancia</translation>
-    </message>
-    <message>
         <source>Raumbuch-Nr.</source>
         <translation>N.º de libro de estancias</translation>
     </message>
@@ -752,6 +748,10 @@ textos que se han introducido hasta ahora en este campo.</translation>
     <message>
         <source>Niedrig</source>
         <translation>Baja</translation>
+    </message>
+    <message>
+        <source>Raumname</source>
+        <translation>Nombre de la estancia</translation>
     </message>
 </context>
 <context>
