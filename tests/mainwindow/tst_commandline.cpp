@@ -2,6 +2,7 @@
 #include "KalTestSettings.h"
 
 #include <QFile>
+#include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -21,6 +22,7 @@ private slots:
     void problemsMessageWrapsTheList();
     void restartKeyWinsAndIsConsumed();
     void emptyRestartKeyOpensNothing();
+    void programWithoutDisplaySaysSoAndFails();
 
 private:
     QString existing(const QString &name) const;
@@ -186,6 +188,23 @@ void TestCommandLine::emptyRestartKeyOpensNothing()
     QCOMPARE(cl.kind, KalCommandLine::Nothing);
     QVERIFY(cl.fromRestart);
     QVERIFY(!QSettings().contains(KalCommandLine::reopenKey()));
+}
+
+void TestCommandLine::programWithoutDisplaySaysSoAndFails()
+{
+    const QString program = KalTestSettings::binDir() + QStringLiteral("/pellwick");
+    QVERIFY2(QFileInfo::exists(program), qPrintable(program));
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.remove(QStringLiteral("DISPLAY"));
+    env.remove(QStringLiteral("WAYLAND_DISPLAY"));
+    env.remove(QStringLiteral("QT_QPA_PLATFORM"));
+    QProcess process;
+    process.setProcessEnvironment(env);
+    process.start(program, {existing("a.pwp")});
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QVERIFY(process.exitCode() != 0);
+    QVERIFY(QString::fromLocal8Bit(process.readAllStandardError()).contains(QStringLiteral("no display")));
 }
 
 QTEST_GUILESS_MAIN(TestCommandLine)
