@@ -786,3 +786,38 @@ Qt::ItemFlags KalSqlTableModel::flags(const QModelIndex &idx) const
     }
     return QSqlTableModel::flags(idx);
 }
+
+void KalSqlTableModel::setSort(int column, Qt::SortOrder order)
+{
+    m_sortColumn = column;
+    m_sortOrder = order;
+    QSqlTableModel::setSort(column, order);
+}
+
+QString KalSqlTableModel::orderByClause() const
+{
+    const int role = m_sortColumn >= 0 ? displayRole(m_sortColumn) : NoDisplayRole;
+    QString lookup;
+    switch (role) {
+    case CompanyRole:
+        lookup = QStringLiteral("(SELECT c.company || ' ' || c.lastname || ' ' || c.firstname FROM company c "
+                                "WHERE c.id = %1.%2)");
+        break;
+    case StatusRole:
+        lookup = QStringLiteral("(SELECT s.status FROM status s WHERE s.id = %1.%2)");
+        break;
+    case PlanRole:
+        lookup = QStringLiteral("(SELECT p.plan_name FROM plan_info p WHERE p.id = %1.%2)");
+        break;
+    default:
+        return QSqlTableModel::orderByClause();
+    }
+    const QString table = database().driver()->escapeIdentifier(tableName(), QSqlDriver::TableName);
+    const QString field = database().driver()->escapeIdentifier(m_fieldNames.value(m_sortColumn).isEmpty()
+                                                                     ? record().fieldName(m_sortColumn)
+                                                                     : m_fieldNames.value(m_sortColumn),
+                                                                 QSqlDriver::FieldName);
+    // Rows without a match sort first, like empty texts; ties keep id order.
+    return QStringLiteral("ORDER BY IFNULL(%1, '') COLLATE NOCASE %2, %3.id")
+        .arg(lookup.arg(table, field), m_sortOrder == Qt::AscendingOrder ? QStringLiteral("ASC") : QStringLiteral("DESC"), table);
+}

@@ -119,6 +119,8 @@ public:
 
     static QString tableCaption(int tableNumber);
 
+    void setSort(int column, Qt::SortOrder order) override;
+
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
     // Keeps the id given to a new row when a record without id is written
@@ -134,6 +136,8 @@ signals:
     void afterSubmit();
 
 protected:
+    // Columns that show a looked-up name sort by that name, not by the id.
+    QString orderByClause() const override;
     bool insertRowIntoTable(const QSqlRecord &values) override;
     bool updateRowInTable(int row, const QSqlRecord &values) override;
     bool deleteRowFromTable(int row) override;
@@ -192,4 +196,6 @@ private:
     QString m_reductionSuffix;
     QString m_standardStatusText;
     QString m_userStatusText;
+    int m_sortColumn = -1;
+    Qt::SortOrder m_sortOrder = Qt::AscendingOrder;
 };

@@ -599,6 +599,43 @@ private slots:
         QCOMPARE(cell("defect", defect, "plan_info_id").toString(), QStringLiteral("OG"));
     }
 
+    void lookupColumnsSortByTheShownName_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<int>("order");
+        QTest::newRow("company ascending") << "company_id" << int(Qt::AscendingOrder);
+        QTest::newRow("company descending") << "company_id" << int(Qt::DescendingOrder);
+        QTest::newRow("status ascending") << "status_id" << int(Qt::AscendingOrder);
+        QTest::newRow("status descending") << "status_id" << int(Qt::DescendingOrder);
+    }
+
+    void lookupColumnsSortByTheShownName()
+    {
+        QFETCH(QString, field);
+        QFETCH(int, order);
+        // Ids and names in opposite orders: Zimmerei has the lower id.
+        const qint64 zimmerei = insertCompany("Zimmerei Holz", "Zimmerer");
+        const qint64 abbruch = insertCompany("abbruch & Co", "Abbruch");
+        insertDefect({{"company_id", zimmerei}, {"status_id", 1}}); // "Offen, zu beseitigen"
+        insertDefect({{"company_id", abbruch}, {"status_id", 5}});  // "Erledigt, komplett beseitigt"
+        insertDefect({{"company_id", 9999}, {"status_id", 9999}});  // nothing to show
+        selectAll();
+        KalSqlTableModel *defects = model("defect");
+        const int column = defects->fieldIndex(field);
+        defects->sort(column, Qt::SortOrder(order));
+        QStringList shown;
+        for (int row = 0; row < defects->rowCount(); ++row)
+            shown << defects->index(row, column).data().toString();
+        QStringList expected = shown;
+        std::sort(expected.begin(), expected.end(),
+                  [](const QString &a, const QString &b) { return a.compare(b, Qt::CaseInsensitive) < 0; });
+        if (order == Qt::DescendingOrder)
+            std::reverse(expected.begin(), expected.end());
+        QCOMPARE(shown, expected);
+        QCOMPARE(shown.size(), 3);
+        defects->setSort(-1, Qt::AscendingOrder);
+    }
+
     void companyFormatterCanBeReplaced()
     {
         const qint64 company = insertCompany("Muster", "Maler");
