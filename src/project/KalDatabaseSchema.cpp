@@ -106,6 +106,33 @@ bool KalDatabaseSchema::createSchema(const QSqlDatabase &db, KalTransactions &tr
     return true;
 }
 
+QList<KalDatabaseSchema::DefaultStatus> KalDatabaseSchema::defaultStatuses()
+{
+    // The program-wide default palette: four warm tones for the open
+    // states, four greens for the settled ones.
+    static const struct
+    {
+        const char *name;
+        const char *color;
+        int reductionOption;
+    } defaults[] = {
+        {QT_TRANSLATE_NOOP("DefaultStatus", "Offen, zu beseitigen"), "#f3752c", 0},
+        {QT_TRANSLATE_NOOP("DefaultStatus", "Offen, in Arbeit"), "#cb2821", 0},
+        {QT_TRANSLATE_NOOP("DefaultStatus", "Offen, unzureichend beseitigt"), "#ac323b", 0},
+        {QT_TRANSLATE_NOOP("DefaultStatus", "Offen, streitig"), "#75151e", 0},
+        {QT_TRANSLATE_NOOP("DefaultStatus", "Erledigt, komplett beseitigt"), "#88ff00", 0},
+        {QT_TRANSLATE_NOOP("DefaultStatus", "Erledigt, teilweise beseitigt"), "#70b69e", 1},
+        {QT_TRANSLATE_NOOP("DefaultStatus", "Erledigt, bleibt"), "#0f8558", 1},
+        {QT_TRANSLATE_NOOP("DefaultStatus", "Erledigt, streitig abgelehnt"), "#005d52", 1},
+    };
+    QList<DefaultStatus> list;
+    qint64 id = 1;
+    for (const auto &d : defaults)
+        list.append({id++, QCoreApplication::translate("DefaultStatus", d.name), QString::fromLatin1(d.color),
+                     d.reductionOption});
+    return list;
+}
+
 bool KalDatabaseSchema::insertDefaultStatuses(const QSqlDatabase &db)
 {
     QSqlQuery count(db);
@@ -116,37 +143,19 @@ bool KalDatabaseSchema::insertDefaultStatuses(const QSqlDatabase &db)
     if (count.value(0).toInt() != 0)
         return true;
 
-    struct DefaultStatus
-    {
-        const char *name;
-        const char *color;
-        int reductionOption;
-    };
-    static const DefaultStatus defaults[] = {
-        {QT_TRANSLATE_NOOP("DefaultStatus", "Offen, zu beseitigen"), "#f3752c", 0},
-        {QT_TRANSLATE_NOOP("DefaultStatus", "Offen, in Arbeit"), "#cb2821", 0},
-        {QT_TRANSLATE_NOOP("DefaultStatus", "Offen, unzureichend beseitigt"), "#ac323b", 0},
-        {QT_TRANSLATE_NOOP("DefaultStatus", "Offen, streitig"), "#75151e", 0},
-        {QT_TRANSLATE_NOOP("DefaultStatus", "Erledigt, komplett beseitigt"), "#88ff00", 0},
-        {QT_TRANSLATE_NOOP("DefaultStatus", "Erledigt, teilweise beseitigt"), "#70b69e", 1},
-        {QT_TRANSLATE_NOOP("DefaultStatus", "Erledigt, bleibt"), "#0f8558", 1},
-        {QT_TRANSLATE_NOOP("DefaultStatus", "Erledigt, streitig abgelehnt"), "#005d52", 1},
-    };
-    int id = 1;
-    for (const DefaultStatus &status : defaults) {
+    for (const DefaultStatus &status : defaultStatuses()) {
         QSqlQuery insert(db);
         insert.prepare(QStringLiteral("INSERT INTO status (id, status, color, type, reduction_option, pos) "
                                       "VALUES (%1, :status, :color, :type, %2, %1)")
-                           .arg(id)
+                           .arg(status.id)
                            .arg(status.reductionOption));
-        insert.bindValue(QStringLiteral(":status"), QCoreApplication::translate("DefaultStatus", status.name));
-        insert.bindValue(QStringLiteral(":color"), QString::fromLatin1(status.color));
+        insert.bindValue(QStringLiteral(":status"), status.name);
+        insert.bindValue(QStringLiteral(":color"), status.color);
         insert.bindValue(QStringLiteral(":type"), 1);
         if (!insert.exec()) {
             showDatabaseError(insert.lastError());
             return false;
         }
-        ++id;
     }
     QSqlQuery generator(db);
     generator.prepare(QStringLiteral("INSERT INTO id_generator (id_table, id_counter) VALUES (:tablename, 8)"));

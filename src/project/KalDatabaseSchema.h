@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QList>
 #include <QMap>
 #include <QSqlDatabase>
 #include <QString>
@@ -21,6 +22,16 @@ public:
     // statuses, the master-data row and "fileversion". Shows the message
     // and returns false when anything fails (the transaction is rolled back).
     static bool createSchema(const QSqlDatabase &db, KalTransactions &transactions);
+
+    struct DefaultStatus
+    {
+        qint64 id; // also its position
+        QString name; // translated
+        QString color;
+        int reductionOption;
+    };
+    // The eight statuses of a new project, names in the current language.
+    static QList<DefaultStatus> defaultStatuses();
 
     // Inserts the eight default statuses when the table is empty.
     static bool insertDefaultStatuses(const QSqlDatabase &db);

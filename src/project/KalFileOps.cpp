@@ -20,7 +20,19 @@ namespace KalFileOps {
 
 namespace {
 FaultHook g_hook;
+
+#ifdef Q_OS_UNIX
+bool fsyncPath(const QString &path, int flags)
+{
+    const int fd = ::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC);
+    if (fd < 0)
+        return false;
+    const bool ok = ::fsync(fd) == 0;
+    ::close(fd);
+    return ok;
 }
+#endif
+} // namespace
 
 void setFaultHook(FaultHook hook)
 {
@@ -37,12 +49,7 @@ bool syncFile(const QString &path)
     if (injectedFault(QStringLiteral("sync"), path))
         return false;
 #ifdef Q_OS_UNIX
-    const int fd = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC);
-    if (fd < 0)
-        return false;
-    const bool ok = ::fsync(fd) == 0;
-    ::close(fd);
-    return ok;
+    return fsyncPath(path, O_RDONLY);
 #else
     QFile file(path);
     if (!file.open(QIODevice::ReadWrite))
@@ -54,12 +61,7 @@ bool syncFile(const QString &path)
 bool syncDirectory(const QString &dir)
 {
 #ifdef Q_OS_UNIX
-    const int fd = ::open(QFile::encodeName(dir).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (fd < 0)
-        return false;
-    const bool ok = ::fsync(fd) == 0;
-    ::close(fd);
-    return ok;
+    return fsyncPath(dir, O_RDONLY | O_DIRECTORY);
 #else
     Q_UNUSED(dir)
     return true; // NTFS journals the rename itself
@@ -175,6 +177,12 @@ bool removeDatabaseFile(const QString &path)
     if (QFileInfo::exists(journal))
         QFile::remove(journal);
     return !QFileInfo::exists(path) || QFile::remove(path);
+}
+
+bool isReadOnly(const QString &path)
+{
+    const QFileInfo info(path);
+    return !info.isWritable() || !(info.permissions() & (QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther));
 }
 
 bool processAlive(qint64 pid)

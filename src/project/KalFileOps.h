@@ -19,6 +19,9 @@ bool copyFile(const QString &from, const QString &to);
 // Removes a file and, for SQLite files, its rollback journal.
 bool removeDatabaseFile(const QString &path);
 bool processAlive(qint64 pid);
+// Not writable for us, or marked read-only for everybody (which also counts
+// for an administrator, who could write it anyway).
+bool isReadOnly(const QString &path);
 
 // Test hook: called before each operation with its name ("snapshot",
 // "sync", "replace", "link", "copy", "rename", "remove") and path; return

@@ -67,14 +67,6 @@ void removeConnection(const QString &name)
     QSqlDatabase::removeDatabase(name);
 }
 
-// Not writable for us, or marked read-only for everybody (which also counts
-// for an administrator, who could write it anyway).
-bool isReadOnlyFile(const QString &path)
-{
-    const QFileInfo info(path);
-    return !info.isWritable() || !(info.permissions() & (QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther));
-}
-
 bool isLockError(const QSqlError &error)
 {
     // SQLITE_BUSY (5) and SQLITE_LOCKED (6), with their extended codes.
@@ -639,7 +631,7 @@ int KalProject::openProjectStep(const QString &path, bool *restart)
         QFile::setPermissions(m_workingCopyPath, QFile::permissions(m_workingCopyPath) | QFile::WriteOwner
                                                      | QFile::WriteUser | QFile::ReadOwner | QFile::ReadUser);
     }
-    if (isReadOnlyFile(absolute)) {
+    if (KalFileOps::isReadOnly(absolute)) {
         m_writeProtected = true;
         KalPrompt::warning(tr("Datei-Warnung"),
                            tr("Sie haben keine Schreibrechte für die Datei %1.\nWenn Sie die Datei speichern wollen, "

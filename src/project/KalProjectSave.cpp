@@ -45,10 +45,14 @@ QString snapshotName(const QString &target)
     return target + QStringLiteral(".saving.") + QString::number(QCoreApplication::applicationPid());
 }
 
-bool isReadOnlyFile(const QString &path)
+void reportNoSpaceForSaving(const QString &volume, qint64 shortfall)
 {
-    const QFileInfo info(path);
-    return !info.isWritable() || !(info.permissions() & (QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther));
+    KalPrompt::critical(KalProject::tr("Speicherplatz nicht ausreichend"),
+                        KalProject::tr("Auf dem Ziellaufwerk %1 steht nicht genügend Speicherplatz zur Verfügung, um "
+                                       "das Projekt zu speichern.\nGeben Sie mindestens %2 MB Speicherplatz frei und "
+                                       "versuchen Sie es erneut.")
+                            .arg(volume)
+                            .arg(shortfall / 1000000));
 }
 
 qint64 fileSize(const QString &path)
@@ -84,7 +88,7 @@ int KalProject::saveProject(const QString &target)
     KalDatabaseSchema::setFileVersion(database(), KalDatabaseSchema::programFileVersion());
 
     if (target.isEmpty()) {
-        if (!m_projectPath.isEmpty() && QFileInfo::exists(m_projectPath) && isReadOnlyFile(m_projectPath)) {
+        if (!m_projectPath.isEmpty() && QFileInfo::exists(m_projectPath) && KalFileOps::isReadOnly(m_projectPath)) {
             KalPrompt::warning(tr("Speicher-Fehler"),
                                tr("Sie können die Datei %1 nicht speichern, da sie keine Schreibrechte "
                                   "besitzen.\nWählen Sie im Menü 'Datei' den Menüpunkt 'Speichern unter',\num die "
@@ -122,12 +126,7 @@ int KalProject::saveInPlace()
             freed = fileSize(backupFileName(m_projectPath, m_backupsMade ? 0 : n - 1));
         const qint64 balance = volume.bytesAvailable + freed - workingSize;
         if (balance < 0) {
-            KalPrompt::critical(tr("Speicherplatz nicht ausreichend"),
-                                tr("Auf dem Ziellaufwerk %1 steht nicht genügend Speicherplatz zur Verfügung, um "
-                                   "das Projekt zu speichern.\nGeben Sie mindestens %2 MB Speicherplatz frei und "
-                                   "versuchen Sie es erneut.")
-                                    .arg(volume.name)
-                                    .arg(-balance / 1000000));
+            reportNoSpaceForSaving(volume.name, -balance);
             return SaveFailed;
         }
     }
@@ -187,17 +186,12 @@ int KalProject::saveAs(const QString &target)
     if (volume.valid && volume.ready) {
         const qint64 balance = volume.bytesAvailable + fileSize(target) - 2 * workingSize;
         if (balance < 0) {
-            KalPrompt::critical(tr("Speicherplatz nicht ausreichend"),
-                                tr("Auf dem Ziellaufwerk %1 steht nicht genügend Speicherplatz zur Verfügung, um "
-                                   "das Projekt zu speichern.\nGeben Sie mindestens %2 MB Speicherplatz frei und "
-                                   "versuchen Sie es erneut.")
-                                    .arg(volume.name)
-                                    .arg(-balance / 1000000));
+            reportNoSpaceForSaving(volume.name, -balance);
             return SaveFailed;
         }
     }
     const QFileInfo targetInfo(target);
-    if (targetInfo.exists() && (isReadOnlyFile(target) || KalFileOps::injectedFault(QStringLiteral("remove"), target))) {
+    if (targetInfo.exists() && (KalFileOps::isReadOnly(target) || KalFileOps::injectedFault(QStringLiteral("remove"), target))) {
         KalPrompt::critical(tr("Dateifehler"),
                             tr("Die Datei\n%1\nkonnte nicht gelöscht werden.").arg(nativeName(target)));
         return SaveFailed;

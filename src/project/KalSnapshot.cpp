@@ -39,7 +39,8 @@ namespace {
 // the lock on POSIX systems; SQLite's own file object does not. Only valid
 // while no transaction is active: then the file holds exactly the
 // committed state. Returns false when this way is not available.
-bool copyThroughOpenHandle(sqlite3 *src, int sourceFd, const QString &target, bool *available, QString *errorText)
+bool copyThroughOpenHandle(sqlite3 *src, int sourceFd, const QString &target, bool *available, qint64 *copied,
+                           QString *errorText)
 {
     *available = false;
     if (!sqlite3_get_autocommit(src))
@@ -52,6 +53,7 @@ bool copyThroughOpenHandle(sqlite3 *src, int sourceFd, const QString &target, bo
     if (file->pMethods->xFileSize(file, &size) != SQLITE_OK)
         return false;
     *available = true;
+    *copied = size;
 
 #ifdef Q_OS_LINUX
     if (sourceFd >= 0) {
@@ -153,13 +155,10 @@ bool write(const QSqlDatabase &source, const QString &target, QString *errorText
 
     bool available = false;
     QString copyError;
-    if (copyThroughOpenHandle(src, sourceFd, target, &available, &copyError)) {
+    qint64 size = -1;
+    if (copyThroughOpenHandle(src, sourceFd, target, &available, &size, &copyError)) {
         if (!KalFileOps::syncFile(target))
             return fail(QStringLiteral("disk I/O error"));
-        sqlite3_file *file = nullptr;
-        sqlite3_int64 size = -1;
-        if (sqlite3_file_control(src, "main", SQLITE_FCNTL_FILE_POINTER, &file) == SQLITE_OK && file)
-            file->pMethods->xFileSize(file, &size);
         const QString check = verifyCopy(target, size);
         if (check != QLatin1String("ok"))
             return fail(check);

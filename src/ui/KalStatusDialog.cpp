@@ -106,31 +106,6 @@ KalStatusDialog::KalStatusDialog(KalProject *project, QWidget *parent)
 
 KalStatusDialog::~KalStatusDialog() = default;
 
-QList<KalStatusDialog::DefaultStatus> KalStatusDialog::defaultStatuses()
-{
-    static const struct
-    {
-        const char *name;
-        const char *color;
-        int reductionOption;
-    } defaults[] = {
-        {QT_TRANSLATE_NOOP("DefaultStatus", "Offen, zu beseitigen"), "#f3752c", 0},
-        {QT_TRANSLATE_NOOP("DefaultStatus", "Offen, in Arbeit"), "#cb2821", 0},
-        {QT_TRANSLATE_NOOP("DefaultStatus", "Offen, unzureichend beseitigt"), "#ac323b", 0},
-        {QT_TRANSLATE_NOOP("DefaultStatus", "Offen, streitig"), "#75151e", 0},
-        {QT_TRANSLATE_NOOP("DefaultStatus", "Erledigt, komplett beseitigt"), "#88ff00", 0},
-        {QT_TRANSLATE_NOOP("DefaultStatus", "Erledigt, teilweise beseitigt"), "#70b69e", 1},
-        {QT_TRANSLATE_NOOP("DefaultStatus", "Erledigt, bleibt"), "#0f8558", 1},
-        {QT_TRANSLATE_NOOP("DefaultStatus", "Erledigt, streitig abgelehnt"), "#005d52", 1},
-    };
-    QList<DefaultStatus> list;
-    qint64 id = 1;
-    for (const auto &d : defaults)
-        list.append({id++, QCoreApplication::translate("DefaultStatus", d.name), QString::fromLatin1(d.color),
-                     d.reductionOption});
-    return list;
-}
-
 void KalStatusDialog::setColorChooser(const ColorChooser &chooser)
 {
     colorChooser() = chooser;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "KalDatabaseSchema.h"
+
 #include <QDialog>
 #include <QList>
 #include <QPointer>
@@ -21,15 +23,9 @@ public:
     explicit KalStatusDialog(KalProject *project, QWidget *parent = nullptr);
     ~KalStatusDialog() override;
 
-    struct DefaultStatus
-    {
-        qint64 id;
-        QString name; // translated
-        QString color;
-        int reductionOption;
-    };
+    using DefaultStatus = KalDatabaseSchema::DefaultStatus;
     // The eight statuses of a new project, names in the current language.
-    static QList<DefaultStatus> defaultStatuses();
+    static QList<DefaultStatus> defaultStatuses() { return KalDatabaseSchema::defaultStatuses(); }
     static QString newStatusColor() { return QStringLiteral("#859FAF"); }
 
     // Chooses a colour; returns an invalid colour when cancelled. Replaceable

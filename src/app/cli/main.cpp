@@ -215,6 +215,18 @@ int commandCheck(const QString &file)
     return result == QLatin1String("ok") ? Success : Failed;
 }
 
+// Opens through the whole lifecycle; a write-protected file cannot take changes.
+bool openForWriting(KalProject &project, const QString &file)
+{
+    if (!project.openProject(file))
+        return false;
+    if (project.isWriteProtected()) {
+        project.closeProject();
+        return false;
+    }
+    return true;
+}
+
 bool idExists(KalProject &project, const QString &table, qint64 id)
 {
     QSqlQuery q(project.database());
@@ -256,25 +268,24 @@ int commandAddDefect(const QString &file, const QStringList &args)
         return Failed;
 
     KalProject project;
-    if (!project.openProject(file))
+    if (!openForWriting(project, file))
         return Failed;
-    if (project.isWriteProtected()) {
-        project.closeProject();
-        return Failed;
-    }
-    if (values.contains(QStringLiteral("company_id"))
-        && !idExists(project, QStringLiteral("company"), values.value(QStringLiteral("company_id")).toLongLong())) {
-        KalPrompt::critical(tr("Fehler"), tr("Eine Firma mit der Id %1 gibt es in diesem Projekt nicht.")
-                                              .arg(values.value(QStringLiteral("company_id")).toLongLong()));
-        project.closeProject();
-        return Failed;
-    }
-    if (values.contains(QStringLiteral("status_id"))
-        && !idExists(project, QStringLiteral("status"), values.value(QStringLiteral("status_id")).toLongLong())) {
-        KalPrompt::critical(tr("Fehler"), tr("Einen Status mit der Id %1 gibt es in diesem Projekt nicht.")
-                                              .arg(values.value(QStringLiteral("status_id")).toLongLong()));
-        project.closeProject();
-        return Failed;
+    const struct
+    {
+        const char *field;
+        const char *table;
+        const char *message;
+    } references[] = {
+        {"company_id", "company", QT_TRANSLATE_NOOP("KalCli", "Eine Firma mit der Id %1 gibt es in diesem Projekt nicht.")},
+        {"status_id", "status", QT_TRANSLATE_NOOP("KalCli", "Einen Status mit der Id %1 gibt es in diesem Projekt nicht.")},
+    };
+    for (const auto &ref : references) {
+        const QString field = QString::fromLatin1(ref.field);
+        if (values.contains(field) && !idExists(project, QString::fromLatin1(ref.table), values.value(field).toLongLong())) {
+            KalPrompt::critical(tr("Fehler"), tr(ref.message).arg(values.value(field).toLongLong()));
+            project.closeProject();
+            return Failed;
+        }
     }
     const qint64 id = project.insertDefect(values);
     if (id < 0) {
@@ -295,12 +306,8 @@ int commandVacuum(const QString &file)
     if (fileMissing(file))
         return Failed;
     KalProject project;
-    if (!project.openProject(file))
+    if (!openForWriting(project, file))
         return Failed;
-    if (project.isWriteProtected()) {
-        project.closeProject();
-        return Failed;
-    }
     const bool ok = project.vacuumDatabase(false);
     project.closeProject();
     return ok ? Success : Failed;
