@@ -1,10 +1,10 @@
 // Measures the defect grid's model against plain SQLite reads in the same run:
 //  (a) selecting and fetching every defect vs a forward-only query over the same rows;
 //  (b) the display text of the company/status/plan cells (looked up) vs plain text cells.
-#include "KalProject.h"
-#include "KalProjectModels.h"
-#include "KalPrompt.h"
-#include "KalSqlTableModel.h"
+#include "core/project/KalProject.h"
+#include "core/project/KalProjectModels.h"
+#include "core/project/KalPrompt.h"
+#include "core/project/KalSqlTableModel.h"
 
 #include <QElapsedTimer>
 #include <QGuiApplication>
@@ -156,8 +156,7 @@ int main(int argc, char **argv)
         queryRows = rows;
     });
     if (modelRows != defectCount || queryRows != defectCount) {
-        std::fprintf(stderr, "row counts differ: model %d, query %d, expected %d\n", modelRows, queryRows,
-                     defectCount);
+        std::fprintf(stderr, "row counts differ: model %d, query %d, expected %d\n", modelRows, queryRows, defectCount);
         return 1;
     }
 
@@ -165,8 +164,7 @@ int main(int argc, char **argv)
     const int lookedUp[] = {defects->fieldIndex(QStringLiteral("company_id")),
                             defects->fieldIndex(QStringLiteral("status_id")),
                             defects->fieldIndex(QStringLiteral("plan_info_id"))};
-    const int plain[] = {defects->fieldIndex(QStringLiteral("roomname")),
-                         defects->fieldIndex(QStringLiteral("type")),
+    const int plain[] = {defects->fieldIndex(QStringLiteral("roomname")), defects->fieldIndex(QStringLiteral("type")),
                          defects->fieldIndex(QStringLiteral("roombook_number"))};
     qint64 lookedUpChars = 0;
     qint64 plainChars = 0;

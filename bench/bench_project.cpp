@@ -3,9 +3,9 @@
 // process that has the project open.
 //
 //   bench_project [--defects N] [--photos N] [--photo-kb N] [--runs N] [--keep DIR]
-#include "KalProject.h"
-#include "KalPrompt.h"
-#include "KalSqlTableModel.h"
+#include "core/project/KalProject.h"
+#include "core/project/KalPrompt.h"
+#include "core/project/KalSqlTableModel.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -165,7 +165,8 @@ int main(int argc, char **argv)
             keep = value;
     }
 
-    QTemporaryDir tmp(keep.isEmpty() ? QDir::tempPath() + QStringLiteral("/pellwick-bench-XXXXXX") : keep + QStringLiteral("/XXXXXX"));
+    QTemporaryDir tmp(keep.isEmpty() ? QDir::tempPath() + QStringLiteral("/pellwick-bench-XXXXXX")
+                                     : keep + QStringLiteral("/XXXXXX"));
     tmp.setAutoRemove(keep.isEmpty());
     const QString file = tmp.filePath(QStringLiteral("gross.pwp"));
     const QString copy = tmp.filePath(QStringLiteral("kopie.pwp"));
@@ -175,14 +176,15 @@ int main(int argc, char **argv)
         std::fprintf(stderr, "could not generate the project\n");
         return 1;
     }
-    std::printf("generated: %d defects, %d photos, %.0f MB in %.1f s\n", defects, photos,
-                QFileInfo(file).size() / 1e6, seconds(t));
+    std::printf("generated: %d defects, %d photos, %.0f MB in %.1f s\n", defects, photos, QFileInfo(file).size() / 1e6,
+                seconds(t));
 
     QVector<double> openTimes, openPeers, saveTimes, savePeers;
     for (int run = 0; run < runs; ++run) {
         dropCaches();
-        openPeers << shell(QStringLiteral("cp '%1' '%2' && sync && sqlite3 '%2' 'PRAGMA quick_check' >/dev/null && rm '%2'")
-                               .arg(file, copy));
+        openPeers << shell(
+            QStringLiteral("cp '%1' '%2' && sync && sqlite3 '%2' 'PRAGMA quick_check' >/dev/null && rm '%2'")
+                .arg(file, copy));
         dropCaches();
         KalProject project;
         t.restart();

@@ -2,13 +2,13 @@
 //  (a) opening a project until the grid has painted its first screen vs
 //      selecting and fetching the defect model;
 //  (b) sorting the grid by "Firma" or "Status" (looked-up texts) vs by "Raum".
-#include "KalItemDelegate.h"
-#include "KalMainWindow.h"
-#include "KalProject.h"
-#include "KalPrompt.h"
-#include "KalResources.h"
-#include "KalSqlTableModel.h"
-#include "KalTableView.h"
+#include "core/project/KalProject.h"
+#include "core/project/KalPrompt.h"
+#include "core/project/KalSqlTableModel.h"
+#include "gui/mainwindow/KalMainWindow.h"
+#include "gui/widgets/KalItemDelegate.h"
+#include "gui/widgets/KalResources.h"
+#include "gui/widgets/KalTableView.h"
 
 #include <QApplication>
 #include <QElapsedTimer>

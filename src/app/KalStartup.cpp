@@ -1,9 +1,9 @@
 #include "KalStartup.h"
 
-#include "KalCommandLine.h"
-#include "KalMainWindow.h"
-#include "KalProject.h"
-#include "KalPrompt.h"
+#include "core/project/KalCommandLine.h"
+#include "core/project/KalProject.h"
+#include "core/project/KalPrompt.h"
+#include "gui/mainwindow/KalMainWindow.h"
 
 #include <QApplication>
 #include <QDir>
@@ -105,7 +105,8 @@ QPixmap KalStartup::splashPixmap()
     painter.drawText(QRect(178, 112, 270, 24), Qt::AlignLeft | Qt::AlignVCenter,
                      tr("Version %1").arg(QStringLiteral(PELLWICK_VERSION)));
     painter.setPen(QColor(110, 110, 110));
-    painter.drawText(QRect(178, 140, 270, 24), Qt::AlignLeft | Qt::AlignVCenter, tr("Mängelmanagement für Bauprojekte"));
+    painter.drawText(QRect(178, 140, 270, 24), Qt::AlignLeft | Qt::AlignVCenter,
+                     tr("Mängelmanagement für Bauprojekte"));
     return pixmap;
 }
 
@@ -192,11 +193,12 @@ void KalStartup::carryOut(KalMainWindow *window, const KalCommandLine &commandLi
         return;
 
     if (window->linkSiteJournal(commandLine.siteJournalFile)) {
-        KalPrompt::information(tr("Datenimport"),
-                               tr("Das Projekt wurde mit dem Bautagebuch\n%1\nverknüpft.\n\nDer Import von Mängeln "
-                                  "und Firmen aus dem Bautagebuch ist in dieser Programmversion noch nicht "
-                                  "verfügbar.")
-                                   .arg(QDir::toNativeSeparators(QFileInfo(commandLine.siteJournalFile).absoluteFilePath())));
+        KalPrompt::information(
+            tr("Datenimport"),
+            tr("Das Projekt wurde mit dem Bautagebuch\n%1\nverknüpft.\n\nDer Import von Mängeln "
+               "und Firmen aus dem Bautagebuch ist in dieser Programmversion noch nicht "
+               "verfügbar.")
+                .arg(QDir::toNativeSeparators(QFileInfo(commandLine.siteJournalFile).absoluteFilePath())));
     }
 }
 

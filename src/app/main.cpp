@@ -1,14 +1,14 @@
 // pellwick: the desktop program.
 
-#include "KalCommandLine.h"
-#include "KalStartup.h"
+#include "app/KalStartup.h"
+#include "core/project/KalCommandLine.h"
 
-#include "KalMainWindow.h"
-#include "KalMessageBoxPrompt.h"
-#include "KalProgressDialog.h"
-#include "KalPrompt.h"
-#include "KalResources.h"
-#include "KalSpellChecker.h"
+#include "core/project/KalPrompt.h"
+#include "core/textaids/KalSpellChecker.h"
+#include "gui/mainwindow/KalMainWindow.h"
+#include "gui/widgets/KalMessageBoxPrompt.h"
+#include "gui/widgets/KalProgressDialog.h"
+#include "gui/widgets/KalResources.h"
 
 #include <QApplication>
 #include <QProcess>

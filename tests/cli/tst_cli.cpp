@@ -1,7 +1,7 @@
 // pellwick-cli driven as a user's script would: real processes, real files.
-#include "KalProject.h"
-#include "KalTestFiles.h"
-#include "KalTestSettings.h"
+#include "core/project/KalProject.h"
+#include "support/KalTestFiles.h"
+#include "support/KalTestSettings.h"
 
 #include <QDir>
 #include <QFile>
@@ -67,7 +67,8 @@ private slots:
         QTest::newRow("unknown option") << QStringList{"info", "x.pwp", "--xml"} << 2;
         QTest::newRow("description missing") << QStringList{"add-defect", "x.pwp", "--room", "Flur"} << 2;
         QTest::newRow("option without value") << QStringList{"add-defect", "x.pwp", "--description"} << 2;
-        QTest::newRow("company not a number") << QStringList{"add-defect", "x.pwp", "--description", "d", "--company", "Maler"} << 2;
+        QTest::newRow("company not a number")
+            << QStringList{"add-defect", "x.pwp", "--description", "d", "--company", "Maler"} << 2;
         QTest::newRow("missing file") << QStringList{"info", "/nirgends/x.pwp"} << 1;
     }
 
@@ -124,8 +125,8 @@ private slots:
     {
         const QString file = path("bau.pwp");
         QVERIFY(createProject(file, 2));
-        const Run run = cli({"add-defect", file, "--description", "Riss im Putz", "--number", "17", "--room",
-                             "Küche", "--status", "3"});
+        const Run run = cli({"add-defect", file, "--description", "Riss im Putz", "--number", "17", "--room", "Küche",
+                             "--status", "3"});
         QCOMPARE(run.code, 0);
         QCOMPARE(run.out.trimmed(), QStringLiteral("3"));
         QCOMPARE(countRows(file, "defect"), 3);

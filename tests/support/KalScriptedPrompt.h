@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KalPrompt.h"
+#include "core/project/KalPrompt.h"
 
 #include <QQueue>
 #include <QStringList>

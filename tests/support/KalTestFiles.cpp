@@ -1,6 +1,6 @@
 #include "KalTestFiles.h"
 
-#include "KalProject.h"
+#include "core/project/KalProject.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -32,8 +32,7 @@ bool createProject(const QString &path, int defects)
 }
 
 namespace {
-template<typename F>
-auto withReadOnly(const QString &file, F f) -> decltype(f(std::declval<QSqlDatabase &>()))
+template <typename F> auto withReadOnly(const QString &file, F f) -> decltype(f(std::declval<QSqlDatabase &>()))
 {
     static int counter = 0;
     const QString name = QStringLiteral("testfiles%1").arg(++counter);

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "KalResources.h"
-#include "KalTestSettings.h"
+#include "gui/widgets/KalResources.h"
+#include "support/KalTestSettings.h"
 
 #include <QApplication>
 #include <QLocale>
@@ -9,8 +9,7 @@
 
 // Runs several widget test classes in one executable, each on a fresh
 // instance, with isolated settings, German locale and the compiled icons.
-template<typename... Tests>
-int kalRunWidgetTests(int argc, char **argv)
+template <typename... Tests> int kalRunWidgetTests(int argc, char **argv)
 {
     QApplication app(argc, argv);
     app.setAttribute(Qt::AA_Use96Dpi, true);

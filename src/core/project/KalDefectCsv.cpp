@@ -1,0 +1,324 @@
+#include "KalDefectCsv.h"
+
+#include "core/project/KalPrompt.h"
+#include "core/project/KalSqlTableModel.h"
+#include "core/textaids/KalDateFormat.h"
+
+#include <QDate>
+#include <QDateTime>
+#include <QDir>
+#include <QHash>
+#include <QSaveFile>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QSqlRecord>
+#include <QVariant>
+#include <algorithm>
+
+namespace {
+
+struct Column
+{
+    const char *field;
+    const char *caption; // the grid caption, translated like the grid's
+};
+
+// The long grid layout; the short one is a subset of it.
+const Column s_allColumns[] = {
+    {"number", QT_TRANSLATE_NOOP("KalSqlTableModel", "Nr.")},
+    {"description", QT_TRANSLATE_NOOP("KalSqlTableModel", "Beschreibung")},
+    {"company_id", QT_TRANSLATE_NOOP("KalSqlTableModel", "Firma")},
+    {"type", QT_TRANSLATE_NOOP("KalSqlTableModel", "Typ")},
+    {"user_id", QT_TRANSLATE_NOOP("KalSqlTableModel", "Autor")},
+    {"creation_date", QT_TRANSLATE_NOOP("KalSqlTableModel", "Erfasst am")},
+    {"roomname", QT_TRANSLATE_NOOP("KalSqlTableModel", "Raum")},
+    {"roombook_number", QT_TRANSLATE_NOOP("KalSqlTableModel", "Raumbuch-Nr.")},
+    {"plan_info_id", QT_TRANSLATE_NOOP("KalSqlTableModel", "Plan")},
+    {"image_cnt", QT_TRANSLATE_NOOP("KalSqlTableModel", "Fotos")},
+    {"correction_instruction", QT_TRANSLATE_NOOP("KalSqlTableModel", "Beseitigungsanweisung")},
+    {"priority", QT_TRANSLATE_NOOP("KalSqlTableModel", "Priorität")},
+    {"correction_date", QT_TRANSLATE_NOOP("KalSqlTableModel", "Frist")},
+    {"deadline_1", QT_TRANSLATE_NOOP("KalSqlTableModel", "1. Nachfrist")},
+    {"deadline_2", QT_TRANSLATE_NOOP("KalSqlTableModel", "2. Nachfrist")},
+    {"status_id", QT_TRANSLATE_NOOP("KalSqlTableModel", "Status")},
+};
+
+const char *const s_compactFields[] = {"number",   "description",     "company_id", "roomname",
+                                       "priority", "correction_date", "status_id"};
+
+bool isDateField(const QString &field)
+{
+    return field == QLatin1String("creation_date") || field == QLatin1String("correction_date") ||
+           field == QLatin1String("deadline_1") || field == QLatin1String("deadline_2");
+}
+
+QString captionOf(const QString &field)
+{
+    for (const Column &column : s_allColumns) {
+        if (field == QLatin1String(column.field))
+            return QCoreApplication::translate("KalSqlTableModel", column.caption);
+    }
+    return field;
+}
+
+// Stored dates come as ISO text (possibly with a time) or, from older
+// files, in the user's notation.
+QString dateText(const QVariant &value)
+{
+    QDate date;
+    switch (value.userType()) {
+    case QMetaType::QDate:
+        date = value.toDate();
+        break;
+    case QMetaType::QDateTime:
+        date = value.toDateTime().date();
+        break;
+    default: {
+        const QString text = value.toString().trimmed();
+        if (text.size() >= 10 && text.at(4) == QLatin1Char('-') && text.at(7) == QLatin1Char('-'))
+            date = QDate::fromString(text.left(10), Qt::ISODate);
+        if (!date.isValid() && !text.isEmpty())
+            date = KalDateFormat::parse(text);
+        break;
+    }
+    }
+    return KalDateFormat::toText(date);
+}
+
+struct Row
+{
+    QString number;
+    qint64 id = 0;
+    QStringList cells;
+};
+
+QByteArray buildCsv(const QStringList &captions, QVector<Row> rows)
+{
+    std::stable_sort(rows.begin(), rows.end(), [](const Row &a, const Row &b) {
+        return KalDefectCsv::numberLess(a.number, a.id, b.number, b.id);
+    });
+    const auto line = [](const QStringList &cells) {
+        QStringList quoted;
+        quoted.reserve(cells.size());
+        for (const QString &cell : cells)
+            quoted << KalDefectCsv::quoted(cell);
+        return quoted.join(QLatin1Char(';')) + QStringLiteral("\r\n");
+    };
+    QString text = line(captions);
+    for (const Row &row : qAsConst(rows))
+        text += line(row.cells);
+    return QByteArray("\xEF\xBB\xBF") + text.toUtf8();
+}
+
+QString reductionSuffix()
+{
+    return QCoreApplication::translate("KalSqlTableModel", " - mit Minderung");
+}
+
+} // namespace
+
+QStringList KalDefectCsv::columnFields(Columns columns)
+{
+    QStringList fields;
+    if (columns == Compact) {
+        for (const char *field : s_compactFields)
+            fields << QLatin1String(field);
+    } else {
+        for (const Column &column : s_allColumns)
+            fields << QLatin1String(column.field);
+    }
+    return fields;
+}
+
+QString KalDefectCsv::quoted(const QString &cell)
+{
+    bool needsQuotes = false;
+    for (const QChar c : cell) {
+        if (c == QLatin1Char(';') || c == QLatin1Char('"') || c == QLatin1Char('\n') || c == QLatin1Char('\r')) {
+            needsQuotes = true;
+            break;
+        }
+    }
+    if (!needsQuotes)
+        return cell;
+    QString text = cell;
+    text.replace(QLatin1Char('"'), QLatin1String("\"\""));
+    return QLatin1Char('"') + text + QLatin1Char('"');
+}
+
+bool KalDefectCsv::numberLess(const QString &a, qint64 idA, const QString &b, qint64 idB)
+{
+    bool numericA = false;
+    bool numericB = false;
+    const qint64 valueA = a.trimmed().toLongLong(&numericA);
+    const qint64 valueB = b.trimmed().toLongLong(&numericB);
+    if (numericA && numericB) {
+        if (valueA != valueB)
+            return valueA < valueB;
+    } else if (numericA != numericB) {
+        return numericA; // numbers before other texts
+    } else {
+        const int order = a.trimmed().compare(b.trimmed(), Qt::CaseInsensitive);
+        if (order != 0)
+            return order < 0;
+    }
+    return idA < idB;
+}
+
+QByteArray KalDefectCsv::fromModel(const KalSqlTableModel *defects, Columns columns)
+{
+    const QStringList fields = columnFields(columns);
+    QStringList captions;
+    QVector<int> indexes;
+    for (const QString &field : fields) {
+        const int column = defects->fieldIndex(field);
+        indexes << column;
+        const QString header =
+            column < 0 ? QString() : defects->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+        captions << (header.isEmpty() ? captionOf(field) : header);
+    }
+    const int numberColumn = defects->fieldIndex(QStringLiteral("number"));
+    const int idColumn = defects->idColumn();
+
+    QVector<Row> rows;
+    rows.reserve(defects->rowCount());
+    for (int r = 0; r < defects->rowCount(); ++r) {
+        Row row;
+        if (numberColumn >= 0)
+            row.number = defects->data(defects->index(r, numberColumn), Qt::EditRole).toString();
+        if (idColumn >= 0)
+            row.id = defects->data(defects->index(r, idColumn), Qt::EditRole).toLongLong();
+        for (int i = 0; i < fields.size(); ++i) {
+            const int column = indexes.at(i);
+            if (column < 0) {
+                row.cells << QString();
+                continue;
+            }
+            const QModelIndex index = defects->index(r, column);
+            // Every date in the program's notation, also those the grid shows as stored.
+            if (isDateField(fields.at(i)))
+                row.cells << dateText(defects->data(index, Qt::EditRole));
+            else
+                row.cells << defects->data(index, Qt::DisplayRole).toString();
+        }
+        rows << row;
+    }
+    return buildCsv(captions, rows);
+}
+
+bool KalDefectCsv::fromDatabase(const QSqlDatabase &db, Columns columns, const KalCompanyFormat &format,
+                                QByteArray *csv, QString *errorText)
+{
+    const auto failed = [errorText](const QSqlQuery &query) {
+        if (errorText)
+            *errorText = tr("Die Mängelliste konnte nicht gelesen werden:\n%1").arg(query.lastError().text());
+        return false;
+    };
+
+    QHash<qint64, QString> companies;
+    QHash<qint64, QString> statuses;
+    QHash<qint64, QString> plans;
+    {
+        QSqlQuery query(db);
+        query.setForwardOnly(true);
+        if (!query.exec(QStringLiteral("SELECT * FROM company")))
+            return failed(query);
+        while (query.next()) {
+            const QSqlRecord record = query.record();
+            companies.insert(record.value(QStringLiteral("id")).toLongLong(),
+                             format.text(record, KalCompanyFormat::gridSeparator()));
+        }
+        if (!query.exec(QStringLiteral("SELECT id, status FROM status")))
+            return failed(query);
+        while (query.next())
+            statuses.insert(query.value(0).toLongLong(), query.value(1).toString());
+        if (!query.exec(QStringLiteral("SELECT id, plan_name FROM plan_info")))
+            return failed(query);
+        while (query.next())
+            plans.insert(query.value(0).toLongLong(), query.value(1).toString());
+    }
+
+    const QStringList fields = columnFields(columns);
+    QStringList captions;
+    for (const QString &field : fields)
+        captions << captionOf(field);
+
+    QStringList selected = fields;
+    selected << QStringLiteral("id") << QStringLiteral("reduction");
+    QSqlQuery query(db);
+    query.setForwardOnly(true);
+    if (!query.exec(QStringLiteral("SELECT %1 FROM defect").arg(selected.join(QStringLiteral(", ")))))
+        return failed(query);
+    const int idIndex = fields.size();
+    const int reductionIndex = fields.size() + 1;
+    const int numberIndex = fields.indexOf(QStringLiteral("number"));
+    const QString suffix = reductionSuffix();
+
+    QVector<Row> rows;
+    while (query.next()) {
+        Row row;
+        row.id = query.value(idIndex).toLongLong();
+        row.number = numberIndex >= 0 ? query.value(numberIndex).toString() : QString();
+        for (int i = 0; i < fields.size(); ++i) {
+            const QString &field = fields.at(i);
+            const QVariant value = query.value(i);
+            QString text;
+            if (field == QLatin1String("company_id")) {
+                text = value.isNull() ? QString() : companies.value(value.toLongLong());
+            } else if (field == QLatin1String("status_id")) {
+                text = value.isNull() ? QString() : statuses.value(value.toLongLong());
+                if (!text.isEmpty() && query.value(reductionIndex).toBool())
+                    text += suffix;
+            } else if (field == QLatin1String("plan_info_id")) {
+                text = value.isNull() ? QString() : plans.value(value.toLongLong());
+            } else if (isDateField(field)) {
+                text = dateText(value);
+            } else {
+                text = value.toString();
+            }
+            row.cells << text;
+        }
+        rows << row;
+    }
+    if (query.lastError().isValid())
+        return failed(query);
+    *csv = buildCsv(captions, rows);
+    return true;
+}
+
+bool KalDefectCsv::writeFile(const QString &path, const QByteArray &csv, QString *errorText)
+{
+    QSaveFile file(path);
+    const auto failed = [&]() {
+        if (errorText)
+            *errorText = tr("Die Datei\n%1\nkonnte nicht geschrieben werden:\n%2")
+                             .arg(QDir::toNativeSeparators(path), file.errorString());
+        file.cancelWriting();
+        return false;
+    };
+    if (!file.open(QIODevice::WriteOnly))
+        return failed();
+    if (file.write(csv) != csv.size())
+        return failed();
+    if (!file.commit()) {
+        if (errorText)
+            *errorText = tr("Die Datei\n%1\nkonnte nicht geschrieben werden:\n%2")
+                             .arg(QDir::toNativeSeparators(path), file.errorString());
+        return false;
+    }
+    return true;
+}
+
+bool KalDefectCsv::exportModel(const KalSqlTableModel *defects, Columns columns, const QString &path)
+{
+    QString error;
+    if (!defects) {
+        KalPrompt::critical(tr("Fehler"), tr("Es ist kein Projekt geöffnet."));
+        return false;
+    }
+    if (!writeFile(path, fromModel(defects, columns), &error)) {
+        KalPrompt::critical(tr("Dateifehler"), error);
+        return false;
+    }
+    return true;
+}

@@ -1,0 +1,207 @@
+#include "KalFileOps.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+#endif
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
+namespace KalFileOps {
+
+namespace {
+FaultHook g_hook;
+
+#ifdef Q_OS_UNIX
+bool fsyncPath(const QString &path, int flags)
+{
+    const int fd = ::open(QFile::encodeName(path).constData(), flags | O_CLOEXEC);
+    if (fd < 0)
+        return false;
+    const bool ok = ::fsync(fd) == 0;
+    ::close(fd);
+    return ok;
+}
+#endif
+} // namespace
+
+void setFaultHook(FaultHook hook)
+{
+    g_hook = std::move(hook);
+}
+
+bool injectedFault(const QString &operation, const QString &path)
+{
+    return g_hook && g_hook(operation, path);
+}
+
+bool syncFile(const QString &path)
+{
+    if (injectedFault(QStringLiteral("sync"), path))
+        return false;
+#ifdef Q_OS_UNIX
+    return fsyncPath(path, O_RDONLY);
+#else
+    QFile file(path);
+    if (!file.open(QIODevice::ReadWrite))
+        return false;
+    return FlushFileBuffers(reinterpret_cast<HANDLE>(_get_osfhandle(file.handle())));
+#endif
+}
+
+bool syncDirectory(const QString &dir)
+{
+#ifdef Q_OS_UNIX
+    return fsyncPath(dir, O_RDONLY | O_DIRECTORY);
+#else
+    Q_UNUSED(dir)
+    return true; // NTFS journals the rename itself
+#endif
+}
+
+bool replaceFile(const QString &from, const QString &to)
+{
+    if (injectedFault(QStringLiteral("replace"), to))
+        return false;
+#ifdef Q_OS_UNIX
+    return ::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0;
+#else
+    return MoveFileExW(reinterpret_cast<const wchar_t *>(QDir::toNativeSeparators(from).utf16()),
+                       reinterpret_cast<const wchar_t *>(QDir::toNativeSeparators(to).utf16()),
+                       MOVEFILE_REPLACE_EXISTING | MOVEFILE_WRITE_THROUGH);
+#endif
+}
+
+bool copyFile(const QString &from, const QString &to)
+{
+    if (injectedFault(QStringLiteral("copy"), to))
+        return false;
+    QFile::remove(to);
+#ifdef Q_OS_LINUX
+    // Let the kernel copy (and share extents where the file system can).
+    {
+        const int in = ::open(QFile::encodeName(from).constData(), O_RDONLY | O_CLOEXEC);
+        const int out =
+            in < 0 ? -1 : ::open(QFile::encodeName(to).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+        struct stat st;
+        if (in >= 0 && out >= 0 && ::fstat(in, &st) == 0) {
+            loff_t done = 0;
+            bool failed = false;
+            while (done < st.st_size) {
+                const ssize_t n =
+                    ::copy_file_range(in, &done, out, nullptr, size_t(qMin<qint64>(st.st_size - done, 64 << 20)), 0);
+                if (n <= 0) {
+                    failed = true;
+                    break;
+                }
+            }
+            const bool closed = ::close(out) == 0;
+            ::close(in);
+            if (!failed && closed) {
+                if (syncFile(to))
+                    return true;
+                QFile::remove(to);
+                return false;
+            }
+            if (done > 0) { // a real error in the middle, not a missing feature
+                QFile::remove(to);
+                return false;
+            }
+            QFile::remove(to);
+        } else {
+            if (in >= 0)
+                ::close(in);
+            if (out >= 0)
+                ::close(out);
+        }
+    }
+#endif
+    QFile source(from);
+    QFile target(to);
+    if (!source.open(QIODevice::ReadOnly) || !target.open(QIODevice::WriteOnly)) {
+        target.remove();
+        return false;
+    }
+    QByteArray buffer;
+    buffer.resize(1 << 20);
+    for (;;) {
+        const qint64 n = source.read(buffer.data(), buffer.size());
+        if (n < 0 || (n > 0 && target.write(buffer.constData(), n) != n)) {
+            target.close();
+            target.remove();
+            return false;
+        }
+        if (n == 0)
+            break;
+    }
+    if (!target.flush()) {
+        target.close();
+        target.remove();
+        return false;
+    }
+    target.close();
+    if (!syncFile(to)) {
+        QFile::remove(to);
+        return false;
+    }
+    return true;
+}
+
+bool linkOrCopy(const QString &from, const QString &to)
+{
+    if (injectedFault(QStringLiteral("link"), to))
+        return false;
+#ifdef Q_OS_UNIX
+    if (::link(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0)
+        return true;
+#else
+    if (CreateHardLinkW(reinterpret_cast<const wchar_t *>(QDir::toNativeSeparators(to).utf16()),
+                        reinterpret_cast<const wchar_t *>(QDir::toNativeSeparators(from).utf16()), nullptr))
+        return true;
+#endif
+    return copyFile(from, to);
+}
+
+bool removeDatabaseFile(const QString &path)
+{
+    if (injectedFault(QStringLiteral("remove"), path))
+        return false;
+    const QString journal = path + QStringLiteral("-journal");
+    if (QFileInfo::exists(journal))
+        QFile::remove(journal);
+    return !QFileInfo::exists(path) || QFile::remove(path);
+}
+
+bool isReadOnly(const QString &path)
+{
+    const QFileInfo info(path);
+    return !info.isWritable() || !(info.permissions() & (QFile::WriteOwner | QFile::WriteGroup | QFile::WriteOther));
+}
+
+bool processAlive(qint64 pid)
+{
+    if (pid <= 0)
+        return false;
+#ifdef Q_OS_UNIX
+    return ::kill(static_cast<pid_t>(pid), 0) == 0 || errno == EPERM;
+#else
+    HANDLE h = OpenProcess(PROCESS_QUERY_LIMITED_INFORMATION, FALSE, static_cast<DWORD>(pid));
+    if (!h)
+        return false;
+    DWORD code = 0;
+    const bool alive = GetExitCodeProcess(h, &code) && code == STILL_ACTIVE;
+    CloseHandle(h);
+    return alive;
+#endif
+}
+
+} // namespace KalFileOps

@@ -1,0 +1,141 @@
+#include "KalMessageBoxPrompt.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QCheckBox>
+#include <QEventLoop>
+#include <QIcon>
+#include <QMessageBox>
+#include <QPointer>
+#include <QPushButton>
+#include <QSettings>
+#include <QTimer>
+
+namespace {
+QMessageBox::Icon boxIcon(KalPrompt::Icon icon)
+{
+    switch (icon) {
+    case KalPrompt::Information:
+        return QMessageBox::Information;
+    case KalPrompt::Warning:
+        return QMessageBox::Warning;
+    case KalPrompt::Critical:
+        return QMessageBox::Critical;
+    case KalPrompt::Question:
+        return QMessageBox::Question;
+    }
+    return QMessageBox::NoIcon;
+}
+
+QMessageBox::StandardButton standardButton(KalPrompt::ButtonRole role)
+{
+    switch (role) {
+    case KalPrompt::Ok:
+        return QMessageBox::Ok;
+    case KalPrompt::Yes:
+        return QMessageBox::Yes;
+    case KalPrompt::No:
+        return QMessageBox::No;
+    case KalPrompt::Cancel:
+        return QMessageBox::Cancel;
+    case KalPrompt::Save:
+        return QMessageBox::Save;
+    case KalPrompt::Discard:
+        return QMessageBox::Discard;
+    case KalPrompt::Abort:
+        return QMessageBox::Abort;
+    case KalPrompt::AcceptCustom:
+    case KalPrompt::RejectCustom:
+        break;
+    }
+    return QMessageBox::NoButton;
+}
+
+QWidget *dialogParent()
+{
+    if (QWidget *w = QApplication::activeModalWidget())
+        return w;
+    return QApplication::activeWindow();
+}
+} // namespace
+
+KalMessageBoxPrompt::KalMessageBoxPrompt() = default;
+
+QString KalMessageBoxPrompt::dontShowAgainDefaultText()
+{
+    return QCoreApplication::translate("KalMessageBoxPrompt", "Diese Meldung nicht mehr anzeigen");
+}
+
+int KalMessageBoxPrompt::show(const Message &message)
+{
+    QMessageBox box(boxIcon(message.icon), message.title, message.text, QMessageBox::NoButton, dialogParent());
+    if (!message.iconPath.isEmpty())
+        box.setIconPixmap(QIcon(message.iconPath).pixmap(48, 48));
+
+    QVector<Button> buttons = message.buttons;
+    if (buttons.isEmpty())
+        buttons.append(Button{Ok, {}});
+
+    QVector<QAbstractButton *> made;
+    made.reserve(buttons.size());
+    for (const Button &b : buttons) {
+        QAbstractButton *button = nullptr;
+        const QMessageBox::StandardButton standard = standardButton(b.role);
+        if (standard != QMessageBox::NoButton) {
+            button = box.addButton(standard);
+            if (!b.text.isEmpty())
+                button->setText(b.text);
+        } else {
+            button = box.addButton(b.text, b.role == AcceptCustom ? QMessageBox::AcceptRole : QMessageBox::RejectRole);
+        }
+        made.append(button);
+    }
+
+    if (message.defaultButton >= 0 && message.defaultButton < made.size()) {
+        if (auto *push = qobject_cast<QPushButton *>(made.at(message.defaultButton)))
+            box.setDefaultButton(push);
+    }
+    const int escape = escapeIndex(message);
+    box.setEscapeButton(made.value(qBound(0, escape, made.size() - 1)));
+
+    QCheckBox *dontShow = nullptr;
+    if (!message.dontShowAgainKey.isEmpty()) {
+        dontShow =
+            new QCheckBox(message.dontShowAgainText.isEmpty() ? dontShowAgainDefaultText() : message.dontShowAgainText);
+        box.setCheckBox(dontShow);
+    }
+
+    box.exec();
+
+    int answer = made.indexOf(box.clickedButton());
+    if (answer < 0)
+        answer = qBound(0, escape, made.size() - 1);
+
+    if (dontShow && dontShow->isChecked()) {
+        QSettings settings;
+        settings.setValue(message.dontShowAgainKey, true);
+    }
+    return answer;
+}
+
+void KalMessageBoxPrompt::notice(const QString &title, const QString &text, int milliseconds)
+{
+    QPointer<QMessageBox> box =
+        new QMessageBox(QMessageBox::Information, title, text, QMessageBox::NoButton, dialogParent());
+    box->setStandardButtons(QMessageBox::NoButton);
+    box->setWindowModality(Qt::NonModal);
+    // The busy window of the work that follows may appear meanwhile; the
+    // notice is what the user is meant to read.
+    box->setWindowFlag(Qt::WindowStaysOnTopHint, true);
+    box->show();
+
+    QEventLoop loop;
+    QTimer::singleShot(qMax(0, milliseconds), &loop, &QEventLoop::quit);
+    loop.exec(QEventLoop::ExcludeUserInputEvents);
+
+    // A box without an escape button refuses to close: hide and drop it.
+    if (box) {
+        box->hide();
+        box->deleteLater();
+    }
+}

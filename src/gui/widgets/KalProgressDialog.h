@@ -1,0 +1,42 @@
+#pragma once
+
+#include "core/project/KalProgress.h"
+
+#include <QElapsedTimer>
+#include <QObject>
+#include <QPointer>
+
+class QProgressDialog;
+class QTimer;
+
+// The busy indicator of the GUI: a small modal window that appears when an
+// operation takes longer than a moment and keeps the program painted by
+// processing pending events whenever progress is reported.
+class KalProgressDialog : public QObject, public KalProgress
+{
+    Q_OBJECT
+
+public:
+    explicit KalProgressDialog(QObject *parent = nullptr);
+    ~KalProgressDialog() override;
+
+    void begin(const QString &text) override;
+    void setProgress(qint64 done, qint64 total) override;
+    void end() override;
+
+    // Delay before the window shows, in milliseconds.
+    static int showDelay() { return 300; }
+    bool isShowing() const;
+    bool isBusy() const { return m_depth > 0; }
+
+private:
+    void showWindow();
+    void keepPainting();
+
+    int m_depth = 0;
+    QString m_text;
+    QElapsedTimer m_started;
+    QElapsedTimer m_lastPaint;
+    QPointer<QProgressDialog> m_window;
+    QTimer *m_showTimer;
+};

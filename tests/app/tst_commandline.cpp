@@ -1,0 +1,227 @@
+#include "core/project/KalCommandLine.h"
+#include "support/KalTestSettings.h"
+
+#include <QFile>
+#include <QProcess>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QtTest>
+
+// Start-up decisions that need no window: what the command line asks for,
+// which connect-mode calls are refused and why, and the restart hand-over.
+class TestCommandLine : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void parse_data();
+    void parse();
+    void connectModeProblems_data();
+    void connectModeProblems();
+    void problemsMessageWrapsTheList();
+    void restartKeyWinsAndIsConsumed();
+    void emptyRestartKeyOpensNothing();
+    void programWithoutDisplaySaysSoAndFails();
+
+private:
+    QString existing(const QString &name) const;
+    QTemporaryDir m_dir;
+};
+
+void TestCommandLine::initTestCase()
+{
+    KalTestSettings::isolate();
+    QVERIFY(m_dir.isValid());
+    for (const char *name : {"a.pwp", "b.sjd"}) {
+        QFile f(m_dir.filePath(QString::fromLatin1(name)));
+        QVERIFY(f.open(QIODevice::WriteOnly));
+    }
+}
+
+QString TestCommandLine::existing(const QString &name) const
+{
+    return m_dir.filePath(name);
+}
+
+void TestCommandLine::parse_data()
+{
+    QTest::addColumn<QStringList>("args");
+    QTest::addColumn<int>("kind");
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QString>("project");
+    QTest::addColumn<QString>("journal");
+
+    const auto N = int(KalCommandLine::Nothing);
+    const auto F = int(KalCommandLine::OpenFile);
+    const auto C = int(KalCommandLine::Connect);
+    QTest::newRow("no arguments") << QStringList{"pellwick"} << N << 0 << ""
+                                  << "";
+    QTest::newRow("single path") << QStringList{"pellwick", "/p/a.pwp"} << F << 0 << "/p/a.pwp"
+                                 << "";
+    QTest::newRow("single keyword is a path too") << QStringList{"pellwick", "-file"} << F << 0 << "-file"
+                                                  << "";
+    QTest::newRow("-file among others") << QStringList{"pellwick", "-x", "-y", "-file", "/p/a.pwp", "-z"} << F << 0
+                                        << "/p/a.pwp"
+                                        << "";
+    QTest::newRow("first -file wins") << QStringList{"pellwick", "-file", "/p/1.pwp", "-file", "/p/2.pwp"} << F << 0
+                                      << "/p/1.pwp"
+                                      << "";
+    QTest::newRow("-file without value") << QStringList{"pellwick", "-x", "-file"} << N << 0 << ""
+                                         << "";
+    QTest::newRow("two unrelated") << QStringList{"pellwick", "a", "b"} << N << 0 << ""
+                                   << "";
+    QTest::newRow("connect full") << QStringList{"pellwick", "-connectmode",     "102",     "-file",
+                                                 "/p/a.pwp", "-sitejournalfile", "/p/b.sjd"}
+                                  << C << 102 << "/p/a.pwp"
+                                  << "/p/b.sjd";
+    QTest::newRow("connect keyword out of place")
+        << QStringList{"pellwick", "-connectmode", "103", "-sitejournalfile", "/p/b.sjd", "-file", "/p/a.pwp"} << C
+        << 103 << ""
+        << "";
+    QTest::newRow("connect short") << QStringList{"pellwick", "-connectmode", "101"} << C << 101 << ""
+                                   << "";
+    QTest::newRow("connect mode not a number")
+        << QStringList{"pellwick", "-connectmode", "x1", "-file", "/p/a.pwp"} << C << 0 << "/p/a.pwp"
+        << "";
+    QTest::newRow("eight arguments never connect")
+        << QStringList{"pellwick", "-connectmode", "102", "-file", "/p/a.pwp", "-sitejournalfile", "/p/b.sjd", "extra"}
+        << F << 0 << "/p/a.pwp"
+        << "";
+    QTest::newRow("eight arguments without -file")
+        << QStringList{"pellwick", "-connectmode", "102", "-x", "/p/a.pwp", "-sitejournalfile", "/p/b.sjd", "extra"}
+        << N << 0 << ""
+        << "";
+    QTest::newRow("connectmode not first")
+        << QStringList{"pellwick", "-file", "/p/a.pwp", "-connectmode", "102"} << F << 0 << "/p/a.pwp"
+        << "";
+}
+
+void TestCommandLine::parse()
+{
+    QFETCH(QStringList, args);
+    QFETCH(int, kind);
+    QFETCH(int, mode);
+    QFETCH(QString, project);
+    QFETCH(QString, journal);
+
+    const KalCommandLine cl = KalCommandLine::parse(args);
+    QCOMPARE(int(cl.kind), kind);
+    QCOMPARE(cl.connectMode, mode);
+    QCOMPARE(cl.projectFile, project);
+    QCOMPARE(cl.siteJournalFile, journal);
+    QVERIFY(!cl.fromRestart);
+}
+
+void TestCommandLine::connectModeProblems_data()
+{
+    QTest::addColumn<QString>("mode");
+    QTest::addColumn<QString>("project");
+    QTest::addColumn<QString>("journal");
+    QTest::addColumn<QStringList>("problems"); // in order
+
+    const QString a = QStringLiteral("a.pwp");
+    const QString b = QStringLiteral("b.sjd");
+    const QString missingP = QStringLiteral("missing.pwp");
+    const QString missingJ = QStringLiteral("missing.sjd");
+    const QString badMode = QStringLiteral("\nungültiger connect Mode: %1");
+    const QString noProject = QStringLiteral("\nParameter Pellwick-Datei fehlt.");
+    const QString projectMissing = QStringLiteral("\nDie Pellwick-Datei existiert nicht.");
+    const QString noJournal = QStringLiteral("\nParameter Bautagebuch-Datei fehlt.");
+    const QString journalMissing = QStringLiteral("\nDie Bautagebuch-Datei %1 existiert nicht.");
+
+    QTest::newRow("103 valid") << "103" << a << b << QStringList{};
+    QTest::newRow("102 valid") << "102" << a << b << QStringList{};
+    QTest::newRow("101 new file is valid") << "101" << missingP << b << QStringList{};
+    QTest::newRow("102 new file is not") << "102" << missingP << b << QStringList{projectMissing};
+    QTest::newRow("103 new file is not") << "103" << missingP << b << QStringList{projectMissing};
+    QTest::newRow("104 with existing files") << "104" << a << b << QStringList{badMode.arg(104)};
+    QTest::newRow("104 with missing files")
+        << "104" << missingP << missingJ << QStringList{badMode.arg(104), projectMissing, journalMissing};
+    QTest::newRow("everything empty") << ""
+                                      << ""
+                                      << "" << QStringList{badMode.arg(QString()), noProject, noJournal};
+    QTest::newRow("101 without journal") << "101" << missingP << "" << QStringList{noJournal};
+    QTest::newRow("102 journal missing") << "102" << a << missingJ << QStringList{journalMissing};
+}
+
+void TestCommandLine::connectModeProblems()
+{
+    QFETCH(QString, mode);
+    QFETCH(QString, project);
+    QFETCH(QString, journal);
+    QFETCH(QStringList, problems);
+
+    const QString p = project.isEmpty() ? QString() : existing(project);
+    const QString j = journal.isEmpty() ? QString() : existing(journal);
+    QStringList args{"pellwick", "-connectmode", mode};
+    args << "-file" << p << "-sitejournalfile" << j;
+    const KalCommandLine cl = KalCommandLine::parse(args);
+    QCOMPARE(cl.kind, KalCommandLine::Connect);
+
+    QString expected;
+    for (QString item : problems) {
+        if (item.contains(QLatin1String("%1")))
+            item = item.arg(QDir::toNativeSeparators(j));
+        expected += item;
+    }
+    QCOMPARE(cl.connectModeProblems(), expected);
+}
+
+void TestCommandLine::problemsMessageWrapsTheList()
+{
+    const KalCommandLine cl = KalCommandLine::parse({"pellwick", "-connectmode", "104"});
+    const QString text = KalCommandLine::problemsMessage(cl.connectModeProblems());
+    QVERIFY(text.startsWith(QStringLiteral(
+        "Die vom Bautagebuch Programm übergebenen Parameter sind fehlerhaft:\n\n\nungültiger connect Mode: 104")));
+    QCOMPARE(KalCommandLine::problemsTitle(), QStringLiteral("Info"));
+}
+
+void TestCommandLine::restartKeyWinsAndIsConsumed()
+{
+    {
+        QSettings s;
+        s.setValue(KalCommandLine::reopenKey(), existing("a.pwp"));
+    }
+    const QStringList args{"pellwick",         "-connectmode",   "102", "-file", existing("b.sjd"),
+                           "-sitejournalfile", existing("b.sjd")};
+    const KalCommandLine first = KalCommandLine::forStartup(args);
+    QCOMPARE(first.kind, KalCommandLine::OpenFile);
+    QCOMPARE(first.projectFile, existing("a.pwp"));
+    QVERIFY(first.fromRestart);
+    QVERIFY(!QSettings().contains(KalCommandLine::reopenKey()));
+
+    // The key is gone: the next start follows the command line again.
+    const KalCommandLine second = KalCommandLine::forStartup(args);
+    QCOMPARE(second.kind, KalCommandLine::Connect);
+    QVERIFY(!second.fromRestart);
+}
+
+void TestCommandLine::emptyRestartKeyOpensNothing()
+{
+    QSettings().setValue(KalCommandLine::reopenKey(), QString());
+    const KalCommandLine cl = KalCommandLine::forStartup({"pellwick", existing("a.pwp")});
+    QCOMPARE(cl.kind, KalCommandLine::Nothing);
+    QVERIFY(cl.fromRestart);
+    QVERIFY(!QSettings().contains(KalCommandLine::reopenKey()));
+}
+
+void TestCommandLine::programWithoutDisplaySaysSoAndFails()
+{
+    const QString program = KalTestSettings::binDir() + QStringLiteral("/pellwick");
+    QVERIFY2(QFileInfo::exists(program), qPrintable(program));
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.remove(QStringLiteral("DISPLAY"));
+    env.remove(QStringLiteral("WAYLAND_DISPLAY"));
+    env.remove(QStringLiteral("QT_QPA_PLATFORM"));
+    QProcess process;
+    process.setProcessEnvironment(env);
+    process.start(program, {existing("a.pwp")});
+    QVERIFY(process.waitForFinished(20000));
+    QCOMPARE(process.exitStatus(), QProcess::NormalExit);
+    QVERIFY(process.exitCode() != 0);
+    QVERIFY(QString::fromLocal8Bit(process.readAllStandardError()).contains(QStringLiteral("no display")));
+}
+
+QTEST_GUILESS_MAIN(TestCommandLine)
+#include "tst_commandline.moc"

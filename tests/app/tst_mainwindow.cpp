@@ -1,0 +1,1105 @@
+#include "app/KalStartup.h"
+#include "core/project/KalCommandLine.h"
+#include "core/project/KalEnvironment.h"
+#include "core/project/KalProject.h"
+#include "core/project/KalSqlTableModel.h"
+#include "gui/mainwindow/KalLanguageDialog.h"
+#include "gui/mainwindow/KalMainWindow.h"
+#include "gui/widgets/KalFileDialog.h"
+#include "gui/widgets/KalItemDelegate.h"
+#include "gui/widgets/KalResources.h"
+#include "gui/widgets/KalTableView.h"
+#include "support/KalScriptedPrompt.h"
+#include "support/KalTestSettings.h"
+
+#include <QAction>
+#include <QGraphicsScene>
+#include <QGraphicsTextItem>
+#include <QGraphicsView>
+#include <QHeaderView>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
+#include <QSettings>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QSqlRecord>
+#include <QTemporaryDir>
+#include <QToolBar>
+#include <QtTest>
+
+#include <memory>
+#include <unistd.h>
+
+// The main window driven as a user would: every question is answered by the
+// scripted prompt and every file dialog from the file-dialog queue.
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanup();
+
+    void windowTitles();
+    void maybeSave_data();
+    void maybeSave();
+    void readOnlyFileOffersSaveAs_data();
+    void readOnlyFileOffersSaveAs();
+    void saveFailureIsReported();
+    void recentListKeepsOneEntryOnTop();
+    void openingMissingRecentFileRemovesIt();
+    void tableFormats_data();
+    void tableFormats();
+    void formatWidthsAreRemembered();
+    void addDefectSelectsNewRow();
+    void copyTakesOnlyTheListedFields();
+    void selectionSurvivesSortAndSubmit();
+    void planPanelShowsHintForDefectWithoutPlan();
+    void doubleClickOpensDefectEditor();
+    void actionsOpenTheirDialogs_data();
+    void actionsOpenTheirDialogs();
+    void helpTextToggle();
+    void importMenuState_data();
+    void importMenuState();
+    void actionsWithoutFeatureAreDisabled_data();
+    void actionsWithoutFeatureAreDisabled();
+    void compactUntitledAsksToSaveFirst();
+    void compactSavesModifiedProjectFirst();
+    void languageDialog_data();
+    void languageDialog();
+    void restartWritesAndConsumesReopenKey();
+    void quitIsRefusedOnCancel();
+    void menusShortcutsAndToolBar();
+    void missingDisplay_data();
+    void missingDisplay();
+    void scalingPercent_data();
+    void scalingPercent();
+    void commandLineIsCarriedOut_data();
+    void commandLineIsCarriedOut();
+
+private:
+    QString path(const QString &name) const { return m_dir->filePath(name); }
+    void makeModified();
+    qint64 insertDefect(const QMap<QString, QVariant> &values);
+    int visibleColumns() const;
+    QStringList visibleFields() const;
+
+    std::unique_ptr<QTemporaryDir> m_dir;
+    std::unique_ptr<KalMainWindow> m_window;
+    KalScriptedPrompt *m_prompt = nullptr;
+};
+
+void TestMainWindow::initTestCase()
+{
+    KalTestSettings::isolate();
+    kalInitGuiResources();
+    m_prompt = KalScriptedPrompt::install();
+}
+
+void TestMainWindow::init()
+{
+    QSettings().clear();
+    KalFileDialog::clearQueue();
+    m_dir = std::make_unique<QTemporaryDir>();
+    QVERIFY(m_dir->isValid());
+    m_window = std::make_unique<KalMainWindow>();
+    m_window->resize(1100, 700);
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(m_window->project()->isOpen());
+    m_prompt->clear();
+}
+
+void TestMainWindow::cleanup()
+{
+    if (m_window && m_window->project()->isOpen()) {
+        m_window->project()->setModified(false);
+        m_window->closeProject(false);
+    }
+    m_window.reset();
+    KalEnvironment::setVolumeInfoFunction({});
+    KalFileDialog::clearQueue();
+    m_dir.reset();
+}
+
+void TestMainWindow::makeModified()
+{
+    QVERIFY(m_window->addDefect() > 0);
+    QVERIFY(m_window->project()->isModified());
+    m_prompt->clear();
+}
+
+qint64 TestMainWindow::insertDefect(const QMap<QString, QVariant> &values)
+{
+    KalProject *project = m_window->project();
+    const qint64 id = project->nextId(QStringLiteral("defect"));
+    QStringList fields{"id"};
+    QStringList holders{":id"};
+    for (auto it = values.begin(); it != values.end(); ++it) {
+        fields << it.key();
+        holders << QLatin1Char(':') + it.key();
+    }
+    QSqlQuery q(project->database());
+    q.prepare(QStringLiteral("INSERT INTO defect (%1) VALUES (%2)").arg(fields.join(','), holders.join(',')));
+    q.bindValue(QStringLiteral(":id"), id);
+    for (auto it = values.begin(); it != values.end(); ++it)
+        q.bindValue(QLatin1Char(':') + it.key(), it.value());
+    if (!q.exec()) {
+        qWarning("%s", qPrintable(q.lastError().text()));
+        return -1;
+    }
+    m_window->defectModel()->select();
+    return id;
+}
+
+QStringList TestMainWindow::visibleFields() const
+{
+    QStringList fields;
+    KalSqlTableModel *model = m_window->defectModel();
+    QHeaderView *header = m_window->defectTable()->horizontalHeader();
+    for (int visual = 0; visual < header->count(); ++visual) {
+        const int logical = header->logicalIndex(visual);
+        if (!m_window->defectTable()->isColumnHidden(logical))
+            fields << model->record().fieldName(logical);
+    }
+    return fields;
+}
+
+int TestMainWindow::visibleColumns() const
+{
+    return visibleFields().size();
+}
+
+void TestMainWindow::windowTitles()
+{
+    QCOMPARE(m_window->windowTitle(), QStringLiteral("Neues Pellwick-Projekt"));
+    QCOMPARE(KalMainWindow::windowTitleFor(false, QString()), QStringLiteral("Quellor Pellwick"));
+
+    KalFileDialog::queueChoice(path("Bauvorhaben Nord.pwp"));
+    QCOMPARE(m_window->maybeSave(true, true), int(KalMainWindow::GoOn));
+    QCOMPARE(m_window->windowTitle(), QStringLiteral("Pellwick-Projekt - Bauvorhaben Nord.pwp"));
+
+    QVERIFY(m_window->closeProject(true));
+    QCOMPARE(m_window->windowTitle(), QStringLiteral("Quellor Pellwick"));
+    QVERIFY(m_window->newProject());
+    QCOMPARE(m_window->windowTitle(), QStringLiteral("Neues Pellwick-Projekt"));
+}
+
+void TestMainWindow::maybeSave_data()
+{
+    QTest::addColumn<bool>("saved"); // the project has a file already
+    QTest::addColumn<bool>("modified");
+    QTest::addColumn<bool>("saveAs");
+    QTest::addColumn<bool>("explicitRequest");
+    QTest::addColumn<QString>("answer"); // to the question, empty: none expected
+    QTest::addColumn<QString>("dialog"); // queued file name, "-" cancel, empty: no dialog expected
+    QTest::addColumn<int>("result");
+    QTest::addColumn<bool>("modifiedAfter");
+    QTest::addColumn<QString>("fileAfter"); // project path afterwards (file name)
+
+    QTest::newRow("unmodified closes silently") << true << false << false << false << ""
+                                                << "" << 0 << false << "p.pwp";
+    QTest::newRow("unmodified new closes silently") << false << false << false << false << ""
+                                                    << "" << 0 << false << "";
+    QTest::newRow("modified: save") << true << true << false << false << "Speichern"
+                                    << "" << 0 << false << "p.pwp";
+    QTest::newRow("modified: discard") << true << true << false << false << "Verwerfen"
+                                       << "" << 0 << false << "p.pwp";
+    QTest::newRow("modified: cancel") << true << true << false << false << "Abbrechen"
+                                      << "" << 1 << true << "p.pwp";
+    QTest::newRow("modified new: save asks name") << false << true << false << false << "Speichern"
+                                                  << "n.pwp" << 0 << false << "n.pwp";
+    QTest::newRow("modified new: name cancelled") << false << true << false << false << "Speichern"
+                                                  << "-" << 1 << true << "";
+    QTest::newRow("explicit save in place") << true << true << false << true << ""
+                                            << "" << 0 << false << "p.pwp";
+    QTest::newRow("explicit save new asks name") << false << true << false << true << ""
+                                                 << "n" << 0 << false << "n.pwp";
+    QTest::newRow("explicit save as") << true << false << true << true << ""
+                                      << "q.pwp" << 0 << false << "q.pwp";
+    QTest::newRow("explicit save as cancelled") << true << true << true << true << ""
+                                                << "-" << 1 << true << "p.pwp";
+}
+
+void TestMainWindow::maybeSave()
+{
+    QFETCH(bool, saved);
+    QFETCH(bool, modified);
+    QFETCH(bool, saveAs);
+    QFETCH(bool, explicitRequest);
+    QFETCH(QString, answer);
+    QFETCH(QString, dialog);
+    QFETCH(int, result);
+    QFETCH(bool, modifiedAfter);
+    QFETCH(QString, fileAfter);
+
+    KalProject *project = m_window->project();
+    if (saved) {
+        KalFileDialog::queueChoice(path("p.pwp"));
+        QCOMPARE(m_window->maybeSave(true, true), 0);
+    }
+    if (modified)
+        makeModified();
+    QCOMPARE(project->isModified(), modified);
+    m_prompt->clear();
+
+    if (!answer.isEmpty())
+        m_prompt->queueAnswer(answer);
+    if (dialog == QLatin1String("-"))
+        KalFileDialog::queueCancel();
+    else if (!dialog.isEmpty())
+        KalFileDialog::queueChoice(path(dialog));
+
+    QCOMPARE(m_window->maybeSave(saveAs, explicitRequest), result);
+    QCOMPARE(KalFileDialog::queuedChoices(), 0); // a queued dialog was asked for
+
+    if (answer.isEmpty()) {
+        QVERIFY2(m_prompt->shown().isEmpty(), qPrintable(m_prompt->texts().join('|')));
+    } else {
+        QCOMPARE(m_prompt->shown().size(), 1);
+        const KalScriptedPrompt::Shown &q = m_prompt->shown().first();
+        QCOMPARE(q.title, QStringLiteral("Projekt geändert"));
+        QCOMPARE(q.text, QStringLiteral("Das Projekt wurde geändert. Möchten Sie die Änderungen speichern?"));
+        QCOMPARE(q.buttons, (QStringList{"Speichern", "Verwerfen", "Abbrechen"}));
+    }
+    if (!dialog.isEmpty())
+        QCOMPARE(KalFileDialog::lastCaption(), QStringLiteral("Datei speichern"));
+
+    QCOMPARE(project->isModified(), modifiedAfter);
+    QCOMPARE(QFileInfo(project->projectPath()).fileName(), fileAfter);
+    if (!fileAfter.isEmpty() && result == 0) {
+        QVERIFY(QFileInfo::exists(path(fileAfter)));
+        QCOMPARE(m_window->recentFiles().value(0), QFileInfo(path(fileAfter)).absoluteFilePath());
+    }
+}
+
+void TestMainWindow::readOnlyFileOffersSaveAs_data()
+{
+    QTest::addColumn<bool>("explicitRequest");
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<int>("result");
+
+    QTest::newRow("closing, save as") << false << "Speichern unter" << 0;
+    QTest::newRow("closing, cancel") << false << "Abbrechen" << 1;
+    QTest::newRow("saving, save as") << true << "Speichern unter" << 0;
+    QTest::newRow("saving, cancel") << true << "Abbrechen" << 1;
+}
+
+void TestMainWindow::readOnlyFileOffersSaveAs()
+{
+    QFETCH(bool, explicitRequest);
+    QFETCH(QString, answer);
+    QFETCH(int, result);
+
+    KalFileDialog::queueChoice(path("ro.pwp"));
+    QCOMPARE(m_window->maybeSave(true, true), 0);
+    QVERIFY(m_window->closeProject(true));
+    QFile::setPermissions(path("ro.pwp"), QFileDevice::ReadOwner | QFileDevice::ReadGroup);
+    if (QFileInfo(path("ro.pwp")).isWritable())
+        QSKIP("Running with rights that ignore file permissions");
+    QVERIFY(m_window->openProject(path("ro.pwp")));
+    QVERIFY(m_window->project()->isWriteProtected());
+    makeModified();
+
+    m_prompt->queueAnswer(answer);
+    if (result == 0)
+        KalFileDialog::queueChoice(path("copy.pwp"));
+    QCOMPARE(m_window->maybeSave(false, explicitRequest), result);
+
+    QCOMPARE(m_prompt->shown().size(), 1);
+    const KalScriptedPrompt::Shown &q = m_prompt->shown().first();
+    const QString native = QDir::toNativeSeparators(path("ro.pwp"));
+    if (explicitRequest) {
+        QCOMPARE(q.title, QStringLiteral("Projekt speichern"));
+        QCOMPARE(q.text, QStringLiteral("Das Projekt kann nicht gespeichert werden, da die Datei\n%1\nschreibgeschützt "
+                                        "ist.\n\nMöchten Sie die Änderungen in einer neuen Datei speichern?")
+                             .arg(native));
+    } else {
+        QCOMPARE(q.title, QStringLiteral("Projekt geändert"));
+        QCOMPARE(q.text, QStringLiteral("Das Projekt wurde geändert.\nDie Datei \n%1\nist jedoch schreibgeschützt.\n\n"
+                                        "Möchten Sie die Änderungen in einer neuen Datei speichern?")
+                             .arg(native));
+    }
+    QCOMPARE(q.buttons, (QStringList{"Speichern unter", "Abbrechen"}));
+    if (result == 0) {
+        QCOMPARE(m_window->project()->projectPath(), path("copy.pwp"));
+        QVERIFY(!m_window->project()->isModified());
+    } else {
+        QCOMPARE(m_window->project()->projectPath(), path("ro.pwp"));
+        QVERIFY(m_window->project()->isModified());
+    }
+}
+
+void TestMainWindow::saveFailureIsReported()
+{
+    KalFileDialog::queueChoice(path("p.pwp"));
+    QCOMPARE(m_window->maybeSave(true, true), 0);
+    makeModified();
+    KalEnvironment::setVolumeInfoFunction([](const QString &) {
+        KalEnvironment::VolumeInfo info;
+        info.valid = info.ready = true;
+        info.bytesAvailable = 0;
+        info.name = QStringLiteral("/");
+        return info;
+    });
+    QCOMPARE(m_window->maybeSave(false, true), int(KalMainWindow::Failed));
+    QVERIFY(m_prompt->hasTitle(QStringLiteral("Fehler")));
+    QVERIFY(m_prompt->texts().contains(QStringLiteral("Beim Speichern des Projekts ist ein Fehler aufgetreten!")));
+    // The edits are still there and still unsaved.
+    QVERIFY(m_window->project()->isOpen());
+    QVERIFY(m_window->project()->isModified());
+    QCOMPARE(m_window->defectModel()->rowCount(), 1);
+}
+
+void TestMainWindow::recentListKeepsOneEntryOnTop()
+{
+    for (const char *name : {"a.pwp", "b.pwp"}) {
+        KalFileDialog::queueChoice(path(QString::fromLatin1(name)));
+        QVERIFY(m_window->newProject());
+        QCOMPARE(m_window->maybeSave(true, true), 0);
+    }
+    const QString a = QFileInfo(path("a.pwp")).absoluteFilePath();
+    const QString b = QFileInfo(path("b.pwp")).absoluteFilePath();
+    QCOMPARE(m_window->recentFiles(), (QStringList{b, a}));
+
+    QVERIFY(m_window->openProject(path("a.pwp")));
+    QVERIFY(m_window->openProject(path("a.pwp")));
+    QCOMPARE(m_window->recentFiles(), (QStringList{a, b}));
+    QCOMPARE(QSettings().value("MainWindow/RecentFileList").toStringList(), (QStringList{a, b}));
+
+    // The submenu shows file names in list order and opens by full path.
+    auto *menu = m_window->findChild<QMenu *>(QStringLiteral("menuFileRecent"));
+    QVERIFY(menu);
+    QStringList texts;
+    for (QAction *action : menu->actions())
+        texts << action->text();
+    QCOMPARE(texts, (QStringList{"a.pwp", "b.pwp"}));
+    menu->actions().at(1)->trigger();
+    QCOMPARE(m_window->project()->projectPath(), b);
+    QCOMPARE(m_window->recentFiles().first(), b);
+}
+
+void TestMainWindow::openingMissingRecentFileRemovesIt()
+{
+    KalFileDialog::queueChoice(path("gone.pwp"));
+    QCOMPARE(m_window->maybeSave(true, true), 0);
+    QVERIFY(m_window->newProject());
+    QVERIFY(QFile::remove(path("gone.pwp")));
+    QVERIFY(!m_window->openProject(path("gone.pwp")));
+    QVERIFY(m_prompt->texts().contains(
+        QStringLiteral("Die Datei\n%1\nexistiert nicht.").arg(QDir::toNativeSeparators(path("gone.pwp")))));
+    QVERIFY(m_window->recentFiles().isEmpty());
+    // The window still works on a project.
+    QVERIFY(m_window->project()->isOpen());
+}
+
+void TestMainWindow::tableFormats_data()
+{
+    QTest::addColumn<int>("format");
+    QTest::addColumn<QStringList>("fields");
+    QTest::addColumn<QString>("buttonText");
+
+    QTest::newRow("compact") << 1 << QStringList{"number",   "description",     "company_id", "roomname",
+                                                 "priority", "correction_date", "status_id"}
+                             << "Alle Spalten einblenden";
+    QTest::newRow("all columns") << 2
+                                 << QStringList{"number",
+                                                "description",
+                                                "company_id",
+                                                "type",
+                                                "user_id",
+                                                "creation_date",
+                                                "roomname",
+                                                "roombook_number",
+                                                "plan_info_id",
+                                                "image_cnt",
+                                                "correction_instruction",
+                                                "priority",
+                                                "correction_date",
+                                                "deadline_1",
+                                                "deadline_2",
+                                                "status_id"}
+                                 << "Spalten ausblenden";
+}
+
+void TestMainWindow::tableFormats()
+{
+    QFETCH(int, format);
+    QFETCH(QStringList, fields);
+    QFETCH(QString, buttonText);
+
+    auto *button = m_window->findChild<QPushButton *>(QStringLiteral("pbDefectTableDisplayFormat"));
+    QVERIFY(button);
+    QCOMPARE(m_window->defectTableFormat(), 1);
+    if (format == 2)
+        button->click();
+    QCOMPARE(m_window->defectTableFormat(), format);
+    QCOMPARE(visibleColumns(), fields.size());
+    QCOMPARE(visibleFields(), fields);
+    QCOMPARE(button->text(), buttonText);
+    QCOMPARE(QSettings().value("TableView/Defect/DefectTableFormat", 1).toInt(), format);
+
+    // The format survives reopening the window.
+    m_window.reset();
+    m_window = std::make_unique<KalMainWindow>();
+    QCOMPARE(m_window->defectTableFormat(), format);
+    QCOMPARE(visibleFields(), fields);
+}
+
+void TestMainWindow::formatWidthsAreRemembered()
+{
+    KalSqlTableModel *model = m_window->defectModel();
+    QHeaderView *header = m_window->defectTable()->horizontalHeader();
+    const int room = model->fieldIndex("roomname");
+    header->resizeSection(room, 217);
+    auto *button = m_window->findChild<QPushButton *>(QStringLiteral("pbDefectTableDisplayFormat"));
+    button->click(); // to format 2: compact widths stored
+    header->resizeSection(room, 143);
+    button->click(); // back to 1
+    QCOMPARE(header->sectionSize(room), 217);
+    button->click();
+    QCOMPARE(header->sectionSize(room), 143);
+}
+
+void TestMainWindow::addDefectSelectsNewRow()
+{
+    const qint64 first = m_window->addDefect();
+    const qint64 second = m_window->addDefect();
+    QVERIFY(first > 0 && second > first);
+    KalSqlTableModel *model = m_window->defectModel();
+    QCOMPARE(model->rowCount(), 2);
+    QCOMPARE(m_window->selectedDefectIds(), QList<qint64>{second});
+    const QSqlRecord rec = model->record(model->findRowById(second));
+    QCOMPARE(rec.value("number").toString(), QStringLiteral("0002"));
+    QCOMPARE(rec.value("priority").toString(), QStringLiteral("Normal"));
+    QCOMPARE(rec.value("plan_info_id").toInt(), -1);
+    QVERIFY(m_window->project()->isModified());
+}
+
+void TestMainWindow::copyTakesOnlyTheListedFields()
+{
+    const QMap<QString, QVariant> source{
+        {"number", "0042"},
+        {"description", "Riss im Putz"},
+        {"company_id", 3},
+        {"type", "Mangel nach Abnahme"},
+        {"user_id", "Bauleiter"},
+        {"creation_date", "2026-03-01"},
+        {"roomname", "Küche"},
+        {"roombook_number", "1.07"},
+        {"plan_info_id", 5},
+        {"image_cnt", 3},
+        {"correction_instruction", "Neu verputzen"},
+        {"priority", "Hoch"},
+        {"correction_date", "2026-04-01"},
+        {"deadline_1", "2026-04-15"},
+        {"deadline_2", "2026-05-01"},
+        {"deadline_3", "2026-05-15"},
+        {"status_id", 2},
+        {"reduction", 1},
+        {"plan_id", 7},
+        {"site_journal_data_modified", 1},
+        {"imported_report_id", 11},
+        {"site_journal_id", 12},
+        {"delete_on_import", 0},
+    };
+    const qint64 sourceId = insertDefect(source);
+    QVERIFY(sourceId > 0);
+
+    const QList<qint64> copies = m_window->copyDefects({sourceId});
+    QCOMPARE(copies.size(), 1);
+    QCOMPARE(m_window->selectedDefectIds(), copies);
+
+    QSqlQuery q(m_window->project()->database());
+    QVERIFY(q.prepare("SELECT * FROM defect WHERE id = :id"));
+    q.bindValue(":id", copies.first());
+    QVERIFY(q.exec() && q.next());
+    const QStringList copied{"description",
+                             "company_id",
+                             "type",
+                             "user_id",
+                             "roomname",
+                             "roombook_number",
+                             "correction_instruction",
+                             "priority",
+                             "reduction",
+                             "creation_date",
+                             "correction_date",
+                             "deadline_1",
+                             "deadline_2",
+                             "deadline_3",
+                             "status_id"};
+    for (const QString &field : copied)
+        QVERIFY2(q.value(field).toString() == source.value(field).toString(), qPrintable(field));
+    QVERIFY(q.value("number").toString() != QLatin1String("0042"));
+    QCOMPARE(q.value("plan_info_id").toInt(), -1);
+    QCOMPARE(q.value("image_cnt").toInt(), 0);
+    QVERIFY(q.value("plan_id").isNull());
+    QCOMPARE(q.value("site_journal_id").toInt(), -1);
+    QCOMPARE(q.value("imported_report_id").toInt(), -1);
+    QCOMPARE(q.value("delete_on_import").toInt(), 1);
+
+    QSqlQuery photos(m_window->project()->database());
+    QVERIFY(photos.exec(QStringLiteral("SELECT COUNT(*) FROM photo_info WHERE defect_id = %1").arg(copies.first())));
+    QVERIFY(photos.next());
+    QCOMPARE(photos.value(0).toInt(), 0);
+}
+
+void TestMainWindow::selectionSurvivesSortAndSubmit()
+{
+    const QStringList rooms{"Flur", "Bad", "Wohnen", "Abstellraum", "Küche", "Diele"};
+    QList<qint64> ids;
+    for (int i = 0; i < rooms.size(); ++i)
+        ids << insertDefect({{"number", QString::number(i + 1)}, {"description", "D"}, {"roomname", rooms.at(i)}});
+    KalTableView *view = m_window->defectTable();
+    const QList<qint64> chosen{ids.at(1), ids.at(4)};
+    m_window->selectDefects(chosen);
+    auto sorted = [this] {
+        QList<qint64> s = m_window->selectedDefectIds();
+        std::sort(s.begin(), s.end());
+        return s;
+    };
+    QCOMPARE(sorted(), chosen);
+
+    // A click on the "Raum" caption sorts and keeps the same defects selected.
+    KalSqlTableModel *model = m_window->defectModel();
+    const int room = model->fieldIndex("roomname");
+    QHeaderView *header = view->horizontalHeader();
+    const QPoint click(header->sectionViewportPosition(room) + header->sectionSize(room) / 2, header->height() / 2);
+    QTest::mouseClick(header->viewport(), Qt::LeftButton, {}, click);
+    QCOMPARE(model->data(model->index(0, room)).toString(), QStringLiteral("Abstellraum"));
+    QCOMPARE(sorted(), chosen);
+
+    // An edit that is submitted re-selects the model; the selection stays.
+    QVERIFY(model->setData(model->index(model->findRowById(ids.at(0)), model->fieldIndex("description")), "geändert"));
+    QVERIFY(model->submitWithNotification(true));
+    QCOMPARE(sorted(), chosen);
+
+    // Saving rebuilds the models; order and selection stay.
+    KalFileDialog::queueChoice(path("s.pwp"));
+    QCOMPARE(m_window->maybeSave(false, true), 0);
+    model = m_window->defectModel();
+    QCOMPARE(model->data(model->index(0, room)).toString(), QStringLiteral("Abstellraum"));
+    QCOMPARE(sorted(), chosen);
+}
+
+void TestMainWindow::planPanelShowsHintForDefectWithoutPlan()
+{
+    m_window->addDefect();
+    auto *view = m_window->findChild<QGraphicsView *>(QStringLiteral("gvPlan"));
+    QVERIFY(view);
+    QStringList texts;
+    for (QGraphicsItem *item : view->scene()->items()) {
+        if (auto *text = dynamic_cast<QGraphicsTextItem *>(item))
+            texts << text->toPlainText();
+    }
+    QCOMPARE(texts, QStringList{m_window->planPanelHint()});
+    // The double click the hint invites says that plans cannot be assigned yet.
+    QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, view->viewport()->rect().center());
+    QCOMPARE(m_prompt->titles(), QStringList{"Pläne"});
+    QCOMPARE(
+        m_window->planPanelHint(),
+        QStringLiteral("Dieser Mangel ist in keinem Plan verortet.\nMit einem Doppelklick in dieses Fenster können "
+                       "Sie dem Mangel einen Plan zuordnen.\nMit einem Doppelklick auf einen Mangel können Sie "
+                       "diesen Mangel bearbeiten.\n"));
+}
+
+void TestMainWindow::doubleClickOpensDefectEditor()
+{
+    QList<qint64> ids;
+    for (const char *room : {"Bad", "Flur", "Küche"})
+        ids << insertDefect({{"number", "1"}, {"description", "D"}, {"roomname", QString::fromUtf8(room)}});
+    KalTableView *view = m_window->defectTable();
+    KalSqlTableModel *model = m_window->defectModel();
+    const int row = model->findRowById(ids.at(1));
+    const QModelIndex cell = model->index(row, model->fieldIndex("roomname"));
+    view->scrollTo(cell);
+
+    QString opened;
+    QTimer poll;
+    poll.setInterval(50);
+    connect(&poll, &QTimer::timeout, [&opened, &poll] {
+        if (QWidget *modal = QApplication::activeModalWidget()) {
+            opened = QString::fromLatin1(modal->metaObject()->className());
+            poll.stop();
+            modal->close();
+        }
+    });
+    poll.start();
+    const QPoint at = view->visualRect(cell).center();
+    QTest::mousePress(view->viewport(), Qt::LeftButton, {}, at);
+    QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, at);
+    QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, at);
+    QCOMPARE(opened, QStringLiteral("KalDefectEditor"));
+    QCOMPARE(m_window->selectedDefectIds(), QList<qint64>{ids.at(1)});
+    // The double click did not also start editing the cell in place.
+    for (QLineEdit *edit : view->viewport()->findChildren<QLineEdit *>())
+        QVERIFY(!edit->isVisible());
+}
+
+void TestMainWindow::actionsOpenTheirDialogs_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QString>("dialog");
+    QTest::newRow("statuses") << "actionEditStatusTable"
+                              << "KalStatusDialog";
+    QTest::newRow("project data") << "actionEditProjectData"
+                                  << "KalMasterDataDialog";
+    QTest::newRow("companies") << "actionEditCompanyTable"
+                               << "KalMasterDataDialog";
+    QTest::newRow("company format") << "actionEditCompanyFormat"
+                                    << "KalMasterDataDialog";
+    QTest::newRow("language") << "actionSettingsLanguage"
+                              << "KalLanguageDialog";
+    QTest::newRow("auto texts") << "actionSettingsCompleter"
+                                << "KalCompleterDialog";
+    QTest::newRow("short help 1") << "actionShortHelpImportFromSiteJournal"
+                                  << "KalShortHelpDialog";
+    QTest::newRow("short help 2") << "actionShortHelpImportFromMobile"
+                                  << "KalShortHelpDialog";
+}
+
+void TestMainWindow::actionsOpenTheirDialogs()
+{
+    QFETCH(QString, action);
+    QFETCH(QString, dialog);
+    QString opened;
+    QTimer poll;
+    poll.setInterval(50);
+    connect(&poll, &QTimer::timeout, [&opened, &poll] {
+        if (QWidget *modal = QApplication::activeModalWidget()) {
+            opened = QString::fromLatin1(modal->metaObject()->className());
+            poll.stop();
+            modal->close();
+        }
+    });
+    poll.start();
+    m_window->findChild<QAction *>(action)->trigger();
+    QCOMPARE(opened, dialog);
+    QVERIFY(m_window->project()->isOpen());
+}
+
+void TestMainWindow::helpTextToggle()
+{
+    auto *action = m_window->findChild<QAction *>(QStringLiteral("actionTooltipHelp"));
+    QVERIFY(action);
+    QCOMPARE(action->text(), QStringLiteral("Hilfetexte ausschalten"));
+    action->trigger();
+    QCOMPARE(QSettings().value("TooltipHelpActive").toBool(), false);
+    QCOMPARE(action->text(), QStringLiteral("Hilfetexte einschalten"));
+    action->trigger();
+    QCOMPARE(QSettings().value("TooltipHelpActive").toBool(), true);
+    QCOMPARE(action->text(), QStringLiteral("Hilfetexte ausschalten"));
+}
+
+void TestMainWindow::importMenuState_data()
+{
+    QTest::addColumn<bool>("linked");
+    QTest::addColumn<int>("mode");
+    QTest::addColumn<QStringList>("visible"); // import actions shown, in order
+    QTest::addColumn<QString>("newRecordsText");
+    QTest::addColumn<QString>("updateText");
+
+    const QString newOn = QStringLiteral("Automatischen Import neuer Mängel und Firmen einschalten");
+    const QString newOff = QStringLiteral("Automatischen Import neuer Mängel und Firmen ausschalten");
+    const QString updOn =
+        QStringLiteral("Automatischen Import und Aktualisierung vorhandener Mängel und Firmen einschalten");
+    const QString updOff =
+        QStringLiteral("Automatischen Import und Aktualisierung vorhandener Mängel und Firmen ausschalten");
+    QTest::newRow("not linked") << false << 0 << QStringList{"actionInitialDataImport"} << newOn << updOn;
+    QTest::newRow("linked, off") << true << 0
+                                 << QStringList{"actionUpdateDataImport", "actionAutomaticNewRecordsImport",
+                                                "actionAutomaticUpdateImport"}
+                                 << newOn << updOn;
+    QTest::newRow("linked, new records") << true << 1
+                                         << QStringList{"actionUpdateDataImport", "actionAutomaticNewRecordsImport",
+                                                        "actionAutomaticUpdateImport"}
+                                         << newOff << updOn;
+    QTest::newRow("linked, new and changed")
+        << true << 2 << QStringList{"actionUpdateDataImport", "actionAutomaticUpdateImport"} << newOn << updOff;
+}
+
+void TestMainWindow::importMenuState()
+{
+    QFETCH(bool, linked);
+    QFETCH(int, mode);
+    QFETCH(QStringList, visible);
+    QFETCH(QString, newRecordsText);
+    QFETCH(QString, updateText);
+
+    QSqlQuery q(m_window->project()->database());
+    QVERIFY(q.exec(
+        QStringLiteral("INSERT OR REPLACE INTO meta (key, value) VALUES ('automaticImportMode', '%1')").arg(mode)));
+    QFile journal(path("b.sjd"));
+    QVERIFY(journal.open(QIODevice::WriteOnly));
+    journal.close();
+    if (linked) {
+        QVERIFY(m_window->linkSiteJournal(path("b.sjd")));
+        QVERIFY(q.exec("SELECT value FROM meta WHERE key = 'siteJournalDatabasePath'") && q.next());
+        QCOMPARE(q.value(0).toString(), path("b.sjd"));
+    }
+    // The state follows the file also after saving and reopening.
+    KalFileDialog::queueChoice(path("p.pwp"));
+    QCOMPARE(m_window->maybeSave(true, true), 0);
+    QVERIFY(m_window->openProject(path("p.pwp")));
+
+    const QStringList names{"actionInitialDataImport", "actionUpdateDataImport", "actionAutomaticNewRecordsImport",
+                            "actionAutomaticUpdateImport"};
+    QStringList shown;
+    for (const QString &name : names) {
+        auto *action = m_window->findChild<QAction *>(name);
+        QVERIFY(action);
+        if (action->isVisible())
+            shown << name;
+    }
+    QCOMPARE(shown, visible);
+    QCOMPARE(m_window->findChild<QAction *>("actionAutomaticNewRecordsImport")->text(), newRecordsText);
+    QCOMPARE(m_window->findChild<QAction *>("actionAutomaticUpdateImport")->text(), updateText);
+}
+
+void TestMainWindow::actionsWithoutFeatureAreDisabled_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<bool>("enabled");
+    QTest::addColumn<QString>("text");
+
+    QTest::newRow("new") << "actionCreateFile" << true << "Neu";
+    QTest::newRow("open") << "actionOpenFile" << true << "Öffnen";
+    QTest::newRow("save") << "actionSaveFile" << true << "Speichern";
+    QTest::newRow("save as") << "actionFileSaveAs" << true << "Speichern unter";
+    QTest::newRow("compact") << "actionCompactDB" << true << "Datenbank bereinigen";
+    QTest::newRow("add defect") << "actionAddDefect" << true << "Mangel hinzufügen";
+    QTest::newRow("language") << "actionSettingsLanguage" << true << "Sprache wählen";
+    QTest::newRow("about") << "actionProgramInfoDialog" << true << "Info über Pellwick";
+    QTest::newRow("plans") << "actionEditPlanTable" << false << "Pläne";
+    QTest::newRow("statuses") << "actionEditStatusTable" << true << "Status";
+    QTest::newRow("project data") << "actionEditProjectData" << true << "Projektdaten bearbeiten";
+    QTest::newRow("companies") << "actionEditCompanyTable" << true << "Firmenliste bearbeiten";
+    QTest::newRow("company format") << "actionEditCompanyFormat" << true << "Firmendaten Ausgabeformat";
+    QTest::newRow("logos") << "actionEditLogos" << false << "Logo hinzufügen / bearbeiten";
+    QTest::newRow("print short") << "actionPrintDefectListShort" << false << "Mängelliste kompakt";
+    QTest::newRow("print long") << "actionPrintDefectListLong" << false << "Mängelliste detailliert";
+    QTest::newRow("preview") << "actionPrintPreview" << false << "Druckvorschau";
+    QTest::newRow("initial import") << "actionInitialDataImport" << false
+                                    << "Mängel und Firmen aus einem Bautagebuch importieren";
+    QTest::newRow("app import") << "actionImportFromApp" << false
+                                << "Mängel und Firmen aus der Quellor App importieren\n";
+    QTest::newRow("csv import") << "actionImportCSVCompanies" << true << "Import von Firmen aus externer Adress-Datei";
+    QTest::newRow("project file import") << "actionImportDefectManagerCompanies" << true
+                                         << "Import von Firmen aus anderer Pellwick-Datei";
+    QTest::newRow("journal company import")
+        << "actionImportSiteJournalCompanies" << true << "Import von Firmen aus Quellor Bautagebuch";
+    QTest::newRow("completer") << "actionSettingsCompleter" << true << "Texte ändern - Eingabe";
+    QTest::newRow("plan size") << "actionSettingsPlanSize" << false << "Plangröße";
+    QTest::newRow("photo size") << "actionSettingsImageSize" << false << "Fotogröße";
+    QTest::newRow("marker") << "actionStandardMarker" << false << "Standardmarker";
+    QTest::newRow("marker text") << "actionStandardMarkerText" << false << "Mängeltexte im Plan";
+    QTest::newRow("update") << "actionUpdateTest" << false << "Auf Updates prüfen";
+}
+
+void TestMainWindow::actionsWithoutFeatureAreDisabled()
+{
+    QFETCH(QString, name);
+    QFETCH(bool, enabled);
+    QFETCH(QString, text);
+    auto *action = m_window->findChild<QAction *>(name);
+    QVERIFY(action);
+    QCOMPARE(action->isEnabled(), enabled);
+    QCOMPARE(action->text(), text);
+    QVERIFY2(!action->icon().pixmap(16, 16).isNull(), "every action has an icon");
+}
+
+void TestMainWindow::compactUntitledAsksToSaveFirst()
+{
+    m_prompt->queueAnswer(QStringLiteral("Datenbank bereinigen"));
+    KalFileDialog::queueCancel();
+    m_window->findChild<QAction *>("actionCompactDB")->trigger();
+    QCOMPARE(KalFileDialog::lastCaption(), QStringLiteral("Neues Projekt"));
+    QVERIFY(m_prompt->texts().contains(QStringLiteral("Das Projekt wurde noch nicht gespeichert.\nSie müssen das "
+                                                      "Projekt vor der Bereinigung der Datenbank speichern.")));
+    QVERIFY(m_window->project()->projectPath().isEmpty());
+    QVERIFY(m_prompt->texts().first().startsWith(
+        QStringLiteral("Verringern der Datenbankgröße durch Bereinigung der Datenbank")));
+}
+
+void TestMainWindow::compactSavesModifiedProjectFirst()
+{
+    KalFileDialog::queueChoice(path("c.pwp"));
+    QCOMPARE(m_window->maybeSave(true, true), 0);
+    for (int i = 0; i < 20; ++i)
+        m_window->addDefect();
+    QVERIFY(m_window->project()->isModified());
+    m_prompt->clear();
+    m_prompt->queueAnswer(QStringLiteral("Datenbank bereinigen"));
+    m_prompt->queueAnswer(QStringLiteral("Speichern und Bereinigen der Datenbank"));
+    m_window->findChild<QAction *>("actionCompactDB")->trigger();
+
+    QVERIFY(m_prompt->texts().contains(QStringLiteral(
+        "Das Projekt wurde geändert.\nVor dem Bereinigen der Datenbank werden die Änderungen gespeichert.\n")));
+    QVERIFY(!m_window->project()->isModified());
+    QVERIFY(m_window->project()->isOpen());
+    bool reported = false;
+    for (const QString &t : m_prompt->texts())
+        reported = reported || t.startsWith(QStringLiteral("Die Datenbank wurde erfolgreich bereinigt."));
+    QVERIFY2(reported, qPrintable(m_prompt->texts().join('|')));
+    // The saved file holds the defects.
+    QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "compactcheck");
+    db.setDatabaseName(path("c.pwp"));
+    QVERIFY(db.open());
+    {
+        QSqlQuery q(db);
+        QVERIFY(q.exec("SELECT COUNT(*) FROM defect") && q.next());
+        QCOMPARE(q.value(0).toInt(), 20);
+    }
+    db.close();
+    db = QSqlDatabase();
+    QSqlDatabase::removeDatabase("compactcheck");
+}
+
+void TestMainWindow::languageDialog_data()
+{
+    QTest::addColumn<int>("storedLanguage");
+    QTest::addColumn<int>("storedCountry");
+    QTest::addColumn<int>("preset");
+    QTest::addColumn<int>("choose");
+    QTest::addColumn<QString>("answer");
+    QTest::addColumn<bool>("asked");
+    QTest::addColumn<bool>("restart");
+
+    QTest::newRow("German to English USA, now")
+        << 42 << 82 << int(KalLanguageDialog::German) << int(KalLanguageDialog::EnglishUsa) << "Jetzt neu starten"
+        << true << true;
+    QTest::newRow("German to Spanish, later")
+        << 42 << 82 << int(KalLanguageDialog::German) << int(KalLanguageDialog::Spanish) << "Später neu starten" << true
+        << false;
+    // German for Austria is checked as German; confirming it moves to Germany.
+    QTest::newRow("Austria counts as German")
+        << 42 << 16 << int(KalLanguageDialog::German) << int(KalLanguageDialog::German) << "Später neu starten" << true
+        << false;
+    QTest::newRow("unchanged asks nothing")
+        << 42 << 82 << int(KalLanguageDialog::German) << int(KalLanguageDialog::German) << "" << false << false;
+    QTest::newRow("UK to USA asks") << 31 << 224 << int(KalLanguageDialog::English)
+                                    << int(KalLanguageDialog::EnglishUsa) << "Später neu starten" << true << false;
+    QTest::newRow("USA preset") << 31 << 225 << int(KalLanguageDialog::EnglishUsa) << int(KalLanguageDialog::EnglishUsa)
+                                << "" << false << false;
+    QTest::newRow("French runs in German") << 37 << 74 << int(KalLanguageDialog::German)
+                                           << int(KalLanguageDialog::German) << "Später neu starten" << true << false;
+    QTest::newRow("Mexico counts as Spanish")
+        << 111 << 139 << int(KalLanguageDialog::Spanish) << int(KalLanguageDialog::German) << "Später neu starten"
+        << true << false;
+}
+
+void TestMainWindow::languageDialog()
+{
+    QFETCH(int, storedLanguage);
+    QFETCH(int, storedCountry);
+    QFETCH(int, preset);
+    QFETCH(int, choose);
+    QFETCH(QString, answer);
+    QFETCH(bool, asked);
+    QFETCH(bool, restart);
+
+    QSettings().setValue("Language", storedLanguage);
+    QSettings().setValue("Country", storedCountry);
+    KalLanguageDialog dialog(true);
+    QCOMPARE(int(dialog.checkedButton()), preset);
+    dialog.setCheckedButton(KalLanguageDialog::Button(choose));
+    if (!answer.isEmpty())
+        m_prompt->queueAnswer(answer);
+    dialog.accept();
+
+    const KalLanguageDialog::Choice expected = KalLanguageDialog::choiceOf(KalLanguageDialog::Button(choose));
+    QCOMPARE(QSettings().value("Language").toInt(), expected.language);
+    QCOMPARE(QSettings().value("Country").toInt(), expected.country);
+    QCOMPARE(m_prompt->hasTitle(QStringLiteral("Sprache wurde geändert")), asked);
+    QCOMPARE(dialog.restartRequested(), restart);
+}
+
+void TestMainWindow::restartWritesAndConsumesReopenKey()
+{
+    KalFileDialog::queueChoice(path("r.pwp"));
+    QCOMPARE(m_window->maybeSave(true, true), 0);
+    makeModified();
+    m_prompt->queueAnswer(QStringLiteral("Speichern"));
+
+    QVERIFY(m_window->restartApplication());
+    QVERIFY(!m_window->project()->isOpen());
+    QCOMPARE(QSettings().value(KalCommandLine::reopenKey()).toString(), path("r.pwp"));
+
+    // The next start opens that project whatever the command line says.
+    const KalCommandLine cl = KalCommandLine::forStartup({"pellwick", path("other.pwp")});
+    QCOMPARE(cl.kind, KalCommandLine::OpenFile);
+    QCOMPARE(cl.projectFile, path("r.pwp"));
+    QVERIFY(!QSettings().contains(KalCommandLine::reopenKey()));
+    QVERIFY(m_window->openProject(cl.projectFile));
+    QCOMPARE(m_window->defectModel()->rowCount(), 1); // the change was saved before the restart
+}
+
+void TestMainWindow::quitIsRefusedOnCancel()
+{
+    makeModified();
+    m_prompt->queueAnswer(QStringLiteral("Abbrechen"));
+    QVERIFY(!m_window->close());
+    QVERIFY(m_window->isVisible());
+    QVERIFY(m_window->project()->isOpen());
+
+    m_prompt->queueAnswer(QStringLiteral("Verwerfen"));
+    QVERIFY(m_window->close());
+    QVERIFY(QSettings().contains("MainWindow/Geometry"));
+    QVERIFY(QSettings().contains("MainWindow/WindowState"));
+}
+
+void TestMainWindow::menusShortcutsAndToolBar()
+{
+    QStringList menus;
+    for (QAction *a : m_window->menuBar()->actions())
+        menus << a->text();
+    QCOMPARE(menus,
+             (QStringList{"Datei", "Bearbeiten", "Stammdaten", "Drucken", "Datenimport", "Einstellungen", "Hilfe"}));
+    const QList<QToolBar *> bars = m_window->findChildren<QToolBar *>();
+    QCOMPARE(bars.size(), 1);
+    QCOMPARE(bars.first()->windowTitle(), QStringLiteral("Symbolleiste"));
+
+    const QList<QPair<QString, QKeySequence>> shortcuts{
+        {"actionCreateFile", QKeySequence(Qt::CTRL | Qt::Key_N)},
+        {"actionOpenFile", QKeySequence(Qt::CTRL | Qt::Key_O)},
+        {"actionSaveFile", QKeySequence(Qt::CTRL | Qt::Key_S)},
+        {"actionFileSaveAs", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)}};
+    for (const auto &s : shortcuts)
+        QCOMPARE(m_window->findChild<QAction *>(s.first)->shortcut(), s.second);
+
+    // Ctrl+S on an untitled project asks for a name.
+    KalFileDialog::queueChoice(path("kurz.pwp"));
+    QTest::keyClick(m_window.get(), Qt::Key_S, Qt::ControlModifier);
+    QCOMPARE(QFileInfo(m_window->project()->projectPath()).fileName(), QStringLiteral("kurz.pwp"));
+}
+
+void TestMainWindow::missingDisplay_data()
+{
+    QTest::addColumn<QByteArray>("platform");
+    QTest::addColumn<QByteArray>("display");
+    QTest::addColumn<QByteArray>("wayland");
+    QTest::addColumn<bool>("refused");
+
+    QTest::newRow("nothing set") << QByteArray() << QByteArray() << QByteArray() << true;
+    QTest::newRow("xcb without display") << QByteArray("xcb") << QByteArray() << QByteArray() << true;
+    QTest::newRow("offscreen needs none") << QByteArray("offscreen") << QByteArray() << QByteArray() << false;
+    QTest::newRow("wayland") << QByteArray() << QByteArray() << QByteArray("wayland-0") << false;
+    QTest::newRow("remote X") << QByteArray() << QByteArray("host.example:0") << QByteArray() << false;
+    QTest::newRow("local X without server") << QByteArray() << QByteArray(":987") << QByteArray() << true;
+}
+
+void TestMainWindow::missingDisplay()
+{
+    QFETCH(QByteArray, platform);
+    QFETCH(QByteArray, display);
+    QFETCH(QByteArray, wayland);
+    QFETCH(bool, refused);
+
+    const QByteArray oldPlatform = qgetenv("QT_QPA_PLATFORM");
+    const QByteArray oldDisplay = qgetenv("DISPLAY");
+    const QByteArray oldWayland = qgetenv("WAYLAND_DISPLAY");
+    auto set = [](const char *name, const QByteArray &value) {
+        if (value.isEmpty())
+            qunsetenv(name);
+        else
+            qputenv(name, value);
+    };
+    set("QT_QPA_PLATFORM", platform);
+    set("DISPLAY", display);
+    set("WAYLAND_DISPLAY", wayland);
+    const QString reason = KalStartup::missingDisplayReason();
+    set("QT_QPA_PLATFORM", oldPlatform);
+    set("DISPLAY", oldDisplay);
+    set("WAYLAND_DISPLAY", oldWayland);
+    QCOMPARE(!reason.isEmpty(), refused);
+}
+
+void TestMainWindow::scalingPercent_data()
+{
+    QTest::addColumn<qreal>("dpi");
+    QTest::addColumn<int>("percent");
+    QTest::newRow("96") << qreal(96) << 100;
+    QTest::newRow("100 is not scaled") << qreal(100) << 100;
+    QTest::newRow("120") << qreal(120) << 125;
+    QTest::newRow("144") << qreal(144) << 150;
+    QTest::newRow("192") << qreal(192) << 200;
+    QTest::newRow("72") << qreal(72) << 75;
+}
+
+void TestMainWindow::scalingPercent()
+{
+    QFETCH(qreal, dpi);
+    QFETCH(int, percent);
+    QCOMPARE(KalStartup::scalingPercent(dpi), percent);
+    QVERIFY(KalStartup::scalingNoticeText(percent).startsWith(
+        QStringLiteral("Sie verwenden eine Bildschirm-Skalierung von %1%. Dies kann es zu Problemen bei der "
+                       "Darstellung des Pellwicks führen.")
+            .arg(percent)));
+}
+
+void TestMainWindow::commandLineIsCarriedOut_data()
+{
+    QTest::addColumn<QStringList>("args");     // "P:" and "J:" prefixes name files in the test folder
+    QTest::addColumn<QString>("projectAfter"); // file name, empty: untitled
+    QTest::addColumn<bool>("linked");
+    QTest::addColumn<QString>("title"); // of the one message, empty: none
+
+    QTest::newRow("single path") << QStringList{"P:p.pwp"} << "p.pwp" << false << "";
+    QTest::newRow("-file") << QStringList{"-lang", "-file", "P:p.pwp"} << "p.pwp" << false << "";
+    QTest::newRow("103 opens only") << QStringList{"-connectmode",     "103",    "-file", "P:p.pwp",
+                                                   "-sitejournalfile", "J:b.sjd"}
+                                    << "p.pwp" << false << "";
+    QTest::newRow("102 opens and links") << QStringList{"-connectmode",     "102",    "-file", "P:p.pwp",
+                                                        "-sitejournalfile", "J:b.sjd"}
+                                         << "p.pwp" << true << "Datenimport";
+    QTest::newRow("101 creates and links")
+        << QStringList{"-connectmode", "101", "-file", "P:neu.pwp", "-sitejournalfile", "J:b.sjd"} << "neu.pwp" << true
+        << "Datenimport";
+    QTest::newRow("104 refused") << QStringList{"-connectmode",     "104",    "-file", "P:p.pwp",
+                                                "-sitejournalfile", "J:b.sjd"}
+                                 << "" << false << "Info";
+    QTest::newRow("102 missing journal") << QStringList{"-connectmode",     "102",        "-file", "P:p.pwp",
+                                                        "-sitejournalfile", "J:fehlt.sjd"}
+                                         << "" << false << "Info";
+}
+
+void TestMainWindow::commandLineIsCarriedOut()
+{
+    QFETCH(QStringList, args);
+    QFETCH(QString, projectAfter);
+    QFETCH(bool, linked);
+    QFETCH(QString, title);
+
+    KalFileDialog::queueChoice(path("p.pwp"));
+    QCOMPARE(m_window->maybeSave(true, true), 0);
+    QVERIFY(m_window->newProject());
+    QFile journal(path("b.sjd"));
+    QVERIFY(journal.open(QIODevice::WriteOnly));
+    journal.close();
+    m_prompt->clear();
+
+    QStringList full{"pellwick"};
+    for (const QString &a : args)
+        full << (a.startsWith("P:") || a.startsWith("J:") ? path(a.mid(2)) : a);
+    KalStartup::carryOut(m_window.get(), KalCommandLine::parse(full));
+
+    QCOMPARE(QFileInfo(m_window->project()->projectPath()).fileName(), projectAfter);
+    QSqlQuery q(m_window->project()->database());
+    QVERIFY(q.exec("SELECT value FROM meta WHERE key = 'siteJournalDatabasePath'"));
+    QCOMPARE(q.next(), linked);
+    if (linked)
+        QCOMPARE(q.value(0).toString(), path("b.sjd"));
+    QCOMPARE(m_prompt->titles(), title.isEmpty() ? QStringList() : QStringList{title});
+    if (title == QLatin1String("Datenimport"))
+        QVERIFY(m_prompt->texts().first().contains(QStringLiteral("noch nicht verfügbar")));
+    if (title == QLatin1String("Info"))
+        QVERIFY(m_prompt->texts().first().startsWith(
+            QStringLiteral("Die vom Bautagebuch Programm übergebenen Parameter sind fehlerhaft:\n\n\n")));
+}
+
+QTEST_MAIN(TestMainWindow)
+#include "tst_mainwindow.moc"

@@ -1,0 +1,452 @@
+// The defect list as CSV: in the program and through pellwick-cli.
+#include "CompanyTestData.h"
+#include "CompanyTests.h"
+#include "core/project/KalCompanyFormat.h"
+#include "core/project/KalDefectCsv.h"
+#include "core/project/KalProject.h"
+#include "core/project/KalSqlTableModel.h"
+#include "support/KalTestFiles.h"
+#include "support/KalTestSettings.h"
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QSettings>
+#include <QSqlDatabase>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace CompanyTestData;
+
+namespace {
+
+struct Run
+{
+    int code = -1;
+    QByteArray out;
+    QString err;
+};
+
+Run cli(const QStringList &args)
+{
+    QProcess p;
+    p.start(KalTestSettings::binDir() + "/pellwick-cli", args);
+    p.closeWriteChannel();
+    if (!p.waitForFinished(60000))
+        return Run{};
+    return Run{p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -2, p.readAllStandardOutput(),
+               QString::fromUtf8(p.readAllStandardError())};
+}
+
+QByteArray readAll(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+const QStringList s_compactCaptions = {"Nr.", "Beschreibung", "Firma", "Raum", "Priorität", "Frist", "Status"};
+const QStringList s_allCaptions = {"Nr.",
+                                   "Beschreibung",
+                                   "Firma",
+                                   "Typ",
+                                   "Autor",
+                                   "Erfasst am",
+                                   "Raum",
+                                   "Raumbuch-Nr.",
+                                   "Plan",
+                                   "Fotos",
+                                   "Beseitigungsanweisung",
+                                   "Priorität",
+                                   "Frist",
+                                   "1. Nachfrist",
+                                   "2. Nachfrist",
+                                   "Status"};
+
+} // namespace
+
+Q_DECLARE_METATYPE(KalDefectCsv::Columns)
+Q_DECLARE_METATYPE(KalCompanyFormat)
+
+class TstDefectCsv : public QObject
+{
+    Q_OBJECT
+
+private:
+    QTemporaryDir m_dir;
+    QString m_project;
+    QString m_status2; // text of status 2 in a new project
+
+    QByteArray exportFromFile(KalDefectCsv::Columns columns, const KalCompanyFormat &format)
+    {
+        QByteArray csv;
+        {
+            QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "csvtest");
+            db.setDatabaseName(m_project);
+            db.setConnectOptions("QSQLITE_OPEN_READONLY");
+            if (db.open()) {
+                QString error;
+                if (!KalDefectCsv::fromDatabase(db, columns, format, &csv, &error))
+                    qWarning() << error;
+            }
+            db.close();
+        }
+        QSqlDatabase::removeDatabase("csvtest");
+        return csv;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        QSettings().clear();
+        m_project = m_dir.filePath("liste.pwp");
+        QVERIFY(createDefectProject(m_project));
+        m_status2 = KalTestFiles::scalar(m_project, "SELECT status FROM status WHERE id = 2");
+        QVERIFY(!m_status2.isEmpty());
+    }
+
+    void layout_data()
+    {
+        QTest::addColumn<KalDefectCsv::Columns>("columns");
+        QTest::addColumn<QStringList>("captions");
+        QTest::newRow("compact") << KalDefectCsv::Compact << s_compactCaptions;
+        QTest::newRow("all") << KalDefectCsv::All << s_allCaptions;
+    }
+
+    void layout()
+    {
+        QFETCH(KalDefectCsv::Columns, columns);
+        QFETCH(QStringList, captions);
+        const QByteArray csv = exportFromFile(columns, KalCompanyFormat::factoryDefaults());
+        QVERIFY(csv.startsWith("\xEF\xBB\xBF"));
+        QVERIFY(csv.endsWith("\r\n"));
+        const QList<QStringList> rows = parseCsv(csv);
+        QCOMPARE(rows.size(), 5);
+        QCOMPARE(rows.first(), captions);
+        QStringList numbers;
+        for (int i = 1; i < rows.size(); ++i) {
+            QCOMPARE(rows.at(i).size(), captions.size());
+            numbers << rows.at(i).first();
+        }
+        // Numeric numbers in numeric order (2 before 10), others after them.
+        QCOMPARE(numbers, (QStringList{"1", "2", "10", "B7"}));
+    }
+
+    void cells_data()
+    {
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<QString>("caption");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("text with separator, quotes and line break") << "10"
+                                                                    << "Beschreibung"
+                                                                    << "Riss; tief\n\"Haarriss\" im Putz";
+        QTest::newRow("company through the output format") << "10"
+                                                           << "Firma"
+                                                           << "Roth; Söhne GmbH  (Maler)";
+        QTest::newRow("company with quotes") << "2"
+                                             << "Firma"
+                                             << "Volt \"&\" Co  (Elektro)";
+        QTest::newRow("no company") << "1"
+                                    << "Firma"
+                                    << "";
+        QTest::newRow("status with reduction") << "10"
+                                               << "Status"
+                                               << "%status - mit Minderung";
+        QTest::newRow("status without reduction") << "2"
+                                                  << "Status"
+                                                  << "%status";
+        QTest::newRow("unknown status") << "1"
+                                        << "Status"
+                                        << "";
+        QTest::newRow("deadline in German notation") << "10"
+                                                     << "Frist"
+                                                     << "05.03.2024";
+        QTest::newRow("first extension") << "10"
+                                         << "1. Nachfrist"
+                                         << "01.04.2024";
+        QTest::newRow("recorded on, also as date") << "10"
+                                                   << "Erfasst am"
+                                                   << "01.02.2024";
+        QTest::newRow("empty date") << "2"
+                                    << "Frist"
+                                    << "";
+        QTest::newRow("plan name") << "10"
+                                   << "Plan"
+                                   << "EG Grundriss";
+        QTest::newRow("no plan") << "2"
+                                 << "Plan"
+                                 << "";
+        QTest::newRow("umlaut room") << "10"
+                                     << "Raum"
+                                     << "Küche";
+        QTest::newRow("photo count") << "10"
+                                     << "Fotos"
+                                     << "0";
+    }
+
+    void cells()
+    {
+        QFETCH(QString, number);
+        QFETCH(QString, caption);
+        QFETCH(QString, expected);
+        expected.replace("%status", m_status2);
+        const QList<QStringList> rows =
+            parseCsv(exportFromFile(KalDefectCsv::All, KalCompanyFormat::factoryDefaults()));
+        const int column = rows.first().indexOf(caption);
+        QVERIFY(column >= 0);
+        for (const QStringList &row : rows) {
+            if (row.first() == number) {
+                QCOMPARE(row.at(column), expected);
+                return;
+            }
+        }
+        QFAIL("number not exported");
+    }
+
+    void rawQuoting()
+    {
+        const QByteArray csv = exportFromFile(KalDefectCsv::Compact, KalCompanyFormat::factoryDefaults());
+        QVERIFY(csv.contains("10;\"Riss; tief\n\"\"Haarriss\"\" im Putz\";\"Roth; Söhne GmbH  (Maler)\";"));
+        QVERIFY(csv.contains(";\"Volt \"\"&\"\" Co  (Elektro)\";"));
+    }
+
+    void quoted_data()
+    {
+        QTest::addColumn<QString>("cell");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("plain") << "Flur 1, links"
+                               << "Flur 1, links";
+        QTest::newRow("empty") << ""
+                               << "";
+        QTest::newRow("separator") << "a;b"
+                                   << "\"a;b\"";
+        QTest::newRow("quote") << "19\" Schrank"
+                               << "\"19\"\" Schrank\"";
+        QTest::newRow("line feed") << "a\nb"
+                                   << "\"a\nb\"";
+        QTest::newRow("carriage return") << "a\rb"
+                                         << "\"a\rb\"";
+    }
+
+    void quoted()
+    {
+        QFETCH(QString, cell);
+        QFETCH(QString, expected);
+        QCOMPARE(KalDefectCsv::quoted(cell), expected);
+    }
+
+    void numberOrder_data()
+    {
+        QTest::addColumn<QString>("a");
+        QTest::addColumn<QString>("b");
+        QTest::addColumn<bool>("aFirst");
+        QTest::newRow("2 before 10") << "2"
+                                     << "10" << true;
+        QTest::newRow("10 after 9") << "10"
+                                    << "9" << false;
+        QTest::newRow("blanks around a number") << " 3"
+                                                << "20 " << true;
+        QTest::newRow("numbers before texts") << "100"
+                                              << "A1" << true;
+        QTest::newRow("texts after numbers") << "A1"
+                                             << "100" << false;
+        QTest::newRow("texts as text") << "A10"
+                                       << "A2" << true;
+        QTest::newRow("texts ignore case") << "b"
+                                           << "C" << true;
+        QTest::newRow("same number: lower id first") << "5"
+                                                     << "05" << true;
+    }
+
+    void numberOrder()
+    {
+        QFETCH(QString, a);
+        QFETCH(QString, b);
+        QFETCH(bool, aFirst);
+        QCOMPARE(KalDefectCsv::numberLess(a, 1, b, 2), aFirst);
+        QCOMPARE(KalDefectCsv::numberLess(b, 2, a, 1), !aFirst);
+    }
+
+    // The program exports from its grid model, the command line from the
+    // file: both must give the same bytes, in every company format.
+    void modelAndFileAgree_data()
+    {
+        QTest::addColumn<KalDefectCsv::Columns>("columns");
+        QTest::addColumn<KalCompanyFormat>("format");
+        KalCompanyFormat both;
+        both.field1 = KalCompanyFormat::City;
+        both.field2InBrackets = true;
+        both.field3InBrackets = true;
+        QTest::newRow("compact, factory format") << KalDefectCsv::Compact << KalCompanyFormat::factoryDefaults();
+        QTest::newRow("all, factory format") << KalDefectCsv::All << KalCompanyFormat::factoryDefaults();
+        QTest::newRow("all, city and shared brackets") << KalDefectCsv::All << both;
+    }
+
+    void modelAndFileAgree()
+    {
+        QFETCH(KalDefectCsv::Columns, columns);
+        QFETCH(KalCompanyFormat, format);
+        const QByteArray fromFile = exportFromFile(columns, format);
+        QVERIFY(!fromFile.isEmpty());
+
+        const QString copy = m_dir.filePath("kopie.pwp");
+        QFile::remove(copy);
+        QVERIFY(QFile::copy(m_project, copy));
+        KalProject project;
+        QVERIFY(project.openProject(copy));
+        format.installInModels();
+        const QByteArray fromModel = KalDefectCsv::fromModel(project.model("defect"), columns);
+        KalCompanyFormat::factoryDefaults().installInModels();
+        QVERIFY(project.closeProject());
+        QCOMPARE(QString::fromUtf8(fromModel), QString::fromUtf8(fromFile));
+    }
+
+    void writeFileIsAtomic()
+    {
+        const QString target = m_dir.filePath("vorhanden.csv");
+        {
+            QFile file(target);
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write("alt");
+        }
+        QString error;
+        // A folder in the way of the target: the write fails and leaves no temporary file.
+        const QString blocked = m_dir.filePath("ordner.csv");
+        QVERIFY(QDir().mkpath(blocked));
+        const QStringList before = KalTestFiles::folderState(m_dir.path());
+        QVERIFY(!KalDefectCsv::writeFile(blocked, "neu", &error));
+        QVERIFY(error.contains("ordner.csv"));
+        QVERIFY(!KalDefectCsv::writeFile(m_dir.filePath("fehlt/x.csv"), "neu", &error));
+        QCOMPARE(KalTestFiles::folderState(m_dir.path()), before);
+        QVERIFY(KalDefectCsv::writeFile(target, "neu", &error));
+        QCOMPARE(readAll(target), QByteArray("neu"));
+    }
+
+    // --- pellwick-cli export-defects -----------------------------------------
+
+    void cliUsage_data()
+    {
+        QTest::addColumn<QStringList>("args");
+        QTest::addColumn<int>("code");
+        QTest::newRow("no file") << QStringList{"export-defects"} << 2;
+        QTest::newRow("option instead of file") << QStringList{"export-defects", "--output", "x.csv"} << 2;
+        QTest::newRow("unknown columns") << QStringList{"export-defects", "%p", "--columns", "wide"} << 2;
+        QTest::newRow("output without value") << QStringList{"export-defects", "%p", "--output"} << 2;
+        QTest::newRow("unknown option") << QStringList{"export-defects", "%p", "--json"} << 2;
+        QTest::newRow("missing file") << QStringList{"export-defects", "/nirgends/x.pwp"} << 1;
+        QTest::newRow("not a project") << QStringList{"export-defects", "%junk"} << 1;
+        QTest::newRow("output into the project") << QStringList{"export-defects", "%p", "--output", "%p"} << 1;
+        QTest::newRow("output folder missing")
+            << QStringList{"export-defects", "%p", "--output", "%d/fehlt/x.csv"} << 1;
+    }
+
+    void cliUsage()
+    {
+        QFETCH(QStringList, args);
+        QFETCH(int, code);
+        QTemporaryDir dir;
+        const QString project = dir.filePath("p.pwp");
+        QVERIFY(QFile::copy(m_project, project));
+        {
+            QFile junk(dir.filePath("junk.pwp"));
+            QVERIFY(junk.open(QIODevice::WriteOnly));
+            junk.write(QByteArray(3000, '\x07') + "keine Datenbank");
+        }
+        for (QString &arg : args) {
+            arg.replace("%p", project);
+            arg.replace("%junk", dir.filePath("junk.pwp"));
+            arg.replace("%d", dir.path());
+        }
+        const QByteArray hash = KalTestFiles::fileHash(project);
+        const QStringList before = KalTestFiles::folderState(dir.path());
+        const Run run = cli(args);
+        QCOMPARE(run.code, code);
+        QVERIFY(!run.err.isEmpty());
+        QVERIFY(run.out.isEmpty());
+        QCOMPARE(KalTestFiles::folderState(dir.path()), before);
+        QCOMPARE(KalTestFiles::fileHash(project), hash);
+    }
+
+    void cliExport_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<int>("columnCount");
+        QTest::newRow("default is compact") << QStringList() << 7;
+        QTest::newRow("compact") << QStringList{"--columns", "compact"} << 7;
+        QTest::newRow("all") << QStringList{"--columns", "all"} << 16;
+    }
+
+    void cliExport()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(int, columnCount);
+        QTemporaryDir dir;
+        const QString project = dir.filePath("p.pwp");
+        QVERIFY(QFile::copy(m_project, project));
+        const QByteArray hash = KalTestFiles::fileHash(project);
+        const QStringList before = KalTestFiles::folderState(dir.path());
+
+        const Run toStdout = cli(QStringList{"export-defects", project} + options);
+        QCOMPARE(toStdout.code, 0);
+        // Read-only: no working copy, no user file, no byte changed.
+        QCOMPARE(KalTestFiles::folderState(dir.path()), before);
+        QCOMPARE(KalTestFiles::fileHash(project), hash);
+
+        const QString output = dir.filePath("liste.csv");
+        const Run toFile = cli(QStringList{"export-defects", project, "--output", output} + options);
+        QCOMPARE(toFile.code, 0);
+        QVERIFY(toFile.out.isEmpty());
+        QCOMPARE(readAll(output), toStdout.out);
+        QCOMPARE(KalTestFiles::fileHash(project), hash);
+
+        const QList<QStringList> rows = parseCsv(toStdout.out);
+        QCOMPARE(rows.size(), 5);
+        QCOMPARE(rows.first().size(), columnCount);
+        const KalDefectCsv::Columns columns = columnCount == 7 ? KalDefectCsv::Compact : KalDefectCsv::All;
+        QCOMPARE(toStdout.out, exportFromFile(columns, KalCompanyFormat::factoryDefaults()));
+    }
+
+    void cliFollowsSettings_data()
+    {
+        QTest::addColumn<int>("language");
+        QTest::addColumn<int>("country");
+        QTest::addColumn<QString>("deadline");
+        QTest::newRow("German") << int(QLocale::German) << int(QLocale::Germany) << "05.03.2024";
+        QTest::newRow("English (US)") << int(QLocale::English) << int(QLocale::UnitedStates) << "03/05/2024";
+    }
+
+    // Dates in the program's notation and companies in the user's format.
+    void cliFollowsSettings()
+    {
+        QFETCH(int, language);
+        QFETCH(int, country);
+        QFETCH(QString, deadline);
+        QSettings settings;
+        settings.setValue("Language", language);
+        settings.setValue("Country", country);
+        KalCompanyFormat format;
+        format.field1 = KalCompanyFormat::Empty;
+        format.field2 = KalCompanyFormat::Type;
+        format.field3 = KalCompanyFormat::Empty;
+        format.field2InBrackets = true;
+        format.save();
+        settings.sync();
+        const Run run = cli({"export-defects", m_project});
+        settings.clear();
+        settings.sync();
+        QCOMPARE(run.code, 0);
+        const QList<QStringList> rows = parseCsv(run.out);
+        QCOMPARE(rows.size(), 5);
+        const QStringList ten = rows.at(3);
+        QCOMPARE(ten.first(), QStringLiteral("10"));
+        QCOMPARE(ten.at(s_compactCaptions.indexOf("Frist")), deadline);
+        QCOMPARE(ten.at(s_compactCaptions.indexOf("Firma")), QStringLiteral("(Maler"));
+    }
+};
+
+int runDefectCsvTests(int argc, char **argv)
+{
+    TstDefectCsv test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_defectcsv.moc"

@@ -1,0 +1,824 @@
+#include "core/project/KalProject.h"
+#include "core/project/KalProjectModels.h"
+#include "core/project/KalSqlTableModel.h"
+#include "support/KalScriptedPrompt.h"
+#include "support/KalTestSettings.h"
+
+#include <QAbstractItemModelTester>
+#include <QBuffer>
+#include <QColor>
+#include <QIcon>
+#include <QImage>
+#include <QSignalSpy>
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QSqlRecord>
+#include <QtTest>
+
+class TstModels : public QObject
+{
+    Q_OBJECT
+
+private:
+    KalScriptedPrompt *m_prompt = nullptr;
+    std::unique_ptr<KalProject> m_project;
+
+    KalSqlTableModel *model(const char *table) const { return m_project->model(QString::fromLatin1(table)); }
+
+    QVariant exec(const QString &sql, const QVariantMap &binds = {})
+    {
+        QSqlQuery q(m_project->database());
+        q.prepare(sql);
+        for (auto it = binds.constBegin(); it != binds.constEnd(); ++it)
+            q.bindValue(QLatin1Char(':') + it.key(), it.value());
+        if (!q.exec()) {
+            qWarning("%s: %s", qPrintable(sql), qPrintable(q.lastError().text()));
+            return QVariant();
+        }
+        if (q.isSelect())
+            return q.next() ? q.value(0) : QVariant();
+        return q.lastInsertId();
+    }
+
+    int count(const QString &sql, const QVariantMap &binds = {}) { return exec(sql, binds).toInt(); }
+
+    // Inserts a row with plain SQL (as an import would) and returns its id.
+    qint64 insertRow(const QString &table, QVariantMap values)
+    {
+        if (!values.contains(QStringLiteral("id")) && table != QLatin1String("image") && table != QLatin1String("plan"))
+            values.insert(QStringLiteral("id"), m_project->nextId(table));
+        QStringList names;
+        QStringList holders;
+        for (auto it = values.constBegin(); it != values.constEnd(); ++it) {
+            names << it.key();
+            holders << QLatin1Char(':') + it.key();
+        }
+        const QVariant id = exec(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                                     .arg(table, names.join(QLatin1Char(',')), holders.join(QLatin1Char(','))),
+                                 values);
+        return values.value(QStringLiteral("id"), id).toLongLong();
+    }
+
+    qint64 insertDefect(const QVariantMap &extra = {})
+    {
+        QVariantMap values{{"description", QStringLiteral("Riss im Putz")}, {"number", QStringLiteral("1")}};
+        for (auto it = extra.constBegin(); it != extra.constEnd(); ++it)
+            values.insert(it.key(), it.value());
+        return insertRow(QStringLiteral("defect"), values);
+    }
+
+    qint64 insertCompany(const QString &name, const QString &trade)
+    {
+        return insertRow(QStringLiteral("company"), {{"type", trade},
+                                                     {"firstname", ""},
+                                                     {"lastname", ""},
+                                                     {"company", name},
+                                                     {"street", ""},
+                                                     {"plz", ""},
+                                                     {"city", ""},
+                                                     {"telephone", ""},
+                                                     {"telefax", ""},
+                                                     {"mobile", ""},
+                                                     {"email", ""},
+                                                     {"pos", 1}});
+    }
+
+    static QByteArray jpeg(const QSize &size, const QColor &color)
+    {
+        QImage image(size, QImage::Format_RGB32);
+        image.fill(color);
+        QByteArray bytes;
+        QBuffer buffer(&bytes);
+        buffer.open(QIODevice::WriteOnly);
+        image.save(&buffer, "JPG");
+        return bytes;
+    }
+
+    qint64 insertImage(const QString &table = QStringLiteral("image"))
+    {
+        const QByteArray thumb = jpeg(QSize(40, 30), Qt::blue);
+        return insertRow(table, {{table, jpeg(QSize(80, 60), Qt::red)},
+                                 {table + "_ct", "image/jpeg"},
+                                 {table + "_width", 80},
+                                 {table + "_height", 60},
+                                 {"thumbnail", thumb},
+                                 {"thumbnail_ct", "image/jpeg"},
+                                 {"thumbnail_width", 40},
+                                 {"thumbnail_height", 30}});
+    }
+
+    qint64 insertPhoto(qint64 defectId, qint64 imageId, int pos = 1)
+    {
+        return insertRow(QStringLiteral("photo_info"),
+                         {{"defect_id", defectId}, {"image_id", imageId}, {"pos", pos}, {"caption", "Foto"}});
+    }
+
+    void selectAll()
+    {
+        for (const QString &table : m_project->models()->tables())
+            m_project->model(table)->select();
+    }
+
+    QVariant cell(const char *table, qint64 id, const char *field, int role = Qt::DisplayRole)
+    {
+        KalSqlTableModel *m = model(table);
+        const int row = m->findRowById(id);
+        if (row < 0)
+            return QStringLiteral("<no row %1>").arg(id);
+        return m->data(m->index(row, m->fieldIndex(QLatin1String(field))), role);
+    }
+
+private slots:
+    void initTestCase()
+    {
+        KalTestSettings::isolate();
+        m_prompt = KalScriptedPrompt::install();
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    }
+
+    void init()
+    {
+        m_prompt->clear();
+        m_project = std::make_unique<KalProject>();
+        QVERIFY(m_project->newProject());
+        QVERIFY(m_project->models());
+    }
+
+    void cleanup()
+    {
+        if (m_project && m_project->isOpen())
+            m_project->closeProject();
+        m_project.reset();
+        KalSqlTableModel::setCompanyFormatter({});
+    }
+
+    void everyTableHasAFullyFetchedModel()
+    {
+        const QStringList expected = {"kal",
+                                      "meta",
+                                      "defect",
+                                      "status",
+                                      "plan_info",
+                                      "photo_info",
+                                      "company",
+                                      "marker",
+                                      "marker_text",
+                                      "addresslist",
+                                      "imported_report",
+                                      "imported_closed_report_company",
+                                      "deleted_site_journal_defect",
+                                      "deleted_site_journal_photo_info",
+                                      "deleted_site_journal_company"};
+        QStringList tables = m_project->models()->tables();
+        tables.sort();
+        QStringList sortedExpected = expected;
+        sortedExpected.sort();
+        QCOMPARE(tables, sortedExpected);
+        QVERIFY(!model("image"));
+        QVERIFY(!model("plan"));
+        QCOMPARE(model("status")->rowCount(), 8);
+        QCOMPARE(model("kal")->rowCount(), 1);
+        QCOMPARE(model("defect")->editStrategy(), QSqlTableModel::OnManualSubmit);
+
+        // More rows than the driver delivers in one block.
+        QVERIFY(m_project->beginTransaction());
+        for (int i = 0; i < 700; ++i)
+            insertDefect({{"number", QString::number(i)}});
+        QVERIFY(m_project->commitTransaction());
+        QVERIFY(model("defect")->select());
+        QCOMPARE(model("defect")->rowCount(), 700);
+        QVERIFY(!model("defect")->canFetchMore());
+    }
+
+    void captions_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("caption");
+        QTest::newRow("number") << "defect"
+                                << "number"
+                                << "Nr.";
+        QTest::newRow("description") << "defect"
+                                     << "description"
+                                     << "Beschreibung";
+        QTest::newRow("company") << "defect"
+                                 << "company_id"
+                                 << "Firma";
+        QTest::newRow("creation") << "defect"
+                                  << "creation_date"
+                                  << "Erfasst am";
+        QTest::newRow("roombook") << "defect"
+                                  << "roombook_number"
+                                  << "Raumbuch-Nr.";
+        QTest::newRow("instruction") << "defect"
+                                     << "correction_instruction"
+                                     << "Beseitigungsanweisung";
+        QTest::newRow("deadline") << "defect"
+                                  << "correction_date"
+                                  << "Frist";
+        QTest::newRow("deadline 2") << "defect"
+                                    << "deadline_2"
+                                    << "2. Nachfrist";
+        QTest::newRow("deadline 3 has none") << "defect"
+                                             << "deadline_3"
+                                             << "deadline_3";
+        QTest::newRow("reduction") << "defect"
+                                   << "reduction"
+                                   << "Minderung";
+        QTest::newRow("status colour") << "status"
+                                       << "color"
+                                       << "Farbe";
+        QTest::newRow("plan name") << "plan_info"
+                                   << "plan_name"
+                                   << "Plan-Name oder Nummer";
+        QTest::newRow("photo pos") << "photo_info"
+                                   << "pos"
+                                   << "Position";
+        QTest::newRow("company street") << "company"
+                                        << "street"
+                                        << "Straße";
+        QTest::newRow("company fax") << "company"
+                                     << "telefax"
+                                     << "Fax";
+        QTest::newRow("address list") << "addresslist"
+                                      << "name"
+                                      << "Adressenliste";
+    }
+
+    void captions()
+    {
+        QFETCH(QString, table);
+        QFETCH(QString, field);
+        QFETCH(QString, caption);
+        KalSqlTableModel *m = m_project->model(table);
+        QVERIFY(m);
+        QCOMPARE(m->headerData(m->fieldIndex(field), Qt::Horizontal).toString(), caption);
+    }
+
+    void tableCaptions_data()
+    {
+        QTest::addColumn<int>("number");
+        QTest::addColumn<QString>("caption");
+        QTest::newRow("0") << 0 << "Meta";
+        QTest::newRow("1") << 1 << "Kal";
+        QTest::newRow("2") << 2 << "Mängel";
+        QTest::newRow("3") << 3 << "Pläne";
+        QTest::newRow("4") << 4 << "Fotos";
+        QTest::newRow("5") << 5 << "";
+        QTest::newRow("7") << 7 << "";
+        QTest::newRow("8") << 8 << "Mail-Addresslisten";
+        QTest::newRow("9") << 9 << "Firmen";
+        QTest::newRow("10") << 10 << "Mail-Addressen";
+        QTest::newRow("11") << 11 << "";
+        QTest::newRow("-1") << -1 << "";
+    }
+
+    void tableCaptions()
+    {
+        QFETCH(int, number);
+        QFETCH(QString, caption);
+        QCOMPARE(KalSqlTableModel::tableCaption(number), caption);
+    }
+
+    void displayTexts_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QVariant>("stored");
+        QTest::addColumn<bool>("reduction");
+        QTest::addColumn<QString>("expected");
+        // Company 1 = "Muster Bau GmbH" (Maurer), 2 = "Ohne Gewerk" (no trade), plan 1 = "EG Nord".
+        QTest::newRow("company with trade") << "company_id" << QVariant(1) << false << "Muster Bau GmbH  (Maurer)";
+        QTest::newRow("company without trade") << "company_id" << QVariant(2) << false << "Ohne Gewerk";
+        QTest::newRow("company -1") << "company_id" << QVariant(-1) << false << "";
+        QTest::newRow("company unknown") << "company_id" << QVariant(4711) << false << "";
+        QTest::newRow("company NULL") << "company_id" << QVariant() << false << "";
+        QTest::newRow("status") << "status_id" << QVariant(2) << false << "Offen, in Arbeit";
+        QTest::newRow("status reduced") << "status_id" << QVariant(6) << true
+                                        << "Erledigt, teilweise beseitigt - mit Minderung";
+        QTest::newRow("status unknown") << "status_id" << QVariant(99) << true << "";
+        QTest::newRow("plan") << "plan_info_id" << QVariant(1) << false << "EG Nord";
+        QTest::newRow("plan none") << "plan_info_id" << QVariant(-1) << false << "";
+        QTest::newRow("date iso") << "correction_date" << QVariant("2024-02-01") << false << "01.02.2024";
+        QTest::newRow("date local text") << "deadline_1" << QVariant("3.4.25") << false << "03.04.2025";
+        QTest::newRow("date empty") << "correction_date" << QVariant("") << false << "";
+        QTest::newRow("date invalid") << "correction_date" << QVariant("2024-02-31") << false << "";
+        QTest::newRow("date garbage") << "deadline_2" << QVariant("bald") << false << "";
+        QTest::newRow("deadline 3 as stored") << "deadline_3" << QVariant("2024-02-01") << false << "2024-02-01";
+        QTest::newRow("multi-line") << "description" << QVariant("Zeile 1\nZeile 2") << false << "Zeile 1\nZeile 2";
+        QTest::newRow("reduction box shows no text") << "reduction" << QVariant(1) << true << "";
+    }
+
+    void displayTexts()
+    {
+        QFETCH(QString, field);
+        QFETCH(QVariant, stored);
+        QFETCH(bool, reduction);
+        QFETCH(QString, expected);
+
+        QCOMPARE(insertCompany("Muster Bau GmbH", "Maurer"), 1);
+        QCOMPARE(insertCompany("Ohne Gewerk", ""), 2);
+        QCOMPARE(insertRow("plan_info", {{"plan_name", "EG Nord"}, {"pos", 1}}), 1);
+        QVariantMap values{{"reduction", reduction ? 1 : 0}};
+        if (field != QLatin1String("description"))
+            values.insert(field, stored);
+        else
+            values.insert(field, stored.toString());
+        const qint64 id = insertDefect(values);
+        selectAll();
+
+        QCOMPARE(cell("defect", id, qPrintable(field)).toString(), expected);
+    }
+
+    void statusTypeTexts_data()
+    {
+        QTest::addColumn<int>("type");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("1") << 1 << "Standardstatus";
+        QTest::newRow("2") << 2 << "Benutzerstatus";
+        QTest::newRow("0") << 0 << "";
+        QTest::newRow("3") << 3 << "";
+    }
+
+    void statusTypeTexts()
+    {
+        QFETCH(int, type);
+        QFETCH(QString, expected);
+        const qint64 id = insertRow(
+            "status", {{"status", "Neu"}, {"color", "#123456"}, {"type", type}, {"reduction_option", 0}, {"pos", 9}});
+        model("status")->select();
+        QCOMPARE(cell("status", id, "type").toString(), expected);
+        QCOMPARE(cell("status", id, "type", Qt::EditRole).toInt(), type);
+    }
+
+    void statusColourCell_data()
+    {
+        QTest::addColumn<QString>("colour");
+        QTest::addColumn<bool>("painted");
+        QTest::newRow("hex") << "#f3752c" << true;
+        QTest::newRow("name") << "darkgreen" << true;
+        QTest::newRow("unknown") << "nichtfarbe" << false;
+        QTest::newRow("empty") << "" << false;
+    }
+
+    void statusColourCell()
+    {
+        QFETCH(QString, colour);
+        QFETCH(bool, painted);
+        const qint64 id = insertRow(
+            "status", {{"status", "Farbig"}, {"color", colour}, {"type", 2}, {"reduction_option", 0}, {"pos", 9}});
+        model("status")->select();
+        QVERIFY(cell("status", id, "color").toString().isEmpty());
+        const QVariant background = cell("status", id, "color", Qt::BackgroundRole);
+        QCOMPARE(background.isValid(), painted);
+        if (painted)
+            QCOMPARE(background.value<QColor>(), QColor(colour));
+        // The name column is not painted.
+        QVERIFY(!cell("status", id, "status", Qt::BackgroundRole).isValid());
+    }
+
+    void markerBackgrounds_data()
+    {
+        QTest::addColumn<QString>("number");
+        QTest::addColumn<QColor>("expected");
+        QTest::newRow("star") << "*" << QColor(120, 255, 120);
+        QTest::newRow("bang") << "!" << QColor(255, 120, 120);
+        QTest::newRow("two stars") << "**" << QColor();
+        QTest::newRow("text") << "12" << QColor();
+    }
+
+    void markerBackgrounds()
+    {
+        QFETCH(QString, number);
+        QFETCH(QColor, expected);
+        const qint64 id = insertDefect({{"number", number}});
+        model("defect")->select();
+        const QVariant background = cell("defect", id, "number", Qt::BackgroundRole);
+        QCOMPARE(background.value<QColor>(), expected);
+        QCOMPARE(background.isValid(), expected.isValid());
+    }
+
+    void boolColumnIsCheckableButDisabled_data()
+    {
+        QTest::addColumn<int>("stored");
+        QTest::addColumn<int>("checkState");
+        QTest::newRow("reduced") << 1 << int(Qt::Checked);
+        QTest::newRow("not reduced") << 0 << int(Qt::Unchecked);
+    }
+
+    void boolColumnIsCheckableButDisabled()
+    {
+        QFETCH(int, stored);
+        QFETCH(int, checkState);
+        const qint64 id = insertDefect({{"reduction", stored}});
+        KalSqlTableModel *m = model("defect");
+        m->select();
+        const int row = m->findRowById(id);
+        const QModelIndex reduction = m->index(row, m->fieldIndex("reduction"));
+        QCOMPARE(int(m->flags(reduction)), 147);
+        QCOMPARE(m->data(reduction, Qt::CheckStateRole).toInt(), checkState);
+        const QModelIndex number = m->index(row, m->fieldIndex("number"));
+        QVERIFY(m->flags(number) & Qt::ItemIsEnabled);
+        QVERIFY(!m->data(number, Qt::CheckStateRole).isValid());
+    }
+
+    void cameraOnlyInPhotoCountColumn()
+    {
+        const qint64 id = insertDefect({{"image_cnt", 2}});
+        model("defect")->select();
+        QCOMPARE(cell("defect", id, "image_cnt", Qt::DecorationRole).userType(), int(QMetaType::QIcon));
+        QCOMPARE(cell("defect", id, "image_cnt", Qt::DisplayRole).toInt(), 2);
+        QVERIFY(!cell("defect", id, "number", Qt::DecorationRole).isValid());
+    }
+
+    void dateColumnsEditAsDates()
+    {
+        const qint64 id = insertDefect({{"correction_date", "2024-02-01"}});
+        model("defect")->select();
+        QCOMPARE(cell("defect", id, "correction_date", Qt::EditRole).toDate(), QDate(2024, 2, 1));
+        // Id columns edit their ids, not the shown text.
+        QCOMPARE(cell("defect", id, "status_id", Qt::EditRole).toInt(), 0);
+    }
+
+    void newRowsGetIdsFromTheAllocator()
+    {
+        KalSqlTableModel *statuses = model("status");
+        const int row = statuses->rowCount();
+        QVERIFY(statuses->insertRow(row));
+        const QModelIndex idIndex = statuses->index(row, statuses->fieldIndex("id"));
+        QCOMPARE(idIndex.data(Qt::EditRole).toLongLong(), 9);
+        const QVariantMap values{
+            {"status", "Neu"}, {"color", "#010203"}, {"type", 2}, {"reduction_option", 0}, {"pos", 9}};
+        for (auto it = values.constBegin(); it != values.constEnd(); ++it)
+            QVERIFY(statuses->setData(statuses->index(row, statuses->fieldIndex(it.key())), it.value()));
+        QVERIFY(statuses->submitWithNotification());
+        QCOMPARE(count("SELECT COUNT(*) FROM status WHERE id = 9 AND status = 'Neu'"), 1);
+        QCOMPARE(count("SELECT id_counter FROM id_generator WHERE id_table = 'status'"), 9);
+    }
+
+    void idsAreNeverReused_data()
+    {
+        QTest::addColumn<bool>("onlySetFieldsGenerated");
+        QTest::newRow("record with empty id") << false;
+        QTest::newRow("only the set fields generated") << true;
+    }
+
+    void idsAreNeverReused()
+    {
+        QFETCH(bool, onlySetFieldsGenerated);
+        KalSqlTableModel *defects = model("defect");
+        auto addDefect = [&](const QString &number) -> qint64 {
+            QSqlRecord record = defects->record();
+            if (onlySetFieldsGenerated) {
+                for (int i = 0; i < record.count(); ++i)
+                    record.setGenerated(i, false);
+            }
+            record.setValue("number", number);
+            record.setValue("description", "Text");
+            record.setGenerated("number", true);
+            record.setGenerated("description", true);
+            // Written over the primed row: the row must keep the id it was given.
+            if (!defects->insertRecord(-1, record))
+                return -1;
+            const qint64 primed = defects->record(defects->rowCount() - 1).value("id").toLongLong();
+            if (!defects->submitWithNotification())
+                return -1;
+            if (count("SELECT COUNT(*) FROM defect WHERE id = :id AND number = :n", {{"id", primed}, {"n", number}}) !=
+                1)
+                return -2;
+            return primed;
+        };
+        const qint64 first = addDefect("1");
+        const qint64 second = addDefect("2");
+        QCOMPARE(first, 1);
+        QCOMPARE(second, 2);
+        QVERIFY(defects->removeRows(defects->findRowById(second), 1, QModelIndex(), true));
+        QCOMPARE(count("SELECT COUNT(*) FROM defect"), 1);
+        const qint64 third = addDefect("3");
+        QCOMPARE(third, 3);
+        QCOMPARE(count("SELECT MAX(id) FROM defect"), 3);
+    }
+
+    void autoIncrementTablesLeaveIdsToSqlite()
+    {
+        KalSqlTableModel *markers = model("marker");
+        QVERIFY(markers->insertRow(0));
+        QVERIFY(markers->index(0, markers->idColumn()).data(Qt::EditRole).isNull());
+        QVERIFY(markers->setData(markers->index(0, markers->fieldIndex("defect_id")), 5));
+        QVERIFY(markers->submitWithNotification());
+        QCOMPARE(count("SELECT COUNT(*) FROM marker WHERE id > 0 AND defect_id = 5"), 1);
+        QCOMPARE(count("SELECT COUNT(*) FROM id_generator WHERE id_table = 'marker'"), 0);
+    }
+
+    void removingDefectsTakesPhotosAlong_data()
+    {
+        QTest::addColumn<QVariant>("siteJournalId");
+        QTest::addColumn<bool>("tombstone");
+        QTest::newRow("own defect") << QVariant(-1) << false;
+        QTest::newRow("NULL journal id") << QVariant() << false;
+        QTest::newRow("from site journal") << QVariant(77) << true;
+    }
+
+    void removingDefectsTakesPhotosAlong()
+    {
+        QFETCH(QVariant, siteJournalId);
+        QFETCH(bool, tombstone);
+
+        const qint64 doomed =
+            insertDefect({{"number", "12"}, {"site_journal_id", siteJournalId}, {"imported_report_id", 3}});
+        const qint64 kept = insertDefect({{"number", "13"}});
+        const qint64 doomedImage1 = insertImage();
+        const qint64 doomedImage2 = insertImage();
+        const qint64 keptImage = insertImage();
+        insertPhoto(doomed, doomedImage1, 1);
+        insertPhoto(doomed, doomedImage2, 2);
+        const qint64 keptPhoto = insertPhoto(kept, keptImage);
+        selectAll();
+        m_project->setModified(false);
+
+        KalSqlTableModel *defects = model("defect");
+        KalSqlTableModel *photos = model("photo_info");
+        QCOMPARE(photos->rowCount(), 3);
+        QSignalSpy photosBefore(photos, &KalSqlTableModel::beforeSubmit);
+        QSignalSpy photosAfter(photos, &KalSqlTableModel::afterSubmit);
+
+        QVERIFY(defects->removeRows(defects->findRowById(doomed), 1, QModelIndex(), true));
+
+        QCOMPARE(count("SELECT COUNT(*) FROM defect"), 1);
+        QCOMPARE(count("SELECT COUNT(*) FROM photo_info"), 1);
+        QCOMPARE(count("SELECT id FROM photo_info"), int(keptPhoto));
+        QCOMPARE(count("SELECT COUNT(*) FROM image"), 1);
+        QCOMPARE(count("SELECT id FROM image"), int(keptImage));
+        QCOMPARE(photos->rowCount(), 1);
+        QCOMPARE(photosBefore.count(), 1);
+        QCOMPARE(photosAfter.count(), 1);
+        QVERIFY(m_project->isModified());
+        QCOMPARE(m_project->transactions().depth(), 0);
+
+        QCOMPARE(count("SELECT COUNT(*) FROM deleted_site_journal_defect"), tombstone ? 1 : 0);
+        QCOMPARE(model("deleted_site_journal_defect")->rowCount(), tombstone ? 1 : 0);
+        if (tombstone) {
+            QSqlQuery q(m_project->database());
+            QVERIFY(q.exec("SELECT id, site_journal_id, number, imported_report_id, restore_on_import "
+                           "FROM deleted_site_journal_defect"));
+            QVERIFY(q.next());
+            QCOMPARE(q.value(0).toInt(), 1);
+            QCOMPARE(q.value(1).toInt(), 77);
+            QCOMPARE(q.value(2).toString(), QStringLiteral("12"));
+            QCOMPARE(q.value(3).toInt(), 3);
+            QCOMPARE(q.value(4).toInt(), 1);
+            QCOMPARE(count("SELECT id_counter FROM id_generator WHERE id_table = 'deleted_site_journal_defect'"), 1);
+        }
+    }
+
+    void removalWithoutRefreshWaitsForSubmit()
+    {
+        const qint64 id = insertDefect();
+        insertPhoto(id, insertImage());
+        selectAll();
+        KalSqlTableModel *defects = model("defect");
+        QVERIFY(defects->removeRows(defects->findRowById(id), 1));
+        QCOMPARE(count("SELECT COUNT(*) FROM photo_info"), 1);
+        QVERIFY(defects->submitWithNotification());
+        QCOMPARE(count("SELECT COUNT(*) FROM defect"), 0);
+        QCOMPARE(count("SELECT COUNT(*) FROM photo_info"), 0);
+        QCOMPARE(count("SELECT COUNT(*) FROM image"), 0);
+        QCOMPARE(model("photo_info")->rowCount(), 0);
+    }
+
+    void removingSeveralDefectsById()
+    {
+        QList<qint64> ids;
+        for (int i = 0; i < 6; ++i) {
+            ids << insertDefect({{"number", QString::number(i)}, {"site_journal_id", 100 + i}});
+            insertPhoto(ids.last(), insertImage());
+        }
+        selectAll();
+        KalSqlTableModel *defects = model("defect");
+        QSignalSpy after(defects, &KalSqlTableModel::afterSubmit);
+        QVERIFY(defects->removeRowsById({ids.at(4), ids.at(1), ids.at(2)}));
+        QCOMPARE(after.count(), 1);
+        QCOMPARE(count("SELECT COUNT(*) FROM defect"), 3);
+        QCOMPARE(count("SELECT COUNT(*) FROM defect WHERE id IN (:a, :b, :c)",
+                       {{"a", ids.at(0)}, {"b", ids.at(3)}, {"c", ids.at(5)}}),
+                 3);
+        QCOMPARE(count("SELECT COUNT(*) FROM photo_info"), 3);
+        QCOMPARE(count("SELECT COUNT(*) FROM image"), 3);
+        QSqlQuery q(m_project->database());
+        QVERIFY(q.exec("SELECT site_journal_id FROM deleted_site_journal_defect ORDER BY site_journal_id"));
+        QList<int> tombstones;
+        while (q.next())
+            tombstones << q.value(0).toInt();
+        QCOMPARE(tombstones, (QList<int>{101, 102, 104}));
+        QCOMPARE(defects->findRowById(ids.at(1)), -1);
+        QVERIFY(!defects->removeRowsById({4711}));
+    }
+
+    void lookupsFollowSubmittedChanges()
+    {
+        const qint64 company = insertCompany("Alt GmbH", "");
+        const qint64 defect = insertDefect({{"company_id", company}, {"status_id", 1}});
+        selectAll();
+        KalSqlTableModel *defects = model("defect");
+        QCOMPARE(cell("defect", defect, "company_id").toString(), QStringLiteral("Alt GmbH"));
+        QCOMPARE(cell("defect", defect, "status_id").toString(), QStringLiteral("Offen, zu beseitigen"));
+
+        QSignalSpy changed(defects, &QAbstractItemModel::dataChanged);
+        KalSqlTableModel *companies = model("company");
+        const int companyRow = companies->findRowById(company);
+        QVERIFY(companies->setData(companies->index(companyRow, companies->fieldIndex("company")), "Neu AG"));
+        QVERIFY(companies->submitWithNotification());
+        QCOMPARE(cell("defect", defect, "company_id").toString(), QStringLiteral("Neu AG"));
+        const int companyColumn = defects->fieldIndex("company_id");
+        QVERIFY(std::any_of(changed.cbegin(), changed.cend(), [&](const QList<QVariant> &args) {
+            return args.at(0).toModelIndex().column() <= companyColumn &&
+                   args.at(1).toModelIndex().column() >= companyColumn;
+        }));
+
+        KalSqlTableModel *statuses = model("status");
+        QVERIFY(
+            statuses->setData(statuses->index(statuses->findRowById(1), statuses->fieldIndex("status")), "Ganz offen"));
+        QVERIFY(statuses->submitWithNotification());
+        QCOMPARE(cell("defect", defect, "status_id").toString(), QStringLiteral("Ganz offen"));
+
+        // A re-select after someone else wrote the table counts as well.
+        exec("UPDATE plan_info SET plan_name = 'x'");
+        const qint64 plan = insertRow("plan_info", {{"plan_name", "OG"}, {"pos", 1}});
+        exec("UPDATE defect SET plan_info_id = :p", {{"p", plan}});
+        defects->select();
+        QCOMPARE(cell("defect", defect, "plan_info_id").toString(), QString());
+        model("plan_info")->select();
+        QCOMPARE(cell("defect", defect, "plan_info_id").toString(), QStringLiteral("OG"));
+    }
+
+    void lookupColumnsSortByTheShownName_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<int>("order");
+        QTest::newRow("company ascending") << "company_id" << int(Qt::AscendingOrder);
+        QTest::newRow("company descending") << "company_id" << int(Qt::DescendingOrder);
+        QTest::newRow("status ascending") << "status_id" << int(Qt::AscendingOrder);
+        QTest::newRow("status descending") << "status_id" << int(Qt::DescendingOrder);
+    }
+
+    void lookupColumnsSortByTheShownName()
+    {
+        QFETCH(QString, field);
+        QFETCH(int, order);
+        // Ids and names in opposite orders: Zimmerei has the lower id.
+        const qint64 zimmerei = insertCompany("Zimmerei Holz", "Zimmerer");
+        const qint64 abbruch = insertCompany("abbruch & Co", "Abbruch");
+        insertDefect({{"company_id", zimmerei}, {"status_id", 1}}); // "Offen, zu beseitigen"
+        insertDefect({{"company_id", abbruch}, {"status_id", 5}});  // "Erledigt, komplett beseitigt"
+        insertDefect({{"company_id", 9999}, {"status_id", 9999}});  // nothing to show
+        selectAll();
+        KalSqlTableModel *defects = model("defect");
+        const int column = defects->fieldIndex(field);
+        defects->sort(column, Qt::SortOrder(order));
+        QStringList shown;
+        for (int row = 0; row < defects->rowCount(); ++row)
+            shown << defects->index(row, column).data().toString();
+        QStringList expected = shown;
+        std::sort(expected.begin(), expected.end(),
+                  [](const QString &a, const QString &b) { return a.compare(b, Qt::CaseInsensitive) < 0; });
+        if (order == Qt::DescendingOrder)
+            std::reverse(expected.begin(), expected.end());
+        QCOMPARE(shown, expected);
+        QCOMPARE(shown.size(), 3);
+        defects->setSort(-1, Qt::AscendingOrder);
+    }
+
+    void companyFormatterCanBeReplaced()
+    {
+        const qint64 company = insertCompany("Muster", "Maler");
+        const qint64 defect = insertDefect({{"company_id", company}});
+        selectAll();
+        // The factory output format: name, two blanks, trade in brackets.
+        QCOMPARE(cell("defect", defect, "company_id").toString(), QStringLiteral("Muster  (Maler)"));
+        QSignalSpy repaint(model("defect"), &QAbstractItemModel::dataChanged);
+        KalSqlTableModel::setCompanyFormatter([](const QSqlRecord &r) {
+            return r.value("type").toString() + QStringLiteral(": ") + r.value("company").toString();
+        });
+        QCOMPARE(repaint.count(), 1);
+        QCOMPARE(repaint.at(0).at(0).toModelIndex().column(), model("defect")->fieldIndex("company_id"));
+        QCOMPARE(cell("defect", defect, "company_id").toString(), QStringLiteral("Maler: Muster"));
+    }
+
+    void findRowByIdDoesNotDependOnOrder_data()
+    {
+        QTest::addColumn<int>("order");
+        QTest::newRow("ascending") << int(Qt::AscendingOrder);
+        QTest::newRow("descending") << int(Qt::DescendingOrder);
+    }
+
+    void findRowByIdDoesNotDependOnOrder()
+    {
+        QFETCH(int, order);
+        QList<qint64> ids;
+        for (int i = 0; i < 20; ++i)
+            ids << insertDefect({{"number", QString::number(i)}});
+        KalSqlTableModel *defects = model("defect");
+        defects->setSort(defects->fieldIndex("number"), Qt::SortOrder(order));
+        QVERIFY(defects->select());
+        for (qint64 id : ids) {
+            const int row = defects->findRowById(id);
+            QVERIFY(row >= 0);
+            QCOMPARE(defects->index(row, defects->idColumn()).data(Qt::EditRole).toLongLong(), id);
+        }
+        QCOMPARE(defects->findRowById(999), -1);
+
+        // Rows move when one is inserted at the top: the map follows.
+        QVERIFY(defects->insertRow(0));
+        const qint64 fresh = defects->index(0, defects->idColumn()).data(Qt::EditRole).toLongLong();
+        QCOMPARE(defects->findRowById(fresh), 0);
+        QCOMPARE(defects->findRowById(ids.first()), defects->findRowById(ids.first()));
+        const int row = defects->findRowById(ids.last());
+        QCOMPARE(defects->index(row, defects->idColumn()).data(Qt::EditRole).toLongLong(), ids.last());
+        defects->revertAll();
+    }
+
+    void thumbnailToolTips_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::newRow("photo") << "photo_info";
+        QTest::newRow("plan") << "plan_info";
+    }
+
+    void thumbnailToolTips()
+    {
+        QFETCH(QString, table);
+        const bool photo = table == QLatin1String("photo_info");
+        const qint64 picture = insertImage(photo ? "image" : "plan");
+        qint64 withPicture;
+        qint64 without;
+        if (photo) {
+            const qint64 defect = insertDefect();
+            withPicture = insertPhoto(defect, picture);
+            without = insertPhoto(defect, picture + 100, 2);
+        } else {
+            withPicture = insertRow("plan_info", {{"plan_name", "EG"}, {"plan_id", picture}, {"pos", 1}});
+            without = insertRow("plan_info", {{"plan_name", "OG"}, {"plan_id", picture + 100}, {"pos", 2}});
+        }
+        selectAll();
+        const char *anyField = photo ? "caption" : "plan_name";
+        const QString tip = cell(qPrintable(table), withPicture, anyField, Qt::ToolTipRole).toString();
+        const QString prefix = QStringLiteral("<img src=\"data:image/jpg;base64,");
+        QVERIFY2(tip.startsWith(prefix), qPrintable(tip.left(60)));
+        QVERIFY(tip.endsWith(QStringLiteral("\"/>")));
+        const QByteArray encoded = tip.mid(prefix.size(), tip.size() - prefix.size() - 3).toLatin1();
+        const QImage decoded = QImage::fromData(QByteArray::fromBase64(encoded), "JPG");
+        QCOMPARE(decoded.size(), QSize(40, 30));
+        QCOMPARE(cell(qPrintable(table), without, anyField, Qt::ToolTipRole).toString(), QString());
+    }
+
+    void submitNotifiesAndReportsFailures()
+    {
+        KalSqlTableModel *defects = model("defect");
+        QSignalSpy before(defects, &KalSqlTableModel::beforeSubmit);
+        QSignalSpy after(defects, &KalSqlTableModel::afterSubmit);
+        QVERIFY(defects->submitWithNotification(false));
+        QCOMPARE(before.count(), 0);
+        QCOMPARE(after.count(), 0);
+        QVERIFY(!m_project->isModified());
+
+        QVERIFY(defects->insertRow(0));
+        QVERIFY(defects->setData(defects->index(0, defects->fieldIndex("description")), "Neu"));
+        QVERIFY(defects->submitWithNotification(true));
+        QCOMPARE(before.count(), 1);
+        QCOMPARE(after.count(), 1);
+        QVERIFY(m_project->isModified());
+
+        // description is NOT NULL: the write fails, the row stays in the model.
+        QVERIFY(defects->insertRow(1));
+        QTest::ignoreMessage(QtDebugMsg, QRegularExpression("^SQL-Error: .*NOT NULL.*\\n$"));
+        QVERIFY(!defects->submitWithNotification(true));
+        QCOMPARE(after.count(), 2);
+        QCOMPARE(defects->rowCount(), 2);
+        QCOMPARE(count("SELECT COUNT(*) FROM defect"), 1);
+        QCOMPARE(m_project->transactions().depth(), 0);
+        defects->revertAll();
+    }
+
+    void modelTesterAcceptsEditsAndRemovals()
+    {
+        for (int i = 0; i < 5; ++i)
+            insertDefect({{"number", QString::number(i)}, {"status_id", i % 3}, {"reduction", i % 2}});
+        KalSqlTableModel *defects = model("defect");
+        defects->select();
+        QAbstractItemModelTester tester(defects, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QVERIFY(defects->insertRow(2));
+        QVERIFY(defects->setData(defects->index(2, defects->fieldIndex("description")), "Neu"));
+        QVERIFY(defects->submitWithNotification());
+        QCOMPARE(defects->rowCount(), 6);
+        QVERIFY(defects->removeRows(0, 2, QModelIndex(), true));
+        QCOMPARE(defects->rowCount(), 4);
+        // Changes of the looked-up statuses repaint the status column.
+        KalSqlTableModel *statuses = model("status");
+        QVERIFY(statuses->setData(statuses->index(0, statuses->fieldIndex("status")), "Anders"));
+        QVERIFY(statuses->submitWithNotification());
+        QVERIFY(statuses->removeRows(statuses->rowCount() - 1, 1, QModelIndex(), true));
+        QCOMPARE(statuses->rowCount(), 7);
+    }
+};
+
+QTEST_MAIN(TstModels)
+#include "tst_models.moc"

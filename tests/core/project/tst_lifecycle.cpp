@@ -1,0 +1,801 @@
+#include "core/project/KalEnvironment.h"
+#include "core/project/KalFileOps.h"
+#include "core/project/KalProject.h"
+#include "core/project/KalSqlTableModel.h"
+#include "support/KalScriptedPrompt.h"
+#include "support/KalTestFiles.h"
+#include "support/KalTestSettings.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QSettings>
+#include <QSignalSpy>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+#include <QtTest>
+
+using namespace KalTestFiles;
+
+class TstLifecycle : public QObject
+{
+    Q_OBJECT
+
+private:
+    KalScriptedPrompt *m_prompt = nullptr;
+    std::unique_ptr<QTemporaryDir> m_dir;
+
+    QString path(const QString &name) const { return m_dir->filePath(name); }
+
+    static QVariantMap defect(const QString &description) { return {{QStringLiteral("description"), description}}; }
+
+    // Opens, adds a defect, saves in place, closes: one "save after a fresh opening".
+    bool openAddSave(const QString &file, const QString &description)
+    {
+        KalProject project;
+        if (!project.openProject(file))
+            return false;
+        if (project.insertDefect(defect(description)) < 0)
+            return false;
+        const int result = project.saveProject();
+        return project.closeProject() && result == KalProject::Saved;
+    }
+
+private slots:
+    void initTestCase()
+    {
+        KalTestSettings::isolate();
+        m_prompt = KalScriptedPrompt::install();
+    }
+
+    void init()
+    {
+        m_dir.reset(new QTemporaryDir);
+        m_prompt->clear();
+        QSettings().remove(QStringLiteral("File/NumberOfBackups"));
+        KalEnvironment::setVolumeInfoFunction({});
+        KalFileOps::setFaultHook({});
+    }
+
+    void newProjectLivesInTemporaryFolderUntilSaved()
+    {
+        KalProject project;
+        QSignalSpy opened(&project, &KalProject::projectOpened);
+        QVERIFY(project.newProject());
+        QCOMPARE(opened.count(), 1);
+        QVERIFY(project.isUntitled());
+        const QString wc = project.workingCopyPath();
+        QVERIFY(QFileInfo(wc).fileName().startsWith(QStringLiteral("kal_temp.")));
+        QCOMPARE(QFileInfo(wc).absolutePath(), QFileInfo(QDir::tempPath()).absoluteFilePath());
+        QCOMPARE(project.fileVersion(), QStringLiteral("0.1"));
+
+        QCOMPARE(project.saveProject(), int(KalProject::SaveFailed));
+        QCOMPARE(m_prompt->texts().last(), QStringLiteral("Dateiname fehlt."));
+        QCOMPARE(m_prompt->titles().last(), QStringLiteral("interner Fehler"));
+
+        QVERIFY(project.insertDefect(defect("erster")) > 0);
+        const QString file = path("neu.pwp");
+        QCOMPARE(project.saveProject(file), int(KalProject::Saved));
+        QVERIFY(!QFileInfo::exists(wc));
+        QCOMPARE(project.projectPath(), file);
+        QVERIFY(QFileInfo::exists(file + ".workingcopy"));
+        QVERIFY(!project.isModified());
+        QVERIFY(project.closeProject());
+        QVERIFY(!QFileInfo::exists(file + ".workingcopy"));
+        QVERIFY(!QFileInfo::exists(file + ".udf"));
+        QCOMPARE(countRows(file, "defect"), 1);
+        QCOMPARE(integrity(file), QStringLiteral("ok"));
+    }
+
+    void openMakesWorkingCopyAndUserFile()
+    {
+        const QString file = path("p.pwp");
+        QVERIFY(createProject(file, 2));
+        qputenv("USERNAME", "erika");
+        qputenv("COMPUTERNAME", "BAUBUERO");
+        KalProject project;
+        QVERIFY(project.openProject(file));
+        QVERIFY(QFileInfo::exists(file + ".workingcopy"));
+        QFile udf(file + ".udf");
+        QVERIFY(udf.open(QIODevice::ReadOnly | QIODevice::Text));
+        const QStringList lines = QString::fromUtf8(udf.readAll()).split('\n');
+        QCOMPARE(lines.size(), 6); // five lines, each ended by "\n"
+        QCOMPARE(lines.at(0), QStringLiteral("erika"));
+        QCOMPARE(lines.at(1), QStringLiteral("BAUBUERO"));
+        QVERIFY(QRegularExpression("^\\d\\d:\\d\\d$").match(lines.at(3)).hasMatch());
+        QCOMPARE(lines.at(4).toLongLong(), QCoreApplication::applicationPid());
+        QVERIFY(m_prompt->shown().isEmpty());
+        QVERIFY(project.closeProject());
+        QVERIFY(!QFileInfo::exists(file + ".udf"));
+        qunsetenv("USERNAME");
+        qunsetenv("COMPUTERNAME");
+    }
+
+    void missingFileIsReported()
+    {
+        KalProject project;
+        QVERIFY(!project.openProject(path("gibtsnicht.pwp")));
+        QCOMPARE(m_prompt->titles(), QStringList{"Dateifehler"});
+        QCOMPARE(
+            m_prompt->texts().first(),
+            QStringLiteral("Die Datei\n%1\nexistiert nicht.").arg(QDir::toNativeSeparators(path("gibtsnicht.pwp"))));
+    }
+
+    void fileVersionAtOpen_data()
+    {
+        QTest::addColumn<QString>("version");
+        QTest::addColumn<bool>("opens");
+        QTest::newRow("0.1") << "0.1" << true;
+        QTest::newRow("0.0") << "0.0" << true;
+        QTest::newRow("empty") << "" << true;
+        QTest::newRow("abc") << "abc" << true;
+        QTest::newRow("missing key") << "<none>" << true;
+        QTest::newRow("0.2") << "0.2" << false;
+        QTest::newRow("1.0") << "1.0" << false;
+    }
+
+    void fileVersionAtOpen()
+    {
+        QFETCH(QString, version);
+        QFETCH(bool, opens);
+        const QString file = path("v.pwp");
+        QVERIFY(createProject(file, 1));
+        if (version == "<none>")
+            QVERIFY(execute(file, {"DELETE FROM meta WHERE key='fileversion'"}));
+        else
+            QVERIFY(execute(file, {QStringLiteral("UPDATE meta SET value='%1' WHERE key='fileversion'").arg(version)}));
+        const QStringList before = folderState(m_dir->path());
+        KalProject project;
+        QCOMPARE(project.openProject(file), opens);
+        if (opens) {
+            QVERIFY(m_prompt->shown().isEmpty());
+            QCOMPARE(project.saveProject(), int(KalProject::Saved));
+            QCOMPARE(scalar(file, "SELECT value FROM meta WHERE key='fileversion'"), QStringLiteral("0.1"));
+        } else {
+            QCOMPARE(m_prompt->texts(), QStringList{"Die Datei kann nicht geöffnet werden, da sie mit einer neueren "
+                                                    "Programmversion erstellt wurde."});
+            QCOMPARE(folderState(m_dir->path()), before);
+        }
+    }
+
+    void backupNames_data()
+    {
+        QTest::addColumn<int>("slot");
+        QTest::addColumn<QString>("name");
+        QTest::newRow("0") << 0 << "/x/p.pwp.bak";
+        QTest::newRow("1") << 1 << "/x/p.pwp.01.bak";
+        QTest::newRow("9") << 9 << "/x/p.pwp.09.bak";
+        QTest::newRow("10") << 10 << "/x/p.pwp.10.bak";
+        QTest::newRow("11") << 11 << "/x/p.pwp.11.bak";
+    }
+
+    void backupNames()
+    {
+        QFETCH(int, slot);
+        QFETCH(QString, name);
+        QCOMPARE(KalProject::backupFileName("/x/p.pwp", slot), name);
+    }
+
+    void backupChainRotatesOncePerOpening()
+    {
+        QSettings().setValue("File/NumberOfBackups", 3);
+        const QString file = path("p.pwp");
+        QVERIFY(createProject(file, 0));
+        for (int i = 1; i <= 3; ++i)
+            QVERIFY(openAddSave(file, QStringLiteral("save %1").arg(i)));
+        // Newest backup holds the state before the last save.
+        QCOMPARE(countRows(file, "defect"), 3);
+        QCOMPARE(countRows(file + ".bak", "defect"), 2);
+        QCOMPARE(countRows(file + ".01.bak", "defect"), 1);
+        QCOMPARE(countRows(file + ".02.bak", "defect"), 0);
+        QVERIFY(!QFileInfo::exists(file + ".03.bak"));
+
+        QVERIFY(openAddSave(file, "save 4"));
+        QCOMPARE(countRows(file + ".bak", "defect"), 3);
+        QCOMPARE(countRows(file + ".01.bak", "defect"), 2);
+        QCOMPARE(countRows(file + ".02.bak", "defect"), 1); // the oldest went first
+        QVERIFY(!QFileInfo::exists(file + ".03.bak"));
+        QVERIFY(m_prompt->shown().isEmpty());
+    }
+
+    void secondSaveReplacesOnlyNewestBackup()
+    {
+        QSettings().setValue("File/NumberOfBackups", 3);
+        const QString file = path("p.pwp");
+        QVERIFY(createProject(file, 0));
+        QVERIFY(openAddSave(file, "a"));
+        KalProject project;
+        QVERIFY(project.openProject(file));
+        project.insertDefect(defect("b"));
+        QCOMPARE(project.saveProject(), int(KalProject::Saved));
+        project.insertDefect(defect("c"));
+        QCOMPARE(project.saveProject(), int(KalProject::Saved));
+        QCOMPARE(countRows(file, "defect"), 3);
+        // The first save pushed the chain, the second only replaced the newest.
+        QCOMPARE(countRows(file + ".bak", "defect"), 2);
+        QCOMPARE(countRows(file + ".01.bak", "defect"), 0);
+        QVERIFY(!QFileInfo::exists(file + ".02.bak"));
+        QVERIFY(project.closeProject());
+    }
+
+    void noBackupsWhenSwitchedOff()
+    {
+        QSettings().setValue("File/NumberOfBackups", 0);
+        const QString file = path("p.pwp");
+        QVERIFY(createProject(file, 0));
+        QVERIFY(openAddSave(file, "a"));
+        QCOMPARE(countRows(file, "defect"), 1);
+        QVERIFY(!QFileInfo::exists(file + ".bak"));
+    }
+
+    void restoreNaming_data()
+    {
+        QTest::addColumn<QStringList>("existing");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("free") << QStringList{} << "proj.ERROR.pwp";
+        QTest::newRow("first taken") << QStringList{"proj.ERROR.pwp"} << "proj.ERROR.01.pwp";
+        QStringList nine{"proj.ERROR.pwp"};
+        for (int i = 1; i <= 9; ++i)
+            nine << QStringLiteral("proj.ERROR.0%1.pwp").arg(i);
+        QTest::newRow("nine taken") << nine << "proj.ERROR.10.pwp";
+    }
+
+    void restoreNaming()
+    {
+        QFETCH(QStringList, existing);
+        QFETCH(QString, expected);
+        const QString file = path("proj.pwp");
+        const QString backup = path("proj.pwp.bak");
+        QVERIFY(createProject(file, 1));
+        QVERIFY(createProject(backup, 2));
+        for (const QString &name : existing) {
+            QFile f(path(name));
+            QVERIFY(f.open(QIODevice::WriteOnly));
+        }
+        QString damagedName, error;
+        QCOMPARE(KalProject::restoreBackup(file, backup, &damagedName, &error), int(KalProject::Restored));
+        QCOMPARE(damagedName, path(expected));
+        QCOMPARE(countRows(path(expected), "defect"), 1);
+        QCOMPARE(countRows(file, "defect"), 2);
+    }
+
+    void restoreFailures_data()
+    {
+        QTest::addColumn<QString>("project");
+        QTest::addColumn<int>("result");
+        QTest::addColumn<QString>("error");
+        QTest::newRow("empty path") << "" << 1 << "";
+        QTest::newRow("missing file") << "nicht.pwp" << 2 << "";
+        // Every "pwp" in the path goes, folders included: the renamed file
+        // would land in a folder that does not exist.
+        QTest::newRow("suffix in folder name")
+            << "pwpdaten/proj.pwp" << 3 << "Die Datei proj.pwp konnte nicht in proj.ERROR.pwp umbenannt werden.";
+        QTest::newRow("backup missing") << "proj.pwp" << 4 << "Fehler beim Kopieren der Backup-Datei fehlt.bak.";
+    }
+
+    void restoreFailures()
+    {
+        QFETCH(QString, project);
+        QFETCH(int, result);
+        QFETCH(QString, error);
+        QDir(m_dir->path()).mkpath("pwpdaten");
+        QString file;
+        if (!project.isEmpty()) {
+            file = path(project);
+            if (!project.startsWith("nicht"))
+                QVERIFY(createProject(file, 1));
+        }
+        const QByteArray before = fileHash(file);
+        QString damaged, text;
+        QCOMPARE(KalProject::restoreBackup(file, path("fehlt.bak"), &damaged, &text), result);
+        QCOMPARE(text, error);
+        if (result >= 3)
+            QCOMPARE(fileHash(file), before); // the project file is where it was
+    }
+
+    void hostileFiles_data()
+    {
+        QTest::addColumn<QByteArray>("content");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("textStart");
+        QTest::newRow("zero bytes") << QByteArray() << "Datenbankfehler"
+                                    << "Tabelle KAL fehlt";
+        QTest::newRow("random bytes") << QByteArray("\x13\x37 definitely not sqlite \xff\xfe", 28).repeated(500)
+                                      << "Beschädigte Datenbank-Datei"
+                                      << "Die interne Struktur der Mängel-Datenbank ist beschädigt.";
+        QTest::newRow("text file") << QByteArray("Mangel;Firma\n1;Maler\n") << "Beschädigte Datenbank-Datei"
+                                   << "Die interne Struktur der Mängel-Datenbank ist beschädigt.";
+    }
+
+    void hostileFiles()
+    {
+        QFETCH(QByteArray, content);
+        QFETCH(QString, title);
+        QFETCH(QString, textStart);
+        const QString file = path("feindlich.pwp");
+        {
+            QFile f(file);
+            QVERIFY(f.open(QIODevice::WriteOnly));
+            f.write(content);
+        }
+        const QStringList before = folderState(m_dir->path());
+        KalProject project;
+        QVERIFY(!project.openProject(file)); // cancelled or refused
+        QVERIFY(!m_prompt->shown().isEmpty());
+        QCOMPARE(m_prompt->shown().first().title, title);
+        QVERIFY2(m_prompt->shown().first().text.startsWith(textStart), qPrintable(m_prompt->shown().first().text));
+        QCOMPARE(folderState(m_dir->path()), before);
+        QVERIFY(!project.isOpen());
+    }
+
+    void sqliteFileWithoutProjectTable()
+    {
+        const QString file = path("fremd.pwp");
+        QVERIFY(execute(file, {"CREATE TABLE meta (key TEXT PRIMARY KEY, value TEXT NOT NULL)",
+                               "CREATE TABLE rechnung (id INTEGER PRIMARY KEY, betrag REAL)"}));
+        const QStringList before = folderState(m_dir->path());
+        KalProject project;
+        QVERIFY(!project.openProject(file));
+        QCOMPARE(m_prompt->titles(), QStringList{"Datenbankfehler"});
+        QCOMPARE(m_prompt->texts(), QStringList{"Tabelle KAL fehlt"});
+        QCOMPARE(folderState(m_dir->path()), before);
+    }
+
+    void damagedFile_data()
+    {
+        QTest::addColumn<QString>("backups"); // "none", "intact", "damaged"
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<bool>("opens");
+        QTest::addColumn<int>("defects");
+        QTest::newRow("restore newest intact backup") << "intact"
+                                                      << "Backup wiederherstellen" << true << 2;
+        QTest::newRow("cancel") << "intact"
+                                << "Abbrechen" << false << -1;
+        QTest::newRow("no backups, cancel") << "none"
+                                            << "Abbrechen" << false << -1;
+        QTest::newRow("damaged backups, cancel") << "damaged"
+                                                 << "Abbrechen" << false << -1;
+    }
+
+    void damagedFile()
+    {
+        QFETCH(QString, backups);
+        QFETCH(QString, answer);
+        QFETCH(bool, opens);
+        QFETCH(int, defects);
+        const QString file = path("kaputt.pwp");
+        QVERIFY(createProject(file, 300));
+        if (backups != "none") {
+            QVERIFY(createProject(path("kaputt.pwp.01.bak"), 2));
+            QVERIFY(createProject(path("kaputt.pwp.bak"), 1));
+        }
+        // Damage: cut off the second half of the file.
+        auto truncate = [](const QString &f) {
+            QFile file(f);
+            return file.resize(file.size() / 2);
+        };
+        QVERIFY(truncate(file));
+        if (backups == "damaged") {
+            QVERIFY(truncate(path("kaputt.pwp.bak")));
+            QVERIFY(truncate(path("kaputt.pwp.01.bak")));
+        } else if (backups == "intact") {
+            QVERIFY(truncate(path("kaputt.pwp.bak"))); // newest is damaged, the one before is not
+        }
+        QVERIFY(integrity(file) != "ok");
+
+        m_prompt->queueAnswer(answer);
+        KalProject project;
+        QCOMPARE(project.openProject(file), opens);
+        QVERIFY(!m_prompt->shown().isEmpty());
+        const auto question = m_prompt->shown().first();
+        QCOMPARE(question.title, QStringLiteral("Beschädigte Datenbank-Datei"));
+        if (backups == "intact") {
+            QVERIFY(question.text.contains("Das neueste unbeschädigte Backup stammt vom "));
+            QCOMPARE(question.buttons.first(), QStringLiteral("Backup wiederherstellen"));
+        } else if (backups == "none") {
+            QVERIFY(question.text.contains("Es existieren keine Backup-Dateien."));
+            QCOMPARE(question.buttons, (QStringList{"Beschädigte Datei öffnen", "Abbrechen"}));
+        } else {
+            QVERIFY(question.text.contains("Die Backup-Dateien sind ebenfalls beschädigt."));
+        }
+        if (opens) {
+            QCOMPARE(m_prompt->shown().at(1).text,
+                     QStringLiteral("Die Datei wurde erfolgreich wiederhergestellt und wird jetzt geöffnet.\nDie "
+                                    "beschädigte Datei wurde umbenannt in %1.")
+                         .arg(QDir::toNativeSeparators(path("kaputt.ERROR.pwp"))));
+            QCOMPARE(project.model("defect")->rowCount(), defects);
+            QVERIFY(QFileInfo::exists(path("kaputt.ERROR.pwp")));
+        } else {
+            QVERIFY(!QFileInfo::exists(file + ".workingcopy"));
+            QVERIFY(!QFileInfo::exists(path("kaputt.ERROR.pwp")));
+        }
+    }
+
+    void damagedFileOpenedOnRequest()
+    {
+        const QString file = path("kaputt.pwp");
+        QVERIFY(createProject(file, 400));
+        // Overwrite two whole pages in the middle of the defect table.
+        {
+            QFile f(file);
+            QVERIFY(f.open(QIODevice::ReadWrite));
+            const qint64 pages = f.size() / 4096;
+            QVERIFY(pages > 6);
+            f.seek((pages / 2) * 4096);
+            f.write(QByteArray(2 * 4096, '\x5a'));
+        }
+        QVERIFY(integrity(file) != "ok");
+        m_prompt->queueAnswer("Beschädigte Datei öffnen");
+        KalProject project;
+        const bool opened = project.openProject(file);
+        QCOMPARE(m_prompt->shown().first().title, QStringLiteral("Beschädigte Datenbank-Datei"));
+        QCOMPARE(m_prompt->shown().first().answer, 0);
+        // Either it opens (and the user works on at their own risk) or the
+        // next step says why not; it never crashes and leaves no working copy.
+        if (opened)
+            QVERIFY(project.closeProject());
+        else
+            QVERIFY(m_prompt->shown().size() >= 2);
+        QVERIFY(!QFileInfo::exists(file + ".workingcopy"));
+    }
+
+    void openRefusedWithoutSpace()
+    {
+        const QString file = path("p.pwp");
+        QVERIFY(createProject(file, 1));
+        const qint64 size = QFileInfo(file).size();
+        KalEnvironment::setVolumeInfoFunction([](const QString &) {
+            return KalEnvironment::VolumeInfo{true, true, 1000, "/daten"};
+        });
+        const QStringList before = folderState(m_dir->path());
+        KalProject project;
+        QVERIFY(!project.openProject(file));
+        QCOMPARE(m_prompt->titles(), QStringList{"Speicherplatz nicht ausreichend"});
+        QCOMPARE(m_prompt->texts().first(),
+                 QStringLiteral("Auf dem Laufwerk /daten steht nicht genügend Speicherplatz zur Verfügung, um das "
+                                "Projekt zu öffnen.\nGeben Sie mindestens %1 MB Speicherplatz frei und versuchen Sie "
+                                "es erneut.")
+                     .arg((size - 1000) / 1000000));
+        QCOMPARE(folderState(m_dir->path()), before);
+    }
+
+    void openWarnsWhenSpaceIsTight()
+    {
+        const QString file = path("p.pwp");
+        QVERIFY(createProject(file, 1));
+        const qint64 size = QFileInfo(file).size();
+        KalEnvironment::setVolumeInfoFunction([size](const QString &) {
+            return KalEnvironment::VolumeInfo{true, true, 2 * size, "D:"};
+        });
+        KalProject project;
+        QVERIFY(project.openProject(file));
+        QCOMPARE(m_prompt->titles(), QStringList{"Speicherplatz"});
+        QVERIFY(m_prompt->texts().first().startsWith("Sie sollten auf dem Laufwerk D: Speicherplatz freigeben"));
+    }
+
+    void saveRefusedWithoutSpaceKeepsEverything()
+    {
+        const QString file = path("p.pwp");
+        QVERIFY(createProject(file, 1));
+        KalProject project;
+        QVERIFY(project.openProject(file));
+        QVERIFY(project.insertDefect(defect("ungespeichert")) > 0);
+        const QByteArray before = fileHash(file);
+        KalEnvironment::setVolumeInfoFunction([](const QString &) {
+            return KalEnvironment::VolumeInfo{true, true, 0, "/voll"};
+        });
+        m_prompt->clear();
+        QCOMPARE(project.saveProject(), int(KalProject::SaveFailed));
+        QCOMPARE(m_prompt->titles(), QStringList{"Speicherplatz nicht ausreichend"});
+        QVERIFY(m_prompt->texts().first().startsWith("Auf dem Ziellaufwerk /voll steht nicht genügend Speicherplatz "
+                                                     "zur Verfügung, um das Projekt zu speichern."));
+        QCOMPARE(fileHash(file), before);
+        QVERIFY(!QFileInfo::exists(file + ".bak"));
+        // Still open and usable, with the unsaved defect.
+        QVERIFY(project.isOpen());
+        QVERIFY(project.insertDefect(defect("noch einer")) > 0);
+        KalEnvironment::setVolumeInfoFunction({});
+        QCOMPARE(project.saveProject(), int(KalProject::Saved));
+        QCOMPARE(countRows(file, "defect"), 3);
+    }
+
+    void saveAsRefusedWithoutSpaceForTwoCopies()
+    {
+        const QString file = path("p.pwp");
+        QVERIFY(createProject(file, 1));
+        KalProject project;
+        QVERIFY(project.openProject(file));
+        const qint64 wc = QFileInfo(project.workingCopyPath()).size();
+        KalEnvironment::setVolumeInfoFunction([wc](const QString &) {
+            return KalEnvironment::VolumeInfo{true, true, 2 * wc - 1, "/usb"};
+        });
+        QCOMPARE(project.saveProject(path("kopie.pwp")), int(KalProject::SaveFailed));
+        QVERIFY(!QFileInfo::exists(path("kopie.pwp")));
+        QVERIFY(!QFileInfo::exists(path("kopie.pwp.workingcopy")));
+        QCOMPARE(project.projectPath(), file);
+        QVERIFY(project.isOpen());
+    }
+
+    void saveFailuresLeaveProjectFileUnchanged_data()
+    {
+        QTest::addColumn<QString>("operation");
+        QTest::newRow("writing the new file") << "snapshot";
+        QTest::newRow("syncing it") << "sync";
+        QTest::newRow("replacing the project file") << "replace";
+    }
+
+    void saveFailuresLeaveProjectFileUnchanged()
+    {
+        QFETCH(QString, operation);
+        const QString file = path("p.pwp");
+        QVERIFY(createProject(file, 1));
+        KalProject project;
+        QVERIFY(project.openProject(file));
+        QVERIFY(project.insertDefect(defect("neu")) > 0);
+        const QByteArray before = fileHash(file);
+        KalFileOps::setFaultHook([operation](const QString &op, const QString &) { return op == operation; });
+        QCOMPARE(project.saveProject(), int(KalProject::SaveFailed));
+        KalFileOps::setFaultHook({});
+        QCOMPARE(m_prompt->titles().last(), QStringLiteral("Dateifehler"));
+        QCOMPARE(fileHash(file), before);
+        QCOMPARE(integrity(file), QStringLiteral("ok"));
+        QVERIFY(project.isOpen());
+        QCOMPARE(project.model("defect")->rowCount(), 2);
+        const QStringList leftovers = QDir(m_dir->path()).entryList({"*.saving.*"}, QDir::Files | QDir::Hidden);
+        QVERIFY2(leftovers.isEmpty(), qPrintable(leftovers.join(',')));
+        QCOMPARE(project.saveProject(), int(KalProject::Saved));
+        QCOMPARE(countRows(file, "defect"), 2);
+    }
+
+    void writeProtectedFile()
+    {
+        const QString file = path("nurlesen.pwp");
+        QVERIFY(createProject(file, 1));
+        QVERIFY(QFile::setPermissions(file, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
+        KalProject project;
+        QVERIFY(project.openProject(file));
+        QVERIFY(project.isWriteProtected());
+        QCOMPARE(m_prompt->titles(), QStringList{"Datei-Warnung"});
+        const QByteArray before = fileHash(file);
+        QCOMPARE(project.saveProject(), int(KalProject::NotSaved));
+        QCOMPARE(m_prompt->titles().last(), QStringLiteral("Speicher-Fehler"));
+        QCOMPARE(fileHash(file), before);
+        const QString copy = path("beschreibbar.pwp");
+        QCOMPARE(project.saveProject(copy), int(KalProject::Saved));
+        QVERIFY(!project.isWriteProtected());
+        QVERIFY(project.closeProject());
+        QVERIFY(!QFileInfo::exists(file + ".workingcopy"));
+        QCOMPARE(countRows(copy, "defect"), 1);
+        QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner);
+    }
+
+    void saveAsMovesWorkingCopyAndUserFile()
+    {
+        const QString file = path("alt.pwp");
+        QVERIFY(createProject(file, 1));
+        KalProject project;
+        QVERIFY(project.openProject(file));
+        QVERIFY(project.insertDefect(defect("nur im neuen")) > 0);
+        const QString target = path("neu.pwp");
+        QCOMPARE(project.saveProject(target), int(KalProject::Saved));
+        QVERIFY(!QFileInfo::exists(file + ".workingcopy"));
+        QVERIFY(!QFileInfo::exists(file + ".udf"));
+        QVERIFY(QFileInfo::exists(target + ".workingcopy"));
+        QVERIFY(QFileInfo::exists(target + ".udf"));
+        QCOMPARE(countRows(file, "defect"), 1);
+        QCOMPARE(countRows(target, "defect"), 2);
+        QVERIFY(!QFileInfo::exists(target + ".bak")); // save as makes no backups
+        // Edits continue in the new project.
+        QVERIFY(project.insertDefect(defect("danach")) > 0);
+        QCOMPARE(project.saveProject(), int(KalProject::Saved));
+        QCOMPARE(countRows(target, "defect"), 3);
+        QVERIFY(project.closeProject());
+    }
+
+    void leftoverWorkingCopy_data()
+    {
+        QTest::addColumn<QString>("udfUser");
+        QTest::addColumn<QString>("udfComputer");
+        QTest::addColumn<bool>("withUdf");
+        QTest::addColumn<bool>("recovered");
+        QTest::newRow("same user, same computer") << "erika"
+                                                  << "BAUBUERO" << true << true;
+        QTest::newRow("other user") << "max"
+                                    << "BAUBUERO" << true << false;
+        QTest::newRow("same user, other computer") << "erika"
+                                                   << "LAPTOP" << true << false;
+        QTest::newRow("no user data file") << ""
+                                           << "" << false << false;
+    }
+
+    void leftoverWorkingCopy()
+    {
+        QFETCH(QString, udfUser);
+        QFETCH(QString, udfComputer);
+        QFETCH(bool, withUdf);
+        QFETCH(bool, recovered);
+        qputenv("USERNAME", "erika");
+        qputenv("COMPUTERNAME", "BAUBUERO");
+        const QString file = path("p.pwp");
+        QVERIFY(createProject(file, 1));
+        // What a crashed run leaves: a working copy with unsaved rows.
+        QVERIFY(QFile::copy(file, file + ".workingcopy"));
+        QVERIFY(execute(file + ".workingcopy", {"INSERT INTO defect (id, description) VALUES (77, 'ungesichert')"}));
+        if (withUdf) {
+            QFile udf(file + ".udf");
+            QVERIFY(udf.open(QIODevice::WriteOnly));
+            udf.write(QStringLiteral("%1\n%2\n01.02.26\n10:15\n4711\n").arg(udfUser, udfComputer).toUtf8());
+        }
+        KalProject project;
+        QVERIFY(project.openProject(file));
+        QCOMPARE(project.model("defect")->rowCount(), recovered ? 2 : 1);
+        if (recovered) {
+            QCOMPARE(m_prompt->titles(), QStringList{"Datei öffnen"});
+            QVERIFY(m_prompt->texts().first().startsWith(
+                "Die letzte Bearbeitung der Mängel-Datei wurde nicht ordnungsgemäß abgeschlossen."));
+        } else {
+            QVERIFY(m_prompt->shown().isEmpty());
+        }
+        QVERIFY(project.closeProject());
+        qunsetenv("USERNAME");
+        qunsetenv("COMPUTERNAME");
+    }
+
+    void idsContinueFromForeignFile()
+    {
+        // A file written by another tool: rows with ids up to 10, counter at 500.
+        const QString file = path("fremd.pwp");
+        QVERIFY(createProject(file, 0));
+        QStringList statements;
+        for (int i = 1; i <= 10; ++i)
+            statements << QStringLiteral("INSERT INTO defect (id, description) VALUES (%1, 'alt %1')").arg(i);
+        statements << "INSERT INTO id_generator (id_table, id_counter) VALUES ('defect', 500)";
+        QVERIFY(execute(file, statements));
+        KalProject project;
+        QVERIFY(project.openProject(file));
+        QCOMPARE(project.insertDefect(defect("neu")), qint64(501));
+        QCOMPARE(project.nextId("company"), qint64(1));
+        QCOMPARE(project.saveProject(), int(KalProject::Saved));
+        QVERIFY(project.closeProject());
+        QCOMPARE(scalar(file, "SELECT id_counter FROM id_generator WHERE id_table='defect'"), QStringLiteral("501"));
+    }
+
+    void countedTransactions()
+    {
+        KalProject project;
+        QVERIFY(project.newProject());
+        QVERIFY(project.beginTransaction());
+        QVERIFY(project.beginTransaction());
+        QSqlQuery(project.database()).exec("INSERT INTO addresslist (id, name) VALUES (1, 'innen')");
+        QVERIFY(project.commitTransaction()); // inner: nothing committed yet
+        QCOMPARE(project.transactions().depth(), 1);
+        QVERIFY(project.rollbackTransaction());
+        QSqlQuery q(project.database());
+        QVERIFY(q.exec("SELECT COUNT(*) FROM addresslist") && q.next());
+        QCOMPARE(q.value(0).toInt(), 0);
+        QVERIFY(project.closeProject());
+    }
+
+    void sizeTexts_data()
+    {
+        QTest::addColumn<qint64>("bytes");
+        QTest::addColumn<QString>("text");
+        QTest::newRow("empty") << qint64(0) << "0 KB";
+        QTest::newRow("just below a MB") << qint64(1023999) << "999 KB";
+        QTest::newRow("one MB") << qint64(1024000) << "1 MB";
+        QTest::newRow("a binary MB is still 1") << qint64(1048576) << "1 MB";
+        QTest::newRow("large") << qint64(1024000) * 1500 + 7 << "1500 MB";
+    }
+
+    void sizeTexts()
+    {
+        QFETCH(qint64, bytes);
+        QFETCH(QString, text);
+        QCOMPARE(KalProject::sizeText(bytes), text);
+    }
+
+    void vacuumShrinksAndSaves()
+    {
+        const QString file = path("gross.pwp");
+        {
+            KalProject project;
+            QVERIFY(project.newProject());
+            QVERIFY(project.beginTransaction());
+            QSqlQuery q(project.database());
+            q.prepare("INSERT INTO filter_state (id, key, value) VALUES (:id, 'ballast', :v)");
+            for (int i = 1; i <= 60; ++i) {
+                q.bindValue(":id", i);
+                q.bindValue(":v", QString(50000, QChar('x' + i % 3)));
+                QVERIFY(q.exec());
+            }
+            QVERIFY(project.commitTransaction());
+            QCOMPARE(project.saveProject(file), int(KalProject::Saved));
+            QVERIFY(QSqlQuery(project.database()).exec("DELETE FROM filter_state"));
+            QCOMPARE(project.saveProject(), int(KalProject::Saved));
+            QVERIFY(project.closeProject());
+        }
+        const qint64 before = QFileInfo(file).size();
+        KalProject project;
+        QVERIFY(project.openProject(file));
+        m_prompt->clear();
+        QVERIFY(project.vacuumDatabase(false));
+        QVERIFY(project.isOpen());
+        QCOMPARE(m_prompt->titles(), (QStringList{"Datenbank bereinigen", "Datenbank bereinigen"}));
+        QVERIFY(m_prompt->texts().first().startsWith("Die Datenbank wird jetzt bereinigt."));
+        QCOMPARE(
+            m_prompt->texts().last(),
+            QStringLiteral("Die Datenbank wurde erfolgreich bereinigt.\nDie Dateigröße wurde von %1 auf %2 reduziert.")
+                .arg(KalProject::sizeText(before), KalProject::sizeText(QFileInfo(file).size())));
+        QVERIFY(QFileInfo(file).size() < before);
+        QVERIFY(project.closeProject());
+
+        // Nothing left to gain: the short message, and silent mode skips the notice.
+        QVERIFY(project.openProject(file));
+        m_prompt->clear();
+        QVERIFY(project.vacuumDatabase(true));
+        QCOMPARE(m_prompt->texts(), QStringList{"Die Datenbank wurde erfolgreich bereinigt.\n"});
+    }
+
+    void fullDiskDuringSave()
+    {
+        if (QFileInfo("/proc/self").ownerId() != 0 || qgetenv("USER") == "nobody")
+            QSKIP("needs root to mount a small file system");
+        const QString mountPoint = path("klein");
+        QDir().mkpath(mountPoint);
+        if (QProcess::execute("mount", {"-t", "tmpfs", "-o", "size=600k", "tmpfs", mountPoint}) != 0)
+            QSKIP("cannot mount a small file system here");
+        const QString file = mountPoint + "/p.pwp";
+        bool created = createProject(file, 1);
+        if (created) {
+            KalProject project;
+            // The volume reports plenty of room: the write itself must fail.
+            KalEnvironment::setVolumeInfoFunction([](const QString &) {
+                return KalEnvironment::VolumeInfo{true, true, qint64(1) << 40, "tmpfs"};
+            });
+            QVERIFY(project.openProject(file));
+            QVERIFY(project.beginTransaction());
+            QSqlQuery q(project.database());
+            q.prepare("INSERT INTO filter_state (id, key, value) VALUES (:id, 'ballast', :v)");
+            for (int i = 1; i <= 4; ++i) {
+                q.bindValue(":id", i);
+                q.bindValue(":v", QString(60000, QChar('a' + i)));
+                q.exec();
+            }
+            project.commitTransaction();
+            const QByteArray before = fileHash(file);
+            QCOMPARE(project.saveProject(), int(KalProject::SaveFailed));
+            QCOMPARE(fileHash(file), before);
+            QCOMPARE(integrity(file), QStringLiteral("ok"));
+            QVERIFY(project.isOpen());
+            KalEnvironment::setVolumeInfoFunction({});
+            project.closeProject();
+        }
+        QProcess::execute("umount", {mountPoint});
+        QVERIFY(created);
+    }
+
+    void folderRefusingWrites()
+    {
+        const QString folder = path("gesperrt");
+        QDir().mkpath(folder);
+        const QString file = folder + "/p.pwp";
+        QVERIFY(createProject(file, 1));
+        KalProject project;
+        QVERIFY(project.openProject(file));
+        QVERIFY(project.insertDefect(defect("neu")) > 0);
+        if (QProcess::execute("chattr", {"+i", folder}) != 0)
+            QSKIP("cannot make the folder immutable here");
+        const QByteArray before = fileHash(file);
+        const int result = project.saveProject();
+        QProcess::execute("chattr", {"-i", folder});
+        QCOMPARE(result, int(KalProject::SaveFailed));
+        QCOMPARE(fileHash(file), before);
+        QVERIFY(project.isOpen());
+        QCOMPARE(project.saveProject(), int(KalProject::Saved));
+        QCOMPARE(countRows(file, "defect"), 2);
+    }
+};
+
+QTEST_GUILESS_MAIN(TstLifecycle)
+#include "tst_lifecycle.moc"

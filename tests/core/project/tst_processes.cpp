@@ -1,0 +1,253 @@
+// Locking and crash safety with real second processes: a holder program
+// opens the project and is killed with SIGKILL at random moments.
+#include "core/project/KalProject.h"
+#include "core/project/KalSqlTableModel.h"
+#include "support/KalScriptedPrompt.h"
+#include "support/KalTestFiles.h"
+#include "support/KalTestSettings.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QRandomGenerator>
+#include <QSettings>
+#include <QTemporaryDir>
+#include <QtTest>
+#include <memory>
+
+using namespace KalTestFiles;
+
+namespace {
+// The holder program with its stdout read line by line.
+class Holder
+{
+public:
+    Holder(const QString &mode, const QString &file, const QString &user, const QString &computer, int count = -1)
+    {
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("USERNAME", user);
+        env.insert("COMPUTERNAME", computer);
+        env.insert("QT_QPA_PLATFORM", "offscreen");
+        m_process.setProcessEnvironment(env);
+        m_process.setProcessChannelMode(QProcess::SeparateChannels);
+        QStringList args{mode, file};
+        if (count > 0)
+            args << QString::number(count);
+        m_process.start(KalTestSettings::testBinDir() + "/kal_test_holder", args);
+    }
+
+    ~Holder() { kill(); }
+
+    // Waits for a line starting with `what`; returns its number or -1.
+    qint64 waitFor(const QString &what, int timeoutMs = 20000)
+    {
+        QElapsedTimer timer;
+        timer.start();
+        while (timer.elapsed() < timeoutMs) {
+            while (m_process.canReadLine()) {
+                const QString line = QString::fromUtf8(m_process.readLine()).trimmed();
+                record(line);
+                if (line.startsWith(what + ' '))
+                    return line.mid(what.size() + 1).toLongLong();
+            }
+            if (m_process.state() == QProcess::NotRunning && !m_process.canReadLine())
+                return -1;
+            m_process.waitForReadyRead(50);
+        }
+        return -1;
+    }
+
+    void kill()
+    {
+        if (m_process.state() != QProcess::NotRunning) {
+            m_process.kill(); // SIGKILL: no cleanup of any kind
+            m_process.waitForFinished(5000);
+        }
+        while (m_process.canReadLine())
+            record(QString::fromUtf8(m_process.readLine()).trimmed());
+        record(QString::fromUtf8(m_process.readAll()).trimmed());
+    }
+
+    qint64 last(const QString &what) const { return m_last.value(what, 0); }
+    QString errors() { return QString::fromUtf8(m_process.readAllStandardError()); }
+
+private:
+    void record(const QString &line)
+    {
+        const int space = line.indexOf(' ');
+        if (space > 0)
+            m_last.insert(line.left(space), line.mid(space + 1).toLongLong());
+    }
+
+    QProcess m_process;
+    QHash<QString, qint64> m_last;
+};
+} // namespace
+
+class TstProcesses : public QObject
+{
+    Q_OBJECT
+
+private:
+    KalScriptedPrompt *m_prompt = nullptr;
+    std::unique_ptr<QTemporaryDir> m_dir;
+
+private slots:
+    void initTestCase()
+    {
+        KalTestSettings::isolate();
+        m_prompt = KalScriptedPrompt::install();
+        QVERIFY2(QFileInfo::exists(KalTestSettings::testBinDir() + "/kal_test_holder"), "holder program missing");
+    }
+
+    void init()
+    {
+        m_dir.reset(new QTemporaryDir);
+        m_prompt->clear();
+        qputenv("USERNAME", "erika");
+        qputenv("COMPUTERNAME", "BAUBUERO");
+    }
+
+    void openWhileAnotherProcessHoldsIt()
+    {
+        const QString file = m_dir->filePath("belegt.pwp");
+        QVERIFY(createProject(file, 3));
+        Holder holder("hold", file, "alice", "PC-17");
+        QVERIFY(holder.waitFor("ready") >= 0);
+        QFile udf(file + ".udf");
+        QVERIFY(udf.open(QIODevice::ReadOnly | QIODevice::Text));
+        const QStringList lines = QString::fromUtf8(udf.readAll()).split('\n');
+        udf.close();
+        const QStringList before = folderState(m_dir->path());
+
+        KalProject project;
+        QVERIFY(!project.openProject(file));
+        QCOMPARE(m_prompt->titles(), QStringList{"Datenbank in Bearbeitung"});
+        QCOMPARE(m_prompt->texts().first(),
+                 QStringLiteral("Die Datei konnte nicht geöffnet werden, da sie in Bearbeitung ist von\nUser: "
+                                "alice\nComputer: PC-17\nseit dem %1 %2 Uhr.")
+                     .arg(lines.at(2), lines.at(3)));
+        QCOMPARE(folderState(m_dir->path()), before);
+        QVERIFY(!project.isOpen());
+    }
+
+    void lockMessageWithoutUserFile()
+    {
+        const QString file = m_dir->filePath("belegt.pwp");
+        QVERIFY(createProject(file, 1));
+        Holder holder("hold", file, "alice", "PC-17");
+        QVERIFY(holder.waitFor("ready") >= 0);
+        QVERIFY(QFile::remove(file + ".udf"));
+        KalProject project;
+        QVERIFY(!project.openProject(file));
+        QCOMPARE(m_prompt->texts(), QStringList{"Die Datei konnte nicht geöffnet werden, da sie in Bearbeitung ist."});
+    }
+
+    void crashRecovery_data()
+    {
+        QTest::addColumn<QString>("user");
+        QTest::addColumn<QString>("computer");
+        QTest::addColumn<bool>("recovered");
+        QTest::newRow("same user, same computer") << "erika"
+                                                  << "BAUBUERO" << true;
+        QTest::newRow("other user") << "max"
+                                    << "BAUBUERO" << false;
+        QTest::newRow("other computer") << "erika"
+                                        << "LAPTOP" << false;
+    }
+
+    void crashRecovery()
+    {
+        QFETCH(QString, user);
+        QFETCH(QString, computer);
+        QFETCH(bool, recovered);
+        const QString file = m_dir->filePath("absturz.pwp");
+        QVERIFY(createProject(file, 2));
+        {
+            Holder holder("edit", file, user, computer, 3);
+            QCOMPARE(holder.waitFor("committed"), qint64(1));
+            QVERIFY(holder.waitFor("ready") >= 0);
+            holder.kill();
+        }
+        QVERIFY(QFileInfo::exists(file + ".workingcopy"));
+        KalProject project;
+        QVERIFY(project.openProject(file));
+        QCOMPARE(project.model("defect")->rowCount(), recovered ? 5 : 2);
+        if (recovered) {
+            QCOMPARE(m_prompt->titles(), QStringList{"Datei öffnen"});
+        } else {
+            QVERIFY(m_prompt->shown().isEmpty());
+        }
+        QVERIFY(project.closeProject());
+        QCOMPARE(countRows(file, "defect"), 2); // nothing reached the file without saving
+    }
+
+    void killedDuringSaves()
+    {
+        const int kills = qEnvironmentVariableIntValue("PELLWICK_SOAK_KILLS") > 0
+                              ? qEnvironmentVariableIntValue("PELLWICK_SOAK_KILLS")
+                              : 30;
+        const QString file = m_dir->filePath("dauerlauf.pwp");
+        QVERIFY(createProject(file, 5));
+        qint64 leftoverCommitted = -1; // committed rows the killed run left in its working copy
+        auto *random = QRandomGenerator::global();
+        for (int round = 0; round < kills; ++round) {
+            const int before = countRows(file, "defect");
+            Holder holder("saveloop", file, "erika", "BAUBUERO");
+            const qint64 start = holder.waitFor("opened");
+            QVERIFY2(start >= 0, qPrintable(holder.errors()));
+            // Every committed edit of the killed run is there again.
+            if (leftoverCommitted >= 0)
+                QVERIFY2(start >= leftoverCommitted,
+                         qPrintable(QStringLiteral("%1 < %2").arg(start).arg(leftoverCommitted)));
+            QThread::msleep(random->bounded(5, 400));
+            holder.kill();
+            const qint64 saved = holder.last("saved");
+            const qint64 committed = holder.last("committed");
+            leftoverCommitted = start + committed;
+
+            QVERIFY2(QFileInfo::exists(file), qPrintable(QStringLiteral("round %1").arg(round)));
+            QCOMPARE(integrity(file), QStringLiteral("ok"));
+            const int now = countRows(file, "defect");
+            if (saved == 0)
+                QVERIFY2(now == before || now == start + 1,
+                         qPrintable(QStringLiteral("round %1: %2 rows, before %3").arg(round).arg(now).arg(before)));
+            else
+                QVERIFY2(
+                    now == start + saved || now == start + saved + 1,
+                    qPrintable(QStringLiteral("round %1: %2 rows, saved %3").arg(round).arg(now).arg(start + saved)));
+        }
+        // The backups are intact too.
+        for (int slot = 0; slot < 5; ++slot) {
+            const QString backup = KalProject::backupFileName(file, slot);
+            if (QFileInfo::exists(backup))
+                QCOMPARE(integrity(backup), QStringLiteral("ok"));
+        }
+        // And the last state opens normally.
+        KalProject project;
+        QVERIFY(project.openProject(file));
+        QVERIFY(project.model("defect")->rowCount() >= leftoverCommitted);
+        QVERIFY(project.closeProject());
+        QVERIFY(QDir(m_dir->path()).entryList({"*.saving.*"}, QDir::Files).size() <= 1);
+    }
+
+    void neverGetsInWhileOtherSaves()
+    {
+        const QString file = m_dir->filePath("umkaempft.pwp");
+        QVERIFY(createProject(file, 1));
+        Holder holder("saveloop", file, "alice", "PC-17");
+        QVERIFY(holder.waitFor("saved") >= 1);
+        for (int attempt = 0; attempt < 25; ++attempt) {
+            m_prompt->clear();
+            KalProject project;
+            QVERIFY2(!project.openProject(file), qPrintable(QStringLiteral("attempt %1 got in").arg(attempt)));
+            QCOMPARE(m_prompt->titles(), QStringList{"Datenbank in Bearbeitung"});
+            QThread::msleep(QRandomGenerator::global()->bounded(0, 40));
+        }
+        QVERIFY(holder.waitFor("saved") > 1); // it kept saving all the while
+    }
+};
+
+QTEST_GUILESS_MAIN(TstProcesses)
+#include "tst_processes.moc"

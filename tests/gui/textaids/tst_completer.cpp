@@ -1,0 +1,433 @@
+#include "TextAidsTests.h"
+#include "core/textaids/KalCompleterModel.h"
+#include "core/textaids/KalCompleterStringListModel.h"
+#include "gui/textaids/KalCompleter.h"
+#include "gui/textaids/KalCompleterDialog.h"
+#include "gui/textaids/KalCompleterLineEdit.h"
+#include "gui/textaids/KalCompleterTextEdit.h"
+#include "gui/textaids/KalFieldButton.h"
+#include "support/KalScriptedPrompt.h"
+
+#include <QAbstractItemView>
+#include <QListView>
+#include <QPushButton>
+#include <QSettings>
+#include <QTableView>
+#include <QVBoxLayout>
+#include <QtTest>
+
+namespace {
+KalScriptedPrompt *prompt()
+{
+    return static_cast<KalScriptedPrompt *>(KalPrompt::instance());
+}
+
+QStringList storedValues(const QString &group)
+{
+    QSettings settings;
+    settings.beginGroup(group);
+    QStringList values;
+    const int size = settings.beginReadArray(QStringLiteral("Values"));
+    for (int i = 0; i < size; ++i) {
+        settings.setArrayIndex(i);
+        values << settings.value(QStringLiteral("Centry")).toString();
+    }
+    settings.endArray();
+    return values;
+}
+
+void storeValues(const QString &group, const QStringList &values)
+{
+    QSettings settings;
+    settings.beginGroup(group);
+    settings.beginWriteArray(QStringLiteral("Values"), values.size());
+    for (int i = 0; i < values.size(); ++i) {
+        settings.setArrayIndex(i);
+        settings.setValue(QStringLiteral("Centry"), values.at(i));
+    }
+    settings.endArray();
+}
+
+const QStringList RoomDefaults = {QStringLiteral("Büro"), QStringLiteral("Küche"),       QStringLiteral("WC"),
+                                  QStringLiteral("Flur"), QStringLiteral("Treppenhaus"), QStringLiteral("Zimmer")};
+} // namespace
+
+class TestCompleter : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        QSettings().clear();
+        QSettings().setValue(QStringLiteral("Language"), 42);
+        prompt()->clear();
+        m_window.reset(new QWidget);
+        auto *layout = new QVBoxLayout(m_window.get());
+        m_edit = new KalCompleterLineEdit(QStringLiteral("defect"), QStringLiteral("roomname"), m_window.get());
+        m_other = new QLineEdit(m_window.get());
+        layout->addWidget(m_edit);
+        layout->addWidget(m_other);
+        m_window->show();
+        QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+        m_edit->setFocus();
+    }
+
+    void cleanup() { m_window.reset(); }
+
+    void typing_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<bool>("popupVisible");
+        QTest::addColumn<QString>("firstOffer");
+
+        QTest::newRow("prefix offers") << "Zi" << true << "Zimmer";
+        QTest::newRow("case-insensitive") << "fl" << true << "Flur";
+        QTest::newRow("complete word hides") << "Zimmer" << false << "";
+        QTest::newRow("comma ends the word") << "Flur," << false << "";
+        QTest::newRow("dash ends the word") << "WC-" << false << "";
+        QTest::newRow("nothing matches") << "Keller" << false << "";
+        QTest::newRow("whole text is the prefix") << "Treppenh" << true << "Treppenhaus";
+    }
+
+    void typing()
+    {
+        QFETCH(QString, typed);
+        QFETCH(bool, popupVisible);
+        QFETCH(QString, firstOffer);
+
+        QTest::keyClicks(m_edit, typed);
+        QCOMPARE(m_edit->text(), typed);
+        KalCompleter *completer = m_edit->kalCompleter();
+        QCOMPARE(completer->popup()->isVisible(), popupVisible);
+        if (popupVisible) {
+            QCOMPARE(completer->completionPrefix(), typed);
+            QCOMPARE(completer->popup()->currentIndex().data().toString(), firstOffer);
+        }
+    }
+
+    void backspaceReopensAfterExactMatch()
+    {
+        QTest::keyClicks(m_edit, QStringLiteral("Zimmer"));
+        QVERIFY(!m_edit->kalCompleter()->popup()->isVisible());
+        QTest::keyClick(m_edit, Qt::Key_Backspace);
+        QCOMPARE(m_edit->text(), QStringLiteral("Zimme"));
+        QVERIFY(m_edit->kalCompleter()->popup()->isVisible());
+        // Arrow keys produce no text: the popup closes.
+        QTest::keyClick(m_edit, Qt::Key_Left);
+        QVERIFY(!m_edit->kalCompleter()->popup()->isVisible());
+    }
+
+    void ctrlEForcesPopup()
+    {
+        QTest::keyClick(m_edit, Qt::Key_E, Qt::ControlModifier);
+        KalCompleter *completer = m_edit->kalCompleter();
+        QVERIFY(completer->popup()->isVisible());
+        QCOMPARE(completer->completionCount(), RoomDefaults.size());
+        QCOMPARE(m_edit->text(), QString()); // the shortcut is not typed
+
+        completer->popup()->hide();
+        QTest::keyClicks(m_edit, QStringLiteral("Flur,"));
+        QVERIFY(!completer->popup()->isVisible());
+        m_edit->setText(QStringLiteral("Fl"));
+        QTest::keyClick(m_edit, Qt::Key_E, Qt::ControlModifier);
+        QVERIFY(completer->popup()->isVisible());
+        QCOMPARE(completer->completionCount(), 1);
+    }
+
+    void popupKeysChooseValue()
+    {
+        QTest::keyClicks(m_edit, QStringLiteral("Tr"));
+        KalCompleter *completer = m_edit->kalCompleter();
+        QVERIFY(completer->popup()->isVisible());
+        // Return while the popup is open belongs to the popup, which chooses.
+        QTest::keyClick(completer->popup(), Qt::Key_Return);
+        QCOMPARE(m_edit->text(), QStringLiteral("Treppenhaus"));
+        QVERIFY(!completer->popup()->isVisible());
+    }
+
+    void disabledCompleterNeverPopsUp()
+    {
+        m_window.reset();
+        QSettings().remove(QStringLiteral("Completer_42"));
+        QSettings().setValue(QStringLiteral("Completer_42/defect/roomname/Enabled"), false);
+        QWidget window;
+        auto *edit = new KalCompleterLineEdit(QStringLiteral("defect"), QStringLiteral("roomname"), &window);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        edit->setFocus();
+        QTest::keyClicks(edit, QStringLiteral("Zi"));
+        QVERIFY(!edit->kalCompleter()->popup()->isVisible());
+        QTest::keyClick(edit, Qt::Key_E, Qt::ControlModifier);
+        QVERIFY(!edit->kalCompleter()->popup()->isVisible());
+        // A disabled field gets no factory list and collects nothing.
+        emit edit->editingFinished();
+        QVERIFY(!QSettings().contains(QStringLiteral("Completer_42/defect/roomname/Values/size")));
+        QVERIFY(edit->kalCompleter()->values().isEmpty());
+    }
+
+    void settingsLayoutAndAppending()
+    {
+        const QString group = QStringLiteral("Completer_42/defect/roomname");
+        QCOMPARE(storedValues(group), RoomDefaults);
+        QSettings settings;
+        QCOMPARE(settings.value(group + QStringLiteral("/Enabled"), false).toBool(), true);
+
+        m_edit->setText(QStringLiteral("  Abstell   raum "));
+        emit m_edit->editingFinished();
+        QCOMPARE(storedValues(group), RoomDefaults + QStringList{QStringLiteral("Abstell raum")});
+
+        // The same text again is not stored twice.
+        m_edit->setText(QStringLiteral("Abstell raum"));
+        emit m_edit->editingFinished();
+        QVERIFY(!m_edit->kalCompleter()->appendEntry(QStringLiteral("Flur")));
+        QCOMPARE(storedValues(group).size(), RoomDefaults.size() + 1);
+
+        // A second field of the same column sees the new value at once.
+        KalCompleterLineEdit second(QStringLiteral("defect"), QStringLiteral("roomname"));
+        QVERIFY(m_edit->kalCompleter()->appendEntry(QStringLiteral("Keller")));
+        QVERIFY(second.kalCompleter()->values().contains(QStringLiteral("Keller")));
+    }
+
+    void defaultLists_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<QString>("column");
+        QTest::addColumn<int>("kind");
+        QTest::addColumn<int>("columnNumber");
+        QTest::addColumn<QStringList>("expected");
+
+        QTest::newRow("type") << "defect"
+                              << "type" << 2 << 4
+                              << QStringList{"Mangel vor Abnahme (§ 4 Nr. 7 VOB/B)",
+                                             "Gewährleistungsmangel (§ 13 Abs. 5 Nr. 1 VOB/B)", "Mangelfolgeschaden",
+                                             "Mangel im Bestand"};
+        QTest::newRow("room book") << "defect"
+                                   << "roombook_number" << 2 << 8
+                                   << QStringList{"UG-001", "EG-001", "OG-001", "DG-001"};
+        QTest::newRow("priority") << "defect"
+                                  << "priority" << 2 << 12 << QStringList{"Hoch", "Normal", "Niedrig"};
+        QTest::newRow("multi-line kind") << "defect"
+                                         << "roomname" << 3 << 7 << QStringList();
+        QTest::newRow("no list for column") << "defect"
+                                            << "user_id" << 2 << 5 << QStringList();
+        QTest::newRow("other table") << "plan_info"
+                                     << "plan_name" << 2 << 7 << QStringList();
+    }
+
+    void defaultLists()
+    {
+        QFETCH(QString, table);
+        QFETCH(QString, column);
+        QFETCH(int, kind);
+        QFETCH(int, columnNumber);
+        QFETCH(QStringList, expected);
+
+        QSettings().remove(QStringLiteral("Completer_42"));
+        QLineEdit field;
+        KalCompleter completer(table, kind, column, columnNumber, &field);
+        QCOMPARE(completer.values(), expected);
+        QCOMPARE(storedValues(QStringLiteral("Completer_42/%1/%2").arg(table, column)), expected);
+    }
+
+    void emptiedListStaysEmpty()
+    {
+        storeValues(QStringLiteral("Completer_42/defect/priority"), {});
+        QLineEdit field;
+        KalCompleter completer(QStringLiteral("defect"), 2, QStringLiteral("priority"), 12, &field);
+        QVERIFY(completer.values().isEmpty());
+    }
+
+    void loadingAndDisplay()
+    {
+        storeValues(QStringLiteral("Completer_42/photo_info/comment"),
+                    {QStringLiteral("  Riss   im Putz "), QStringLiteral("   "), QStringLiteral("A\nB"),
+                     QStringLiteral("Riss im Putz")});
+        QLineEdit field;
+        KalCompleter completer(QStringLiteral("photo_info"), 2, QStringLiteral("comment"), -1, &field);
+        QCOMPARE(completer.values(), (QStringList{QStringLiteral("Riss im Putz"), QStringLiteral("A\nB")}));
+        QCOMPARE(completer.displayList(), (QStringList{QStringLiteral("Riss im Putz"), QStringLiteral("A | B")}));
+        // Chosen in a line edit, the lines are joined.
+        completer.insertCompletion(QStringLiteral("A | B"));
+        QCOMPARE(field.text(), QStringLiteral("A B"));
+    }
+
+    void textEditInsertsMultiLineValue()
+    {
+        storeValues(QStringLiteral("Completer_42/defect/description"), {QStringLiteral("Riss\nim Putz")});
+        KalCompleterTextEdit edit(QStringLiteral("defect"), QStringLiteral("description"));
+        edit.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&edit));
+        edit.setFocus();
+        QTest::keyClicks(&edit, QStringLiteral("Ri"));
+        QVERIFY(edit.kalCompleter()->popup()->isVisible());
+        QTest::keyClick(edit.kalCompleter()->popup(), Qt::Key_Return);
+        QCOMPARE(edit.toPlainText(), QStringLiteral("Riss\nim Putz"));
+        // Leaving the field stores what it holds.
+        edit.setPlainText(QStringLiteral("Fuge offen"));
+        emit edit.editingFinished();
+        QVERIFY(edit.kalCompleter()->values().contains(QStringLiteral("Fuge offen")));
+    }
+
+    void languageGroups()
+    {
+        QVERIFY(m_edit->kalCompleter()->appendEntry(QStringLiteral("Keller")));
+        QSettings().setValue(QStringLiteral("Language"), 111);
+        QLineEdit field;
+        KalCompleter spanish(QStringLiteral("defect"), 2, QStringLiteral("roomname"), 7, &field);
+        QVERIFY(!spanish.values().contains(QStringLiteral("Keller")));
+        QVERIFY(spanish.appendEntry(QStringLiteral("Cocina")));
+        QVERIFY(storedValues(QStringLiteral("Completer_111/defect/roomname")).contains(QStringLiteral("Cocina")));
+        QVERIFY(!storedValues(QStringLiteral("Completer_42/defect/roomname")).contains(QStringLiteral("Cocina")));
+        QVERIFY(storedValues(QStringLiteral("Completer_42/defect/roomname")).contains(QStringLiteral("Keller")));
+    }
+
+    void buttonExplainsEmptyField()
+    {
+        KalCompleterLineEdit plans(QStringLiteral("plan_info"), QStringLiteral("plan_name"));
+        QVERIFY(plans.fieldButton());
+        QVERIFY(plans.fieldButton()->toolTip().startsWith(
+            QStringLiteral("Diese Funktion erlaubt das automatische Einfügen der \nTexte")));
+        prompt()->queueAnswer(QStringLiteral("Schließen"));
+        plans.fieldButton()->click();
+        QCOMPARE(prompt()->titles(), QStringList{QStringLiteral("Autotexte")});
+        QVERIFY(prompt()->texts().first().startsWith(
+            QStringLiteral("Diese Funktion erlaubt das automatische Einfügen der Texte, die bisher in dieses Feld "
+                           "eingetragen wurden.")));
+        QCOMPARE(prompt()->shown().first().buttons,
+                 (QStringList{QStringLiteral("Autotexte bearbeiten"), QStringLiteral("Schließen")}));
+
+        prompt()->clear();
+        QSettings().setValue(QStringLiteral("Messages/DontShowCompleterMsg"), true);
+        plans.fieldButton()->click();
+        QVERIFY(prompt()->shown().isEmpty());
+
+        // With values, the button opens the list instead.
+        m_edit->fieldButton()->click();
+        QVERIFY(m_edit->kalCompleter()->popup()->isVisible());
+        QCOMPARE(m_edit->kalCompleter()->completionCount(), RoomDefaults.size());
+        QVERIFY(prompt()->shown().isEmpty());
+    }
+
+    void dialogEditsAndSaves()
+    {
+        KalCompleterDialog dialog;
+        QCOMPARE(dialog.windowTitle(), QStringLiteral("Autovervollständigen bearbeiten"));
+        QVERIFY(dialog.selectCompleter(QStringLiteral("defect"), QStringLiteral("roomname")));
+        const int row = dialog.completerModel()->rowOf(QStringLiteral("defect"), QStringLiteral("roomname"));
+        QCOMPARE(dialog.completerModel()->index(row, 0).data().toString(), QStringLiteral("Mängel - Raumname"));
+        QCOMPARE(dialog.valuesModel()->rowCount(), RoomDefaults.size());
+
+        dialog.findChild<QPushButton *>(QStringLiteral("pbAddEntry"))->click();
+        QCOMPARE(dialog.valuesModel()->index(RoomDefaults.size()).data().toString(), QStringLiteral("<Neuer Eintrag>"));
+        dialog.valuesModel()->setData(dialog.valuesModel()->index(RoomDefaults.size()), QStringLiteral("Bad | oben"));
+        dialog.valuesView()->setCurrentIndex(dialog.valuesModel()->index(0));
+        dialog.findChild<QPushButton *>(QStringLiteral("pbDeleteEntry"))->click();
+        dialog.findChild<QPushButton *>(QStringLiteral("pbNone"))->click();
+        QVERIFY(dialog.isModified());
+
+        // Nothing is written before OK.
+        QCOMPARE(storedValues(QStringLiteral("Completer_42/defect/roomname")), RoomDefaults);
+        dialog.accept();
+        QStringList expected = RoomDefaults.mid(1);
+        expected << QStringLiteral("Bad\noben");
+        QCOMPARE(storedValues(QStringLiteral("Completer_42/defect/roomname")), expected);
+        QCOMPARE(QSettings().value(QStringLiteral("Completer_42/defect/roomname/Enabled")).toBool(), false);
+        QCOMPARE(QSettings().value(QStringLiteral("Completer_42/defect/roomname/TableID")).toString(),
+                 QStringLiteral("defect"));
+        QCOMPARE(QSettings().value(QStringLiteral("Completer_42/defect/roomname/ColumnID")).toString(),
+                 QStringLiteral("roomname"));
+        // The live field follows: switched off.
+        QVERIFY(!m_edit->kalCompleter()->isEnabled());
+        QTest::keyClicks(m_edit, QStringLiteral("Fl"));
+        QVERIFY(!m_edit->kalCompleter()->popup()->isVisible());
+    }
+
+    void dialogAsksBeforeDiscarding_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<bool>("closed");
+        QTest::newRow("keep editing") << "Nein" << false;
+        QTest::newRow("discard") << "Ja" << true;
+    }
+
+    void dialogAsksBeforeDiscarding()
+    {
+        QFETCH(QString, answer);
+        QFETCH(bool, closed);
+        KalCompleterDialog dialog;
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        dialog.selectCompleter(QStringLiteral("defect"), QStringLiteral("roomname"));
+        dialog.findChild<QPushButton *>(QStringLiteral("pbDeleteAll"))->click();
+        QCOMPARE(dialog.valuesModel()->rowCount(), 0);
+        prompt()->queueAnswer(answer);
+        dialog.reject();
+        QCOMPARE(prompt()->titles(), QStringList{QStringLiteral("Änderungen verwerfen")});
+        QCOMPARE(prompt()->texts(), QStringList{QStringLiteral("Sollen die Änderungen verworfen werden?")});
+        QCOMPARE(dialog.isVisible(), !closed);
+        QCOMPARE(storedValues(QStringLiteral("Completer_42/defect/roomname")), RoomDefaults);
+    }
+
+    void dialogClosesWithoutQuestionWhenUnchanged()
+    {
+        KalCompleterDialog dialog;
+        dialog.show();
+        dialog.reject();
+        QVERIFY(prompt()->shown().isEmpty());
+        QVERIFY(!dialog.isVisible());
+    }
+
+    void resetToFactoryLists_data()
+    {
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<bool>("reset");
+        QTest::newRow("confirmed") << "OK" << true;
+        QTest::newRow("cancelled") << "Abbrechen" << false;
+    }
+
+    void resetToFactoryLists()
+    {
+        QFETCH(QString, answer);
+        QFETCH(bool, reset);
+        QVERIFY(m_edit->kalCompleter()->appendEntry(QStringLiteral("Keller")));
+        QSettings().setValue(QStringLiteral("Completer_42/defect/priority/Enabled"), false);
+        storeValues(QStringLiteral("Completer_42/photo_info/comment"), {QStringLiteral("Foto vom Riss")});
+
+        KalCompleterDialog dialog;
+        prompt()->queueAnswer(answer);
+        dialog.findChild<QPushButton *>(QStringLiteral("pbReset"))->click();
+        QCOMPARE(prompt()->titles(), QStringList{QStringLiteral("Alle Completer zurücksetzen")});
+        QCOMPARE(prompt()->texts().first(),
+                 QStringLiteral("Alle Completer werden auf den Auslieferungszustand zurückgesetzt.\nAlle "
+                                "eingegebenen Textvorschläge werden dabei gelöscht!"));
+
+        const int priority = dialog.completerModel()->rowOf(QStringLiteral("defect"), QStringLiteral("priority"));
+        const int comment = dialog.completerModel()->rowOf(QStringLiteral("photo_info"), QStringLiteral("comment"));
+        if (reset) {
+            QCOMPARE(m_edit->kalCompleter()->values(), RoomDefaults);
+            QVERIFY(dialog.completerModel()->isEnabled(priority));
+            QCOMPARE(dialog.completerModel()->values(priority),
+                     (QStringList{QStringLiteral("Hoch"), QStringLiteral("Normal"), QStringLiteral("Niedrig")}));
+            QVERIFY(dialog.completerModel()->values(comment).isEmpty());
+            QVERIFY(storedValues(QStringLiteral("Completer_42/photo_info/comment")).isEmpty());
+        } else {
+            QVERIFY(m_edit->kalCompleter()->values().contains(QStringLiteral("Keller")));
+            QVERIFY(!dialog.completerModel()->isEnabled(priority));
+            QCOMPARE(dialog.completerModel()->values(comment), QStringList{QStringLiteral("Foto vom Riss")});
+        }
+    }
+
+private:
+    std::unique_ptr<QWidget> m_window;
+    KalCompleterLineEdit *m_edit = nullptr;
+    QLineEdit *m_other = nullptr;
+};
+
+int runCompleterTests(int argc, char **argv)
+{
+    TestCompleter test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_completer.moc"

@@ -1,0 +1,232 @@
+#include "TextAidsTests.h"
+#include "core/project/KalEnvironment.h"
+#include "core/textaids/KalDateFormat.h"
+#include "gui/textaids/KalCompleterLineEdit.h"
+#include "gui/textaids/KalCompleterTextEdit.h"
+#include "gui/textaids/KalDateEdit.h"
+#include "gui/textaids/KalTextAidsEditors.h"
+#include "support/KalScriptedPrompt.h"
+
+#include <QCalendarWidget>
+#include <QSignalSpy>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <QtTest>
+
+namespace {
+KalScriptedPrompt *prompt()
+{
+    return static_cast<KalScriptedPrompt *>(KalPrompt::instance());
+}
+} // namespace
+
+class TestDateEdit : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init()
+    {
+        prompt()->clear();
+        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
+    }
+
+    void cleanupTestCase() { QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); }
+
+    void emptyIsValid()
+    {
+        KalDateEdit edit;
+        QVERIFY(edit.date().isNull());
+        edit.setText(QStringLiteral("   "));
+        QVERIFY(edit.date().isNull());
+        QCoreApplication::processEvents();
+        QVERIFY(prompt()->shown().isEmpty());
+    }
+
+    void parsing_data()
+    {
+        QTest::addColumn<QLocale>("locale");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QDate>("expected"); // invalid: a warning is due
+        QTest::addColumn<QString>("pattern");
+
+        const QLocale de(QLocale::German, QLocale::Germany);
+        const QLocale us(QLocale::English, QLocale::UnitedStates);
+        const QLocale gb(QLocale::English, QLocale::UnitedKingdom);
+        const QLocale es(QLocale::Spanish, QLocale::Spain);
+        QTest::newRow("German full") << de << "01.02.2024" << QDate(2024, 2, 1) << "TT.MM.JJJJ";
+        QTest::newRow("German short") << de << "1.2.24" << QDate(2024, 2, 1) << "TT.MM.JJJJ";
+        QTest::newRow("German without year") << de << "1.2." << QDate(2025, 2, 1) << "TT.MM.JJJJ";
+        QTest::newRow("German no such day") << de << "31.02.2020" << QDate() << "TT.MM.JJJJ";
+        QTest::newRow("German words") << de << "morgen" << QDate() << "TT.MM.JJJJ";
+        QTest::newRow("USA") << us << "02/01/2024" << QDate(2024, 2, 1) << "MM/DD/YYYY";
+        QTest::newRow("USA without year") << us << "2/1" << QDate(2025, 2, 1) << "MM/DD/YYYY";
+        QTest::newRow("USA day first is wrong") << us << "31/01/2024" << QDate() << "MM/DD/YYYY";
+        QTest::newRow("UK") << gb << "31/01/2024" << QDate(2024, 1, 31) << "DD/MM/YYYY";
+        QTest::newRow("Spain") << es << "31/02/2020" << QDate() << "DD/MM/AAAA";
+        QTest::newRow("other language") << QLocale(QLocale::French, QLocale::France) << "1.13.2020" << QDate()
+                                        << "TT.MM.JJJJ";
+    }
+
+    void parsing()
+    {
+        QFETCH(QLocale, locale);
+        QFETCH(QString, text);
+        QFETCH(QDate, expected);
+        QFETCH(QString, pattern);
+        QLocale::setDefault(locale);
+        KalEnvironment::setNowOverride(QDateTime(QDate(2025, 6, 1), QTime(12, 0)));
+        KalDateEdit edit;
+        edit.setText(text);
+        const QDate parsed = edit.date();
+        KalEnvironment::setNowOverride(QDateTime());
+        QCOMPARE(parsed, expected);
+        // The warning comes after the current event, once.
+        edit.date();
+        QVERIFY(prompt()->shown().isEmpty());
+        QCoreApplication::processEvents();
+        if (expected.isValid()) {
+            QVERIFY(prompt()->shown().isEmpty());
+            QCOMPARE(KalDateFormat::parse(KalDateFormat::toText(expected)), expected);
+        } else {
+            QCOMPARE(prompt()->titles(), QStringList{QStringLiteral("Format-Fehler")});
+            QCOMPARE(prompt()->texts().first(),
+                     QStringLiteral("Das eingegebene Datum ist nicht korrekt.\nBitte verwenden Sie das Format %1!")
+                         .arg(pattern));
+            QCOMPARE(edit.text(), text); // asking does not clear
+        }
+    }
+
+    void leavingClearsInvalidText()
+    {
+        QWidget window;
+        auto *layout = new QVBoxLayout(&window);
+        auto *edit = new KalDateEdit(&window);
+        auto *other = new QLineEdit(&window);
+        layout->addWidget(edit);
+        layout->addWidget(other);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        edit->setFocus();
+        QSignalSpy finished(edit, &QLineEdit::editingFinished);
+        QTest::keyClicks(edit, QStringLiteral("31.02.2020"));
+        other->setFocus();
+        QCOMPARE(edit->text(), QString());
+        QCOMPARE(finished.count(), 1);
+        QVERIFY(prompt()->shown().isEmpty());
+        QTRY_COMPARE(prompt()->titles(), QStringList{QStringLiteral("Format-Fehler")});
+        QVERIFY(prompt()->texts().first().contains(QStringLiteral("TT.MM.JJJJ")));
+
+        // A valid date stays.
+        prompt()->clear();
+        edit->setFocus();
+        QTest::keyClicks(edit, QStringLiteral("1.2.24"));
+        other->setFocus();
+        QCOMPARE(edit->text(), QStringLiteral("1.2.24"));
+        QCOMPARE(edit->date(), QDate(2024, 2, 1));
+        QCoreApplication::processEvents();
+        QVERIFY(prompt()->shown().isEmpty());
+    }
+
+    void warningOutlivesClosedEditor()
+    {
+        // A grid closes its editor as soon as the focus leaves it.
+        QWidget window;
+        auto *layout = new QVBoxLayout(&window);
+        auto *edit = new KalDateEdit(&window);
+        auto *other = new QLineEdit(&window);
+        layout->addWidget(edit);
+        layout->addWidget(other);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        edit->setFocus();
+        QTest::keyClicks(edit, QStringLiteral("32.1.2024"));
+        other->setFocus();
+        QCOMPARE(edit->text(), QString());
+        delete edit;
+        QTRY_COMPARE(prompt()->titles(), QStringList{QStringLiteral("Format-Fehler")});
+    }
+
+    void calendar()
+    {
+        KalDateEdit edit;
+        edit.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&edit));
+        QSignalSpy finished(&edit, &QLineEdit::editingFinished);
+        edit.setDate(QDate(2024, 3, 10));
+        QCOMPARE(edit.text(), QStringLiteral("10.03.2024"));
+
+        edit.toolButtonPopup()->click();
+        QCalendarWidget *calendar = edit.calendarWidget();
+        QVERIFY(calendar && calendar->isVisible());
+        QCOMPARE(calendar->windowTitle(), QStringLiteral("Datum auswählen"));
+        QCOMPARE(calendar->selectedDate(), QDate(2024, 3, 10));
+        QCOMPARE(edit.toolButtonPopup()->iconSize(), QSize(8, 8));
+        QVERIFY(!edit.toolButtonPopup()->icon().isNull());
+
+        emit calendar->clicked(QDate(2024, 3, 15));
+        QCOMPARE(edit.text(), QStringLiteral("15.03.2024"));
+        QCOMPARE(edit.date(), QDate(2024, 3, 15));
+        QVERIFY(!calendar->isVisible());
+        QCOMPARE(finished.count(), 1);
+
+        edit.setToolTip(QStringLiteral("Frist"));
+        edit.toolButtonPopup()->click();
+        QCOMPARE(calendar->windowTitle(), QStringLiteral("Frist"));
+    }
+
+    void gridEditors_data()
+    {
+        QTest::addColumn<int>("editorNumber");
+        QTest::addColumn<QString>("className");
+        QTest::addColumn<QVariant>("stored");
+        QTest::addColumn<QVariant>("read");
+
+        QTest::newRow("completer line") << 2 << "KalCompleterLineEdit" << QVariant("Flur") << QVariant("Flur");
+        QTest::newRow("spelling text") << 3 << "KalCompleterTextEdit" << QVariant("Riss\nPutz")
+                                       << QVariant("Riss\nPutz");
+        QTest::newRow("date from text") << 4 << "KalDateEdit" << QVariant("2024-03-05") << QVariant(QDate(2024, 3, 5));
+        QTest::newRow("date value") << 7 << "KalDateEdit" << QVariant(QDate(2024, 12, 31))
+                                    << QVariant(QDate(2024, 12, 31));
+        QTest::newRow("empty date") << 4 << "KalDateEdit" << QVariant() << QVariant(QDate());
+        QTest::newRow("not ours") << 1 << "" << QVariant() << QVariant();
+    }
+
+    void gridEditors()
+    {
+        QFETCH(int, editorNumber);
+        QFETCH(QString, className);
+        QFETCH(QVariant, stored);
+        QFETCH(QVariant, read);
+
+        QWidget parent;
+        QWidget *editor =
+            KalTextAidsEditors::create(editorNumber, QStringLiteral("defect"), QStringLiteral("roomname"), &parent);
+        QCOMPARE(KalTextAidsEditors::handles(editorNumber), !className.isEmpty());
+        if (className.isEmpty()) {
+            QVERIFY(!editor);
+            return;
+        }
+        QVERIFY(editor);
+        QCOMPARE(QString::fromLatin1(editor->metaObject()->className()), className);
+        QVERIFY(KalTextAidsEditors::setEditorData(editor, stored));
+        bool handled = false;
+        QCOMPARE(KalTextAidsEditors::editorData(editor, &handled), read);
+        QVERIFY(handled);
+
+        int finished = 0;
+        KalTextAidsEditors::onEditingFinished(editor, &parent, [&finished] { ++finished; });
+        QMetaObject::invokeMethod(editor, "editingFinished");
+        QCOMPARE(finished, 1);
+        QCoreApplication::processEvents();
+        QVERIFY(prompt()->shown().isEmpty());
+    }
+};
+
+int runDateEditTests(int argc, char **argv)
+{
+    TestDateEdit test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_dateedit.moc"
