@@ -2,7 +2,9 @@
 
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
+#include "core/project/KalRecentFiles.h"
 #include "core/project/KalSqlTableModel.h"
+#include "gui/plans/KalPlanPanel.h"
 #include "gui/widgets/KalItemDelegate.h"
 #include "gui/widgets/KalTableView.h"
 
@@ -11,12 +13,7 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QFileInfo>
-#include <QGraphicsPixmapItem>
-#include <QGraphicsScene>
-#include <QGraphicsTextItem>
-#include <QGraphicsView>
 #include <QHBoxLayout>
-#include <QHash>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QLabel>
@@ -42,7 +39,6 @@ QIcon resourceIcon(const QString &name)
 
 const char *const kGeometryKey = "MainWindow/Geometry";
 const char *const kStateKey = "MainWindow/WindowState";
-const char *const kRecentKey = "MainWindow/RecentFileList";
 const char *const kFormatKey = "TableView/Defect/DefectTableFormat";
 const char *const kTooltipHelpKey = "TooltipHelpActive";
 
@@ -96,15 +92,304 @@ int defaultColumnChars(const QString &field)
 }
 } // namespace
 
+// One row per command: the menus, the tool bar and the tests find each action
+// by its object name.
+struct KalMainWindow::ActionSpec
+{
+    enum Enabled { Always, WithProject, NotBuilt };
+    const char *name;
+    const char *icon;
+    const char *text;
+    const char *toolTip; // nullptr: the text on one line
+    QKeySequence shortcut;
+    void (KalMainWindow::*slot)();
+    Enabled enabled;
+};
+
+const QVector<KalMainWindow::ActionSpec> &KalMainWindow::actionTable()
+{
+    using A = ActionSpec;
+    using M = KalMainWindow;
+    // Commands whose dialogs are not part of the program yet stay visible but
+    // disabled (NotBuilt), so nothing pretends to work.
+    static const QVector<ActionSpec> table{
+        {"actionCreateFile", "datei-neu.ico", QT_TR_NOOP("Neu"), QT_TR_NOOP("Neues Projekt anlegen"), QKeySequence::New,
+         &M::slotCreateFile, A::Always},
+        {"actionOpenFile", "datei-öffnen.ico", QT_TR_NOOP("Öffnen"), QT_TR_NOOP("Projekt öffnen"), QKeySequence::Open,
+         &M::slotOpenFile, A::Always},
+        {"actionSaveFile", "datei-speichern.ico", QT_TR_NOOP("Speichern"), QT_TR_NOOP("Projekt speichern"),
+         QKeySequence::Save, &M::slotSaveFile, A::WithProject},
+        {"actionFileSaveAs", "datei-speichern-als.ico", QT_TR_NOOP("Speichern unter"),
+         QT_TR_NOOP("Projekt unter einem neuen Namen speichern"), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S),
+         &M::slotFileSaveAs, A::WithProject},
+        {"actionFileRecentPlaceholder", "", "Placeholder", nullptr, {}, nullptr, A::Always},
+        {"actionCompactDB",
+         "icon-datei-datenbank.ico",
+         QT_TR_NOOP("Datenbank bereinigen"),
+         nullptr,
+         {},
+         &M::slotCompactDB,
+         A::WithProject},
+        {"actionAddDefect",
+         "icon-add-defect.ico",
+         QT_TR_NOOP("Mangel hinzufügen"),
+         QT_TR_NOOP("neue Mängel"),
+         {},
+         &M::slotAddDefect,
+         A::WithProject},
+        {"actionEditPlanTable",
+         "icon-plaene.ico",
+         QT_TR_NOOP("Pläne"),
+         QT_TR_NOOP("Planverwaltung öffnen"),
+         {},
+         nullptr,
+         A::NotBuilt},
+        {"actionEditStatusTable",
+         "icon-status.ico",
+         QT_TR_NOOP("Status"),
+         QT_TR_NOOP("Statusverwaltung öffnen"),
+         {},
+         &M::slotEditStatusTable,
+         A::Always},
+        {"actionEditProjectData",
+         "icon-projektdaten.ico",
+         QT_TR_NOOP("Projektdaten bearbeiten"),
+         nullptr,
+         {},
+         &M::slotEditProjectData,
+         A::Always},
+        {"actionEditCompanyTable",
+         "icon-firmen.ico",
+         QT_TR_NOOP("Firmenliste bearbeiten"),
+         nullptr,
+         {},
+         &M::slotEditCompanyTable,
+         A::Always},
+        {"actionEditCompanyFormat",
+         "icon-firmen-format.ico",
+         QT_TR_NOOP("Firmendaten Ausgabeformat"),
+         nullptr,
+         {},
+         &M::slotEditCompanyFormat,
+         A::Always},
+        {"actionEditLogos",
+         "icon-logo.ico",
+         QT_TR_NOOP("Logo hinzufügen / bearbeiten"),
+         nullptr,
+         {},
+         nullptr,
+         A::NotBuilt},
+        {"actionPrintDefectListShort",
+         "icon-drucken-kompakt.ico",
+         QT_TR_NOOP("Mängelliste kompakt"),
+         nullptr,
+         {},
+         nullptr,
+         A::NotBuilt},
+        {"actionPrintDefectListLong",
+         "icon-drucken-detailliert.ico",
+         QT_TR_NOOP("Mängelliste detailliert"),
+         nullptr,
+         {},
+         nullptr,
+         A::NotBuilt},
+        {"actionPrintPreview",
+         "icon-druckvorschau.ico",
+         QT_TR_NOOP("Druckvorschau"),
+         nullptr,
+         {},
+         nullptr,
+         A::NotBuilt},
+        {"actionInitialDataImport",
+         "icon-datenimport.ico",
+         QT_TR_NOOP("Mängel und Firmen aus einem Bautagebuch importieren"),
+         nullptr,
+         {},
+         nullptr,
+         A::NotBuilt},
+        {"actionUpdateDataImport",
+         "icon-datenimport-aktualisieren.ico",
+         QT_TR_NOOP("Mängel und Firmen aus dem Bautagebuch aktualisieren"),
+         nullptr,
+         {},
+         nullptr,
+         A::NotBuilt},
+        {"actionAutomaticNewRecordsImport",
+         "icon-datenimport-automatisch-ein.ico",
+         QT_TR_NOOP("Automatischen Import neuer Mängel und Firmen einschalten"),
+         nullptr,
+         {},
+         nullptr,
+         A::NotBuilt},
+        {"actionAutomaticUpdateImport",
+         "icon-datenimport-automatisch-ein.ico",
+         QT_TR_NOOP("Automatischen Import und Aktualisierung vorhandener Mängel und Firmen einschalten"),
+         nullptr,
+         {},
+         nullptr,
+         A::NotBuilt},
+        {"actionImportFromApp",
+         "icon-datenimport-app.ico",
+         QT_TR_NOOP("Mängel und Firmen aus der Quellor App importieren\n"),
+         QT_TR_NOOP("Importiert Mängel aus der Quellor App"),
+         {},
+         nullptr,
+         A::NotBuilt},
+        {"actionImportDefectManagerCompanies",
+         "icon-firmen-import.ico",
+         QT_TR_NOOP("Import von Firmen aus anderer Pellwick-Datei"),
+         nullptr,
+         {},
+         &M::slotImportDefectManagerCompanies,
+         A::Always},
+        {"actionImportSiteJournalCompanies",
+         "icon-firmen-import.ico",
+         QT_TR_NOOP("Import von Firmen aus Quellor Bautagebuch"),
+         nullptr,
+         {},
+         &M::slotImportSiteJournalCompanies,
+         A::Always},
+        {"actionImportCSVCompanies",
+         "icon-firmen-import.ico",
+         QT_TR_NOOP("Import von Firmen aus externer Adress-Datei"),
+         nullptr,
+         {},
+         &M::slotImportCSVCompanies,
+         A::Always},
+        {"actionSettingsLanguage",
+         "icon-sprache.ico",
+         QT_TR_NOOP("Sprache wählen"),
+         nullptr,
+         {},
+         &M::slotSettingsLanguage,
+         A::Always},
+        {"actionSettingsCompleter",
+         "icon-texte.ico",
+         QT_TR_NOOP("Texte ändern - Eingabe"),
+         nullptr,
+         {},
+         &M::slotSettingsCompleter,
+         A::Always},
+        // Text and enabled state follow the spell checker.
+        {"actionStartSpellChecking",
+         "icon-rechtschreibung.ico",
+         "",
+         nullptr,
+         {},
+         &M::slotStartSpellChecking,
+         A::Always},
+        {"actionSettingsPlanSize", "icon-plangroesse.ico", QT_TR_NOOP("Plangröße"), nullptr, {}, nullptr, A::NotBuilt},
+        {"actionSettingsImageSize", "icon-fotogroesse.ico", QT_TR_NOOP("Fotogröße"), nullptr, {}, nullptr, A::NotBuilt},
+        {"actionStandardMarker", "icon-marker.ico", QT_TR_NOOP("Standardmarker"), nullptr, {}, nullptr, A::NotBuilt},
+        {"actionStandardMarkerText",
+         "icon-marker-text.ico",
+         QT_TR_NOOP("Mängeltexte im Plan"),
+         nullptr,
+         {},
+         nullptr,
+         A::NotBuilt},
+        // Text and icon follow the help-text setting.
+        {"actionTooltipHelp", "icon-help.ico", "", nullptr, {}, &M::slotTooltipHelp, A::Always},
+        {"actionShortHelpImportFromSiteJournal",
+         "icon-help.ico",
+         QT_TR_NOOP("Wie übernehme ich Mängel und\nFirmen aus einem Bautagebuch?"),
+         nullptr,
+         {},
+         &M::slotShortHelpImportFromSiteJournal,
+         A::Always},
+        {"actionShortHelpImportFromMobile",
+         "icon-help.ico",
+         QT_TR_NOOP("Wie übernehme ich Mängel und Firmen\nvon einem Mobilgerät?"),
+         nullptr,
+         {},
+         &M::slotShortHelpImportFromMobile,
+         A::Always},
+        {"actionProgramInfoDialog",
+         "icon-info.ico",
+         QT_TR_NOOP("Info über Pellwick"),
+         nullptr,
+         {},
+         &M::slotProgramInfoDialog,
+         A::Always},
+        {"actionUpdateTest", "icon-update.ico", QT_TR_NOOP("Auf Updates prüfen"), nullptr, {}, nullptr, A::NotBuilt},
+    };
+    return table;
+}
+
+namespace {
+// Menus in menu-bar order: object name, title, actions ("-" a separator,
+// "menuFileRecent" the recent-file submenu).
+struct MenuSpec
+{
+    const char *name;
+    const char *title;
+    QVector<const char *> actions;
+};
+
+const QVector<MenuSpec> &menuTable()
+{
+    static const QVector<MenuSpec> menus{
+        {"menuFile",
+         QT_TRANSLATE_NOOP("KalMainWindow", "Datei"),
+         {"actionCreateFile", "actionOpenFile", "actionSaveFile", "actionFileSaveAs", "-", "menuFileRecent", "-",
+          "actionCompactDB"}},
+        {"menuEdit",
+         QT_TRANSLATE_NOOP("KalMainWindow", "Bearbeiten"),
+         {"actionAddDefect", "actionEditPlanTable", "actionEditStatusTable"}},
+        {"menuMasterData",
+         QT_TRANSLATE_NOOP("KalMainWindow", "Stammdaten"),
+         {"actionEditProjectData", "actionEditCompanyTable", "actionEditCompanyFormat", "actionEditLogos"}},
+        {"menuPrint",
+         QT_TRANSLATE_NOOP("KalMainWindow", "Drucken"),
+         {"actionPrintDefectListShort", "actionPrintDefectListLong", "actionPrintPreview"}},
+        {"menuDataImport",
+         QT_TRANSLATE_NOOP("KalMainWindow", "Datenimport"),
+         {"actionInitialDataImport", "actionUpdateDataImport", "actionAutomaticNewRecordsImport",
+          "actionAutomaticUpdateImport", "-", "actionImportFromApp", "-", "actionImportDefectManagerCompanies",
+          "actionImportSiteJournalCompanies", "actionImportCSVCompanies"}},
+        {"menuSettings",
+         QT_TRANSLATE_NOOP("KalMainWindow", "Einstellungen"),
+         {"actionSettingsLanguage", "actionSettingsCompleter", "actionStartSpellChecking", "-",
+          "actionSettingsPlanSize", "actionSettingsImageSize", "-", "actionStandardMarker",
+          "actionStandardMarkerText"}},
+        {"menuHelp",
+         QT_TRANSLATE_NOOP("KalMainWindow", "Hilfe"),
+         {"actionTooltipHelp", "-", "actionShortHelpImportFromSiteJournal", "actionShortHelpImportFromMobile", "-",
+          "actionProgramInfoDialog", "actionUpdateTest"}},
+    };
+    return menus;
+}
+
+const QVector<const char *> &toolBarActions()
+{
+    static const QVector<const char *> actions{"actionCreateFile",
+                                               "actionOpenFile",
+                                               "actionSaveFile",
+                                               "actionFileSaveAs",
+                                               "-",
+                                               "actionAddDefect",
+                                               "actionEditPlanTable",
+                                               "actionEditStatusTable",
+                                               "-",
+                                               "actionEditProjectData",
+                                               "actionEditCompanyTable",
+                                               "-",
+                                               "actionPrintDefectListShort",
+                                               "actionPrintDefectListLong",
+                                               "actionPrintPreview"};
+    return actions;
+}
+} // namespace
+
 KalMainWindow::KalMainWindow(QWidget *parent)
     : QMainWindow(parent)
 {
     setObjectName(QStringLiteral("KalMainWindow"));
     setWindowTitle(QStringLiteral("MainWindow"));
 
-    QSettings settings;
-    m_defectTableFormat = settings.value(QLatin1String(kFormatKey), 1).toInt() == 2 ? 2 : 1;
-    m_recentFiles = settings.value(QLatin1String(kRecentKey)).toStringList();
+    m_defectTableFormat = QSettings().value(QLatin1String(kFormatKey), 1).toInt() == 2 ? 2 : 1;
+    m_recentFiles = new KalRecentFiles(KalRecentFiles::defaultKey(), 0, this);
+    connect(m_recentFiles, &KalRecentFiles::changed, this, &KalMainWindow::rebuildRecentMenu);
 
     createActions();
     createMenus();
@@ -124,6 +409,7 @@ KalMainWindow::KalMainWindow(QWidget *parent)
     if (!m_project->newProject())
         KalPrompt::critical(tr("Fehler"), tr("Beim Erstellen eines neuen Projekts ist ein Fehler aufgetreten!"));
     updateWindowTitle();
+    updateProjectActions();
 }
 
 KalMainWindow::~KalMainWindow()
@@ -137,173 +423,44 @@ KalSqlTableModel *KalMainWindow::defectModel() const
     return m_project && m_project->isOpen() ? m_project->model(QStringLiteral("defect")) : nullptr;
 }
 
-QAction *KalMainWindow::makeAction(const QString &name, const QString &icon)
+QAction *KalMainWindow::action(const char *name) const
 {
-    auto *action = new QAction(this);
-    action->setObjectName(name);
-    if (!icon.isEmpty())
-        action->setIcon(resourceIcon(icon));
-    return action;
+    QAction *a = m_actions.value(QLatin1String(name));
+    Q_ASSERT(a);
+    return a;
 }
 
 void KalMainWindow::createActions()
 {
-    actionCreateFile = makeAction(QStringLiteral("actionCreateFile"), QStringLiteral("datei-neu.ico"));
-    actionCreateFile->setText(tr("Neu"));
-    actionCreateFile->setToolTip(tr("Neues Projekt anlegen"));
-    actionCreateFile->setShortcut(QKeySequence::New);
-    connect(actionCreateFile, &QAction::triggered, this, &KalMainWindow::on_actionCreateFile_triggered);
+    for (const ActionSpec &spec : actionTable()) {
+        auto *a = new QAction(this);
+        a->setObjectName(QLatin1String(spec.name));
+        if (*spec.icon)
+            a->setIcon(resourceIcon(QString::fromUtf8(spec.icon)));
+        if (*spec.text) {
+            const QString text = tr(spec.text);
+            a->setText(text);
+            a->setToolTip(spec.toolTip ? tr(spec.toolTip)
+                                       : QString(text).replace(QLatin1Char('\n'), QLatin1Char(' ')).trimmed());
+        }
+        if (!spec.shortcut.isEmpty())
+            a->setShortcut(spec.shortcut);
+        if (spec.slot)
+            connect(a, &QAction::triggered, this, spec.slot);
+        a->setEnabled(spec.enabled != ActionSpec::NotBuilt);
+        m_actions.insert(a->objectName(), a);
+    }
+    action("actionFileRecentPlaceholder")->setText(QStringLiteral("Placeholder"));
+    action("actionEditStatusTable")->setIconText(tr("Statusverwaltung öffnen"));
+}
 
-    actionOpenFile = makeAction(QStringLiteral("actionOpenFile"), QStringLiteral("datei-öffnen.ico"));
-    actionOpenFile->setText(tr("Öffnen"));
-    actionOpenFile->setToolTip(tr("Projekt öffnen"));
-    actionOpenFile->setShortcut(QKeySequence::Open);
-    connect(actionOpenFile, &QAction::triggered, this, &KalMainWindow::on_actionOpenFile_triggered);
-
-    actionSaveFile = makeAction(QStringLiteral("actionSaveFile"), QStringLiteral("datei-speichern.ico"));
-    actionSaveFile->setText(tr("Speichern"));
-    actionSaveFile->setToolTip(tr("Projekt speichern"));
-    actionSaveFile->setShortcut(QKeySequence::Save);
-    connect(actionSaveFile, &QAction::triggered, this, &KalMainWindow::on_actionSaveFile_triggered);
-
-    actionFileSaveAs = makeAction(QStringLiteral("actionFileSaveAs"), QStringLiteral("datei-speichern-als.ico"));
-    actionFileSaveAs->setText(tr("Speichern unter"));
-    actionFileSaveAs->setToolTip(tr("Projekt unter einem neuen Namen speichern"));
-    actionFileSaveAs->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
-    connect(actionFileSaveAs, &QAction::triggered, this, &KalMainWindow::on_actionFileSaveAs_triggered);
-
-    actionFileRecentPlaceholder = makeAction(QStringLiteral("actionFileRecentPlaceholder"), QString());
-    actionFileRecentPlaceholder->setText(QStringLiteral("Placeholder"));
-
-    actionCompactDB = makeAction(QStringLiteral("actionCompactDB"), QStringLiteral("icon-datei-datenbank.ico"));
-    actionCompactDB->setText(tr("Datenbank bereinigen"));
-    actionCompactDB->setToolTip(tr("Datenbank bereinigen"));
-    connect(actionCompactDB, &QAction::triggered, this, &KalMainWindow::on_actionCompactDB_triggered);
-
-    actionAddDefect = makeAction(QStringLiteral("actionAddDefect"), QStringLiteral("icon-add-defect.ico"));
-    actionAddDefect->setText(tr("Mangel hinzufügen"));
-    actionAddDefect->setToolTip(tr("neue Mängel"));
-    connect(actionAddDefect, &QAction::triggered, this, &KalMainWindow::on_actionAddDefect_triggered);
-
-    // Commands whose dialogs are not part of the program yet stay visible but
-    // disabled, so nothing pretends to work.
-    auto later = [this](const QString &name, const QString &icon, const QString &text, const QString &toolTip) {
-        QAction *a = makeAction(name, icon);
-        a->setText(text);
-        a->setToolTip(toolTip.isEmpty() ? QString(text).replace(QLatin1Char('\n'), QLatin1Char(' ')).trimmed()
-                                        : toolTip);
-        a->setEnabled(false);
-        return a;
-    };
-
-    actionEditPlanTable = later(QStringLiteral("actionEditPlanTable"), QStringLiteral("icon-plaene.ico"), tr("Pläne"),
-                                tr("Planverwaltung öffnen"));
-    actionEditStatusTable = makeAction(QStringLiteral("actionEditStatusTable"), QStringLiteral("icon-status.ico"));
-    actionEditStatusTable->setText(tr("Status"));
-    actionEditStatusTable->setIconText(tr("Statusverwaltung öffnen"));
-    actionEditStatusTable->setToolTip(tr("Statusverwaltung öffnen"));
-    connect(actionEditStatusTable, &QAction::triggered, this, &KalMainWindow::on_actionEditStatusTable_triggered);
-
-    actionEditProjectData =
-        makeAction(QStringLiteral("actionEditProjectData"), QStringLiteral("icon-projektdaten.ico"));
-    actionEditProjectData->setText(tr("Projektdaten bearbeiten"));
-    actionEditProjectData->setToolTip(tr("Projektdaten bearbeiten"));
-    connect(actionEditProjectData, &QAction::triggered, this, &KalMainWindow::on_actionEditProjectData_triggered);
-    actionEditCompanyTable = makeAction(QStringLiteral("actionEditCompanyTable"), QStringLiteral("icon-firmen.ico"));
-    actionEditCompanyTable->setText(tr("Firmenliste bearbeiten"));
-    actionEditCompanyTable->setToolTip(tr("Firmenliste bearbeiten"));
-    connect(actionEditCompanyTable, &QAction::triggered, this, &KalMainWindow::on_actionEditCompanyTable_triggered);
-    actionEditCompanyFormat =
-        makeAction(QStringLiteral("actionEditCompanyFormat"), QStringLiteral("icon-firmen-format.ico"));
-    actionEditCompanyFormat->setText(tr("Firmendaten Ausgabeformat"));
-    actionEditCompanyFormat->setToolTip(tr("Firmendaten Ausgabeformat"));
-    connect(actionEditCompanyFormat, &QAction::triggered, this, &KalMainWindow::on_actionEditCompanyFormat_triggered);
-    actionEditLogos = later(QStringLiteral("actionEditLogos"), QStringLiteral("icon-logo.ico"),
-                            tr("Logo hinzufügen / bearbeiten"), QString());
-
-    actionPrintDefectListShort =
-        later(QStringLiteral("actionPrintDefectListShort"), QStringLiteral("icon-drucken-kompakt.ico"),
-              tr("Mängelliste kompakt"), QString());
-    actionPrintDefectListLong =
-        later(QStringLiteral("actionPrintDefectListLong"), QStringLiteral("icon-drucken-detailliert.ico"),
-              tr("Mängelliste detailliert"), QString());
-    actionPrintPreview = later(QStringLiteral("actionPrintPreview"), QStringLiteral("icon-druckvorschau.ico"),
-                               tr("Druckvorschau"), QString());
-
-    actionInitialDataImport = later(QStringLiteral("actionInitialDataImport"), QStringLiteral("icon-datenimport.ico"),
-                                    tr("Mängel und Firmen aus einem Bautagebuch importieren"), QString());
-    actionUpdateDataImport =
-        later(QStringLiteral("actionUpdateDataImport"), QStringLiteral("icon-datenimport-aktualisieren.ico"),
-              tr("Mängel und Firmen aus dem Bautagebuch aktualisieren"), QString());
-    actionAutomaticNewRecordsImport =
-        later(QStringLiteral("actionAutomaticNewRecordsImport"), QStringLiteral("icon-datenimport-automatisch-ein.ico"),
-              tr("Automatischen Import neuer Mängel und Firmen einschalten"), QString());
-    actionAutomaticUpdateImport =
-        later(QStringLiteral("actionAutomaticUpdateImport"), QStringLiteral("icon-datenimport-automatisch-ein.ico"),
-              tr("Automatischen Import und Aktualisierung vorhandener Mängel und Firmen einschalten"), QString());
-    actionImportFromApp =
-        later(QStringLiteral("actionImportFromApp"), QStringLiteral("icon-datenimport-app.ico"),
-              tr("Mängel und Firmen aus der Quellor App importieren\n"), tr("Importiert Mängel aus der Quellor App"));
-    actionImportDefectManagerCompanies =
-        makeAction(QStringLiteral("actionImportDefectManagerCompanies"), QStringLiteral("icon-firmen-import.ico"));
-    actionImportDefectManagerCompanies->setText(tr("Import von Firmen aus anderer Pellwick-Datei"));
-    actionImportDefectManagerCompanies->setToolTip(tr("Import von Firmen aus anderer Pellwick-Datei"));
-    connect(actionImportDefectManagerCompanies, &QAction::triggered, this,
-            &KalMainWindow::on_actionImportDefectManagerCompanies_triggered);
-    actionImportSiteJournalCompanies =
-        makeAction(QStringLiteral("actionImportSiteJournalCompanies"), QStringLiteral("icon-firmen-import.ico"));
-    actionImportSiteJournalCompanies->setText(tr("Import von Firmen aus Quellor Bautagebuch"));
-    actionImportSiteJournalCompanies->setToolTip(tr("Import von Firmen aus Quellor Bautagebuch"));
-    connect(actionImportSiteJournalCompanies, &QAction::triggered, this,
-            &KalMainWindow::on_actionImportSiteJournalCompanies_triggered);
-    actionImportCSVCompanies =
-        makeAction(QStringLiteral("actionImportCSVCompanies"), QStringLiteral("icon-firmen-import.ico"));
-    actionImportCSVCompanies->setText(tr("Import von Firmen aus externer Adress-Datei"));
-    actionImportCSVCompanies->setToolTip(tr("Import von Firmen aus externer Adress-Datei"));
-    connect(actionImportCSVCompanies, &QAction::triggered, this, &KalMainWindow::on_actionImportCSVCompanies_triggered);
-
-    actionSettingsLanguage = makeAction(QStringLiteral("actionSettingsLanguage"), QStringLiteral("icon-sprache.ico"));
-    actionSettingsLanguage->setText(tr("Sprache wählen"));
-    actionSettingsLanguage->setToolTip(tr("Sprache wählen"));
-    connect(actionSettingsLanguage, &QAction::triggered, this, &KalMainWindow::on_actionSettingsLanguage_triggered);
-
-    actionSettingsCompleter = makeAction(QStringLiteral("actionSettingsCompleter"), QStringLiteral("icon-texte.ico"));
-    actionSettingsCompleter->setText(tr("Texte ändern - Eingabe"));
-    actionSettingsCompleter->setToolTip(tr("Texte ändern - Eingabe"));
-    connect(actionSettingsCompleter, &QAction::triggered, this, &KalMainWindow::on_actionSettingsCompleter_triggered);
-    actionStartSpellChecking =
-        makeAction(QStringLiteral("actionStartSpellChecking"), QStringLiteral("icon-rechtschreibung.ico"));
-    connect(actionStartSpellChecking, &QAction::triggered, this, &KalMainWindow::on_actionStartSpellChecking_triggered);
-    actionSettingsPlanSize = later(QStringLiteral("actionSettingsPlanSize"), QStringLiteral("icon-plangroesse.ico"),
-                                   tr("Plangröße"), QString());
-    actionSettingsImageSize = later(QStringLiteral("actionSettingsImageSize"), QStringLiteral("icon-fotogroesse.ico"),
-                                    tr("Fotogröße"), QString());
-    actionStandardMarker = later(QStringLiteral("actionStandardMarker"), QStringLiteral("icon-marker.ico"),
-                                 tr("Standardmarker"), QString());
-    actionStandardMarkerText = later(QStringLiteral("actionStandardMarkerText"), QStringLiteral("icon-marker-text.ico"),
-                                     tr("Mängeltexte im Plan"), QString());
-
-    actionTooltipHelp = makeAction(QStringLiteral("actionTooltipHelp"), QStringLiteral("icon-help.ico"));
-    connect(actionTooltipHelp, &QAction::triggered, this, &KalMainWindow::on_actionTooltipHelp_triggered);
-
-    actionShortHelpImportFromSiteJournal =
-        makeAction(QStringLiteral("actionShortHelpImportFromSiteJournal"), QStringLiteral("icon-help.ico"));
-    actionShortHelpImportFromSiteJournal->setText(tr("Wie übernehme ich Mängel und\nFirmen aus einem Bautagebuch?"));
-    connect(actionShortHelpImportFromSiteJournal, &QAction::triggered, this,
-            &KalMainWindow::on_actionShortHelpImportFromSiteJournal_triggered);
-
-    actionShortHelpImportFromMobile =
-        makeAction(QStringLiteral("actionShortHelpImportFromMobile"), QStringLiteral("icon-help.ico"));
-    actionShortHelpImportFromMobile->setText(tr("Wie übernehme ich Mängel und Firmen\nvon einem Mobilgerät?"));
-    connect(actionShortHelpImportFromMobile, &QAction::triggered, this,
-            &KalMainWindow::on_actionShortHelpImportFromMobile_triggered);
-
-    actionProgramInfoDialog = makeAction(QStringLiteral("actionProgramInfoDialog"), QStringLiteral("icon-info.ico"));
-    actionProgramInfoDialog->setText(tr("Info über Pellwick"));
-    connect(actionProgramInfoDialog, &QAction::triggered, this, &KalMainWindow::on_actionProgramInfoDialog_triggered);
-
-    actionUpdateTest = later(QStringLiteral("actionUpdateTest"), QStringLiteral("icon-update.ico"),
-                             tr("Auf Updates prüfen"), QString());
+void KalMainWindow::updateProjectActions()
+{
+    const bool open = m_project && m_project->isOpen();
+    for (const ActionSpec &spec : actionTable()) {
+        if (spec.enabled == ActionSpec::WithProject)
+            action(spec.name)->setEnabled(open);
+    }
 }
 
 void KalMainWindow::createMenus()
@@ -315,92 +472,32 @@ void KalMainWindow::createMenus()
                                  "QMenu::item:disabled { color: rgb(150,150,150); }"
                                  "QMenu::separator { height: 1px; background: rgb(210,210,210); margin: 3px 6px; }"));
 
-    QMenuBar *bar = menuBar();
-    menuFile = bar->addMenu(tr("Datei"));
-    menuFile->setObjectName(QStringLiteral("menuFile"));
-    menuFile->addAction(actionCreateFile);
-    menuFile->addAction(actionOpenFile);
-    menuFile->addAction(actionSaveFile);
-    menuFile->addAction(actionFileSaveAs);
-    menuFile->addSeparator();
-    menuFileRecent = menuFile->addMenu(resourceIcon(QStringLiteral("datei-recent.ico")), tr("Vorherige Dateien..."));
-    menuFileRecent->setObjectName(QStringLiteral("menuFileRecent"));
-    menuFileRecent->addAction(actionFileRecentPlaceholder);
-    menuFile->addSeparator();
-    menuFile->addAction(actionCompactDB);
-
-    menuEdit = bar->addMenu(tr("Bearbeiten"));
-    menuEdit->setObjectName(QStringLiteral("menuEdit"));
-    menuEdit->addAction(actionAddDefect);
-    menuEdit->addAction(actionEditPlanTable);
-    menuEdit->addAction(actionEditStatusTable);
-
-    menuMasterData = bar->addMenu(tr("Stammdaten"));
-    menuMasterData->setObjectName(QStringLiteral("menuMasterData"));
-    menuMasterData->addAction(actionEditProjectData);
-    menuMasterData->addAction(actionEditCompanyTable);
-    menuMasterData->addAction(actionEditCompanyFormat);
-    menuMasterData->addAction(actionEditLogos);
-
-    menuPrint = bar->addMenu(tr("Drucken"));
-    menuPrint->setObjectName(QStringLiteral("menuPrint"));
-    menuPrint->addAction(actionPrintDefectListShort);
-    menuPrint->addAction(actionPrintDefectListLong);
-    menuPrint->addAction(actionPrintPreview);
-
-    menuDataImport = bar->addMenu(tr("Datenimport"));
-    menuDataImport->setObjectName(QStringLiteral("menuDataImport"));
-    menuDataImport->addAction(actionInitialDataImport);
-    menuDataImport->addAction(actionUpdateDataImport);
-    menuDataImport->addAction(actionAutomaticNewRecordsImport);
-    menuDataImport->addAction(actionAutomaticUpdateImport);
-    menuDataImport->addSeparator();
-    menuDataImport->addAction(actionImportFromApp);
-    menuDataImport->addSeparator();
-    menuDataImport->addAction(actionImportDefectManagerCompanies);
-    menuDataImport->addAction(actionImportSiteJournalCompanies);
-    menuDataImport->addAction(actionImportCSVCompanies);
-
-    menuSettings = bar->addMenu(tr("Einstellungen"));
-    menuSettings->setObjectName(QStringLiteral("menuSettings"));
-    menuSettings->addAction(actionSettingsLanguage);
-    menuSettings->addAction(actionSettingsCompleter);
-    menuSettings->addAction(actionStartSpellChecking);
-    menuSettings->addSeparator();
-    menuSettings->addAction(actionSettingsPlanSize);
-    menuSettings->addAction(actionSettingsImageSize);
-    menuSettings->addSeparator();
-    menuSettings->addAction(actionStandardMarker);
-    menuSettings->addAction(actionStandardMarkerText);
-
-    menuHelp = bar->addMenu(tr("Hilfe"));
-    menuHelp->setObjectName(QStringLiteral("menuHelp"));
-    menuHelp->addAction(actionTooltipHelp);
-    menuHelp->addSeparator();
-    menuHelp->addAction(actionShortHelpImportFromSiteJournal);
-    menuHelp->addAction(actionShortHelpImportFromMobile);
-    menuHelp->addSeparator();
-    menuHelp->addAction(actionProgramInfoDialog);
-    menuHelp->addAction(actionUpdateTest);
+    for (const MenuSpec &spec : menuTable()) {
+        QMenu *menu = menuBar()->addMenu(tr(spec.title));
+        menu->setObjectName(QLatin1String(spec.name));
+        for (const char *name : spec.actions) {
+            if (qstrcmp(name, "-") == 0) {
+                menu->addSeparator();
+            } else if (qstrcmp(name, "menuFileRecent") == 0) {
+                m_menuFileRecent =
+                    menu->addMenu(resourceIcon(QStringLiteral("datei-recent.ico")), tr("Vorherige Dateien..."));
+                m_menuFileRecent->setObjectName(QLatin1String(name));
+                m_menuFileRecent->addAction(action("actionFileRecentPlaceholder"));
+            } else {
+                menu->addAction(action(name));
+            }
+        }
+    }
 
     m_toolBar = addToolBar(tr("Symbolleiste"));
     m_toolBar->setObjectName(QStringLiteral("mainToolBar"));
     m_toolBar->setIconSize(QSize(24, 24));
-    m_toolBar->addAction(actionCreateFile);
-    m_toolBar->addAction(actionOpenFile);
-    m_toolBar->addAction(actionSaveFile);
-    m_toolBar->addAction(actionFileSaveAs);
-    m_toolBar->addSeparator();
-    m_toolBar->addAction(actionAddDefect);
-    m_toolBar->addAction(actionEditPlanTable);
-    m_toolBar->addAction(actionEditStatusTable);
-    m_toolBar->addSeparator();
-    m_toolBar->addAction(actionEditProjectData);
-    m_toolBar->addAction(actionEditCompanyTable);
-    m_toolBar->addSeparator();
-    m_toolBar->addAction(actionPrintDefectListShort);
-    m_toolBar->addAction(actionPrintDefectListLong);
-    m_toolBar->addAction(actionPrintPreview);
+    for (const char *name : toolBarActions()) {
+        if (qstrcmp(name, "-") == 0)
+            m_toolBar->addSeparator();
+        else
+            m_toolBar->addAction(action(name));
+    }
 }
 
 void KalMainWindow::createCentralWidget()
@@ -436,39 +533,16 @@ void KalMainWindow::createCentralWidget()
     auto *tableButtons = new QHBoxLayout;
     pbDefectTableDisplayFormat = new QPushButton(tr("Alle Spalten anzeigen"), tablePane);
     pbDefectTableDisplayFormat->setObjectName(QStringLiteral("pbDefectTableDisplayFormat"));
-    connect(pbDefectTableDisplayFormat, &QPushButton::clicked, this,
-            &KalMainWindow::on_pbDefectTableDisplayFormat_clicked);
+    connect(pbDefectTableDisplayFormat, &QPushButton::clicked, this, &KalMainWindow::slotDefectTableDisplayFormat);
     tableButtons->addWidget(pbDefectTableDisplayFormat);
     tableButtons->addStretch(1);
     tableLayout->addLayout(tableButtons);
 
-    auto *planPane = new QWidget(m_splitter);
-    auto *planLayout = new QVBoxLayout(planPane);
-    planLayout->setContentsMargins(0, 0, 0, 0);
-    m_planScene = new QGraphicsScene(this);
-    gvPlan = new QGraphicsView(m_planScene, planPane);
-    gvPlan->setObjectName(QStringLiteral("gvPlan"));
-    gvPlan->setRenderHint(QPainter::SmoothPixmapTransform);
-    gvPlan->setDragMode(QGraphicsView::ScrollHandDrag);
-    gvPlan->installEventFilter(this);
-    gvPlan->viewport()->installEventFilter(this);
-    planLayout->addWidget(gvPlan, 1);
-    auto *planButtons = new QHBoxLayout;
-    pbShowTotalPlan = new QPushButton(tr("An Fenstergröße anpassen"), planPane);
-    pbShowTotalPlan->setObjectName(QStringLiteral("pbShowTotalPlan"));
-    connect(pbShowTotalPlan, &QPushButton::clicked, this, &KalMainWindow::on_pbShowTotalPlan_clicked);
-    pbZoomInfo = new QPushButton(planPane);
-    pbZoomInfo->setObjectName(QStringLiteral("pbZoomInfo"));
-    pbZoomInfo->setIcon(resourceIcon(QStringLiteral("icon-info.ico")));
-    pbZoomInfo->setToolTip(tr("Hinweise zum Zoomen"));
-    connect(pbZoomInfo, &QPushButton::clicked, this, &KalMainWindow::on_pbZoomInfo_clicked);
-    planButtons->addStretch(1);
-    planButtons->addWidget(pbShowTotalPlan);
-    planButtons->addWidget(pbZoomInfo);
-    planLayout->addLayout(planButtons);
+    m_planPanel = new KalPlanPanel(m_splitter);
+    connect(m_planPanel, &KalPlanPanel::planDoubleClicked, this, &KalMainWindow::slotPlanPanelDoubleClicked);
 
     m_splitter->addWidget(tablePane);
-    m_splitter->addWidget(planPane);
+    m_splitter->addWidget(m_planPanel);
     m_splitter->setStretchFactor(0, 2);
     m_splitter->setStretchFactor(1, 1);
     layout->addWidget(m_splitter, 1);
@@ -519,28 +593,28 @@ void KalMainWindow::updateImportMenuState()
     }
     const int mode = m_project->isOpen() ? m_project->readAutomaticImportMode() : 0;
 
-    actionInitialDataImport->setVisible(!linked);
-    actionUpdateDataImport->setVisible(linked);
-    actionAutomaticNewRecordsImport->setVisible(linked && mode != 2);
-    actionAutomaticUpdateImport->setVisible(linked);
+    QAction *newRecords = action("actionAutomaticNewRecordsImport");
+    QAction *update = action("actionAutomaticUpdateImport");
+    action("actionInitialDataImport")->setVisible(!linked);
+    action("actionUpdateDataImport")->setVisible(linked);
+    newRecords->setVisible(linked && mode != 2);
+    update->setVisible(linked);
 
     const QString on = QStringLiteral("icon-datenimport-automatisch-ein.ico");
     const QString off = QStringLiteral("icon-datenimport-automatisch-aus.ico");
     if (mode == 1) {
-        actionAutomaticNewRecordsImport->setText(tr("Automatischen Import neuer Mängel und Firmen ausschalten"));
-        actionAutomaticNewRecordsImport->setIcon(resourceIcon(off));
+        newRecords->setText(tr("Automatischen Import neuer Mängel und Firmen ausschalten"));
+        newRecords->setIcon(resourceIcon(off));
     } else {
-        actionAutomaticNewRecordsImport->setText(tr("Automatischen Import neuer Mängel und Firmen einschalten"));
-        actionAutomaticNewRecordsImport->setIcon(resourceIcon(on));
+        newRecords->setText(tr("Automatischen Import neuer Mängel und Firmen einschalten"));
+        newRecords->setIcon(resourceIcon(on));
     }
     if (mode == 2) {
-        actionAutomaticUpdateImport->setText(
-            tr("Automatischen Import und Aktualisierung vorhandener Mängel und Firmen ausschalten"));
-        actionAutomaticUpdateImport->setIcon(resourceIcon(off));
+        update->setText(tr("Automatischen Import und Aktualisierung vorhandener Mängel und Firmen ausschalten"));
+        update->setIcon(resourceIcon(off));
     } else {
-        actionAutomaticUpdateImport->setText(
-            tr("Automatischen Import und Aktualisierung vorhandener Mängel und Firmen einschalten"));
-        actionAutomaticUpdateImport->setIcon(resourceIcon(on));
+        update->setText(tr("Automatischen Import und Aktualisierung vorhandener Mängel und Firmen einschalten"));
+        update->setIcon(resourceIcon(on));
     }
 }
 
@@ -551,6 +625,7 @@ bool KalMainWindow::tooltipHelpActive() const
 
 void KalMainWindow::updateTooltipHelpAction()
 {
+    QAction *actionTooltipHelp = action("actionTooltipHelp");
     if (tooltipHelpActive()) {
         actionTooltipHelp->setText(tr("Hilfetexte ausschalten"));
         actionTooltipHelp->setIcon(resourceIcon(QStringLiteral("icon-help-off.ico")));
@@ -559,10 +634,11 @@ void KalMainWindow::updateTooltipHelpAction()
         actionTooltipHelp->setIcon(resourceIcon(QStringLiteral("icon-help.ico")));
     }
     actionTooltipHelp->setToolTip(actionTooltipHelp->text());
+    m_planPanel->setHelpActive(tooltipHelpActive());
     rebuildRecentMenu();
 }
 
-void KalMainWindow::on_actionTooltipHelp_triggered()
+void KalMainWindow::slotTooltipHelp()
 {
     QSettings().setValue(QLatin1String(kTooltipHelpKey), !tooltipHelpActive());
     if (!tooltipHelpActive())
@@ -570,44 +646,42 @@ void KalMainWindow::on_actionTooltipHelp_triggered()
     updateTooltipHelpAction();
 }
 
+QStringList KalMainWindow::recentFiles() const
+{
+    return m_recentFiles->files();
+}
+
 void KalMainWindow::addRecentFile(const QString &path)
 {
-    if (path.isEmpty())
-        return;
-    const QString absolute = QFileInfo(path).absoluteFilePath();
-    m_recentFiles.removeAll(absolute);
-    m_recentFiles.prepend(absolute);
-    QSettings().setValue(QLatin1String(kRecentKey), m_recentFiles);
-    rebuildRecentMenu();
+    m_recentFiles->add(path);
 }
 
 void KalMainWindow::removeRecentFile(const QString &path)
 {
-    m_recentFiles.removeAll(QFileInfo(path).absoluteFilePath());
-    QSettings().setValue(QLatin1String(kRecentKey), m_recentFiles);
-    rebuildRecentMenu();
+    m_recentFiles->remove(path);
 }
 
 void KalMainWindow::rebuildRecentMenu()
 {
-    if (!menuFileRecent)
+    if (!m_menuFileRecent)
         return;
-    for (QAction *a : menuFileRecent->actions()) {
-        if (a != actionFileRecentPlaceholder)
+    for (QAction *a : m_menuFileRecent->actions()) {
+        if (a != action("actionFileRecentPlaceholder"))
             a->deleteLater();
     }
-    menuFileRecent->clear();
+    m_menuFileRecent->clear();
     const bool help = tooltipHelpActive();
-    for (const QString &path : qAsConst(m_recentFiles)) {
+    const QStringList files = m_recentFiles->files();
+    for (const QString &path : files) {
         QAction *a =
-            menuFileRecent->addAction(resourceIcon(QStringLiteral("datei-recent.ico")), QFileInfo(path).fileName());
+            m_menuFileRecent->addAction(resourceIcon(QStringLiteral("datei-recent.ico")), QFileInfo(path).fileName());
         a->setData(path);
         if (help)
             a->setToolTip(tr("Öffnet die Datei %1").arg(QDir::toNativeSeparators(path)));
         connect(a, &QAction::triggered, this, &KalMainWindow::slotOpenRecentFile);
     }
-    menuFileRecent->setToolTipsVisible(help);
-    menuFileRecent->setEnabled(!m_recentFiles.isEmpty());
+    m_menuFileRecent->setToolTipsVisible(help);
+    m_menuFileRecent->setEnabled(!files.isEmpty());
 }
 
 void KalMainWindow::slotOpenRecentFile()
@@ -635,7 +709,7 @@ void KalMainWindow::setDefectTableFormat(int format)
     applyDefectTableFormat();
 }
 
-void KalMainWindow::on_pbDefectTableDisplayFormat_clicked()
+void KalMainWindow::slotDefectTableDisplayFormat()
 {
     setDefectTableFormat(m_defectTableFormat == 2 ? 1 : 2);
 }
@@ -732,19 +806,16 @@ void KalMainWindow::slotProjectOpened()
     updateProjectHeader();
     updateImportMenuState();
     bindDefectTable();
-    clearPlanPanel();
-    showPlanHint();
-    actionSaveFile->setEnabled(true);
-    actionFileSaveAs->setEnabled(true);
-    actionCompactDB->setEnabled(true);
-    actionAddDefect->setEnabled(true);
+    m_planPanel->showHint();
+    updateProjectActions();
 }
 
 void KalMainWindow::slotProjectClosed()
 {
     storeColumnWidths();
     tvDefects->setModel(nullptr);
-    clearPlanPanel();
+    m_planPanel->clear();
+    updateProjectActions();
 }
 
 void KalMainWindow::slotModifiedChanged(bool modified)
@@ -755,130 +826,45 @@ void KalMainWindow::slotModifiedChanged(bool modified)
 
 QString KalMainWindow::planPanelHint() const
 {
-    return tr("Dieser Mangel ist in keinem Plan verortet.\nMit einem Doppelklick in dieses Fenster können Sie dem "
-              "Mangel einen Plan zuordnen.\nMit einem Doppelklick auf einen Mangel können Sie diesen Mangel "
-              "bearbeiten.\n");
-}
-
-void KalMainWindow::clearPlanPanel()
-{
-    m_planScene->clear();
-    m_hintItem = nullptr;
-    m_planPixmap = QPixmap();
-    m_shownPlanId = -1;
-    pbShowTotalPlan->setEnabled(false);
-}
-
-void KalMainWindow::showPlanHint()
-{
-    clearPlanPanel();
-    m_hintItem = m_planScene->addText(planPanelHint());
-    m_hintItem->setDefaultTextColor(QColor(110, 110, 110));
-    gvPlan->resetTransform();
-    layoutPlanHint();
-}
-
-void KalMainWindow::layoutPlanHint()
-{
-    if (!m_hintItem)
-        return;
-    // The hint wraps to the panel and never needs scrolling.
-    const QSize area = gvPlan->viewport()->size();
-    m_hintItem->setTextWidth(qMax(120, area.width() - 24));
-    const QRectF text = m_hintItem->boundingRect();
-    m_planScene->setSceneRect(
-        QRectF(-12, 0, qMax<qreal>(text.width() + 24, area.width()), qMax<qreal>(text.height(), area.height() - 4)));
-    gvPlan->centerOn(m_hintItem);
+    return KalPlanPanel::hintText();
 }
 
 void KalMainWindow::defectRowChanged(const QModelIndex &prevIndex, const QModelIndex &actIndex)
 {
     Q_UNUSED(prevIndex)
-    // Plans cannot be assigned to defects yet; every defect shows the hint.
-    if (actIndex.isValid() || m_shownPlanId != -1 || m_planScene->items().isEmpty())
-        showPlanHint();
+    m_planPanel->showDefect(actIndex.isValid());
 }
 
-void KalMainWindow::fitPlan()
+void KalMainWindow::slotPlanPanelDoubleClicked()
 {
-    if (m_planScene->items().isEmpty())
-        return;
-    if (m_planPixmap.isNull()) {
-        showPlanHint();
-        return;
-    }
-    gvPlan->fitInView(m_planScene->itemsBoundingRect(), Qt::KeepAspectRatio);
-}
-
-void KalMainWindow::on_pbShowTotalPlan_clicked()
-{
-    fitPlan();
-}
-
-void KalMainWindow::on_pbZoomInfo_clicked()
-{
-    showHelpTip(pbZoomInfo, tr("Mit dem Mausrad vergrößern und verkleinern Sie den Plan.\n"
-                               "Mit gedrückter linker Maustaste verschieben Sie den Ausschnitt.\n"
-                               "\"An Fenstergröße anpassen\" zeigt den ganzen Plan."));
-}
-
-void KalMainWindow::showHelpTip(QWidget *widget, const QString &text)
-{
-    QToolTip::showText(widget->mapToGlobal(QPoint(widget->width() / 2, widget->height() / 2)), text, widget);
-}
-
-void KalMainWindow::resizeEvent(QResizeEvent *event)
-{
-    QMainWindow::resizeEvent(event);
-    layoutPlanHint();
+    // The plan library and editor are not part of the program yet; say so
+    // instead of silently ignoring the double click the hint invites.
+    if (tvDefects->currentIndex().isValid())
+        KalPrompt::information(tr("Pläne"),
+                               tr("Die Zuordnung von Plänen ist in dieser Programmversion noch nicht verfügbar."));
 }
 
 bool KalMainWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    if (!gvPlan || !tvDefects || !m_planScene)
+    if (!tvDefects || (watched != tvDefects && watched != tvDefects->viewport()))
         return QMainWindow::eventFilter(watched, event);
-    const bool inPlan = watched == gvPlan || watched == gvPlan->viewport();
-    const bool inTable = watched == tvDefects || watched == tvDefects->viewport();
-    if (!inPlan && !inTable)
-        return QMainWindow::eventFilter(watched, event);
-
     switch (event->type()) {
-    case QEvent::Resize:
-        if (watched == gvPlan->viewport())
-            layoutPlanHint();
-        break;
-    case QEvent::MouseButtonDblClick:
-        // The plan library and editor are not part of the program yet; say
-        // so instead of silently ignoring the double click the hint invites.
-        if (inPlan && m_shownPlanId == -1 && tvDefects->currentIndex().isValid()) {
-            KalPrompt::information(tr("Pläne"), tr("Die Zuordnung von Plänen ist in dieser Programmversion noch "
-                                                   "nicht verfügbar."));
-            return true;
-        }
-        break;
-    case QEvent::ToolTip: {
+    case QEvent::ToolTip:
+        // The help text shows once per visit; the cells' own tool tips stay.
         if (!tooltipHelpActive()) {
             QToolTip::hideText();
-            return inPlan; // the table's own cell tool tips stay
-        }
-        bool &shown = inPlan ? m_planHelpShown : m_tableHelpShown;
-        if (!shown) {
-            shown = true;
-            QWidget *w = inPlan ? static_cast<QWidget *>(gvPlan) : static_cast<QWidget *>(tvDefects);
-            showHelpTip(w, inPlan ? tr("Plan des gewählten Mangels.\nMausrad: vergrößern und verkleinern.\n"
-                                       "Doppelklick: Plan zuordnen oder im Plan verorten.")
-                                  : tr("Liste der Mängel des Projekts.\nDoppelklick auf einen Mangel: bearbeiten.\n"
-                                       "Klick auf eine Spaltenüberschrift: sortieren.\n"
-                                       "Die Knöpfe unten links fügen Mängel hinzu, kopieren oder löschen sie."));
+        } else if (!m_tableHelpShown) {
+            m_tableHelpShown = true;
+            QToolTip::showText(tvDefects->mapToGlobal(tvDefects->rect().center()),
+                               tr("Liste der Mängel des Projekts.\nDoppelklick auf einen Mangel: bearbeiten.\n"
+                                  "Klick auf eine Spaltenüberschrift: sortieren.\n"
+                                  "Die Knöpfe unten links fügen Mängel hinzu, kopieren oder löschen sie."),
+                               tvDefects);
             return true;
         }
-        return inPlan;
-    }
+        break;
     case QEvent::Leave:
-        if (inPlan)
-            m_planHelpShown = false;
-        else
-            m_tableHelpShown = false;
+        m_tableHelpShown = false;
         break;
     default:
         break;

@@ -5,6 +5,7 @@
 #include "core/project/KalEnvironment.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
+#include "core/project/KalRecentFiles.h"
 #include "core/project/KalSettings.h"
 #include "core/project/KalSqlError.h"
 #include "core/project/KalSqlTableModel.h"
@@ -201,10 +202,9 @@ bool KalMainWindow::openProject(const QString &path)
     if (maybeSave(false, false) != GoOn)
         return false;
     // A file that is gone is reported before the open project is given up.
-    if (!QFileInfo::exists(path)) {
+    if (!m_recentFiles->keepIfExists(path)) {
         KalPrompt::critical(tr("Dateifehler"),
                             tr("Die Datei\n%1\nexistiert nicht.").arg(QDir::toNativeSeparators(path)));
-        removeRecentFile(path);
         return false;
     }
     if (m_project->isOpen() && !closeProject(false))
@@ -212,8 +212,7 @@ bool KalMainWindow::openProject(const QString &path)
 
     if (!m_project->openProject(path)) {
         KalPrompt::critical(tr("Fehler"), tr("Beim Öffnen des gewählten Projekts ist ein Fehler aufgetreten!"));
-        if (!QFileInfo::exists(path))
-            removeRecentFile(path);
+        m_recentFiles->keepIfExists(path);
         // The window always works on a project.
         if (!m_project->isOpen() && !m_project->newProject())
             KalPrompt::critical(tr("Fehler"), tr("Beim Erstellen eines neuen Projekts ist ein Fehler aufgetreten!"));
@@ -242,12 +241,12 @@ bool KalMainWindow::createProjectAt(const QString &path)
     return true;
 }
 
-void KalMainWindow::on_actionCreateFile_triggered()
+void KalMainWindow::slotCreateFile()
 {
     newProject();
 }
 
-void KalMainWindow::on_actionOpenFile_triggered()
+void KalMainWindow::slotOpenFile()
 {
     const QString path =
         KalFileDialog::getOpenFileName(this, KalSettings::ProjectOpen, tr("Projekt öffnen"), projectFilter());
@@ -255,17 +254,17 @@ void KalMainWindow::on_actionOpenFile_triggered()
         openProject(path);
 }
 
-void KalMainWindow::on_actionSaveFile_triggered()
+void KalMainWindow::slotSaveFile()
 {
     maybeSave(false, true);
 }
 
-void KalMainWindow::on_actionFileSaveAs_triggered()
+void KalMainWindow::slotFileSaveAs()
 {
     maybeSave(true, true);
 }
 
-void KalMainWindow::on_actionCompactDB_triggered()
+void KalMainWindow::slotCompactDB()
 {
     const QString title = tr("Datenbank bereinigen");
     KalPrompt::Message intro;
@@ -429,7 +428,7 @@ void KalMainWindow::selectDefects(const QList<qint64> &ids)
         tvDefects->scrollTo(tvDefects->currentIndex(), QAbstractItemView::PositionAtCenter);
 }
 
-void KalMainWindow::on_actionAddDefect_triggered()
+void KalMainWindow::slotAddDefect()
 {
     slotDefectTableAddButtonClicked();
 }
@@ -502,17 +501,17 @@ void KalMainWindow::openMasterData(int page)
     selectDefects(selected);
 }
 
-void KalMainWindow::on_actionEditProjectData_triggered()
+void KalMainWindow::slotEditProjectData()
 {
     openMasterData(KalMasterDataDialog::ProjectPage);
 }
 
-void KalMainWindow::on_actionEditCompanyTable_triggered()
+void KalMainWindow::slotEditCompanyTable()
 {
     openMasterData(KalMasterDataDialog::CompanyPage);
 }
 
-void KalMainWindow::on_actionEditCompanyFormat_triggered()
+void KalMainWindow::slotEditCompanyFormat()
 {
     openMasterData(KalMasterDataDialog::CompanyFormatPage);
 }
@@ -527,22 +526,22 @@ void KalMainWindow::importCompanies(int source)
     tvDefects->viewport()->update();
 }
 
-void KalMainWindow::on_actionImportDefectManagerCompanies_triggered()
+void KalMainWindow::slotImportDefectManagerCompanies()
 {
     importCompanies(KalCompanyImportSelectDialog::ProjectFile);
 }
 
-void KalMainWindow::on_actionImportSiteJournalCompanies_triggered()
+void KalMainWindow::slotImportSiteJournalCompanies()
 {
     importCompanies(KalCompanyImportSelectDialog::SiteJournal);
 }
 
-void KalMainWindow::on_actionImportCSVCompanies_triggered()
+void KalMainWindow::slotImportCSVCompanies()
 {
     importCompanies(KalCompanyImportSelectDialog::AddressFile);
 }
 
-void KalMainWindow::on_actionEditStatusTable_triggered()
+void KalMainWindow::slotEditStatusTable()
 {
     if (!m_project->isOpen())
         return;
@@ -572,6 +571,7 @@ void KalMainWindow::slotRestoreSelectionAfterSorting(int logicalIndex)
 
 void KalMainWindow::updateSpellCheckingAction()
 {
+    QAction *actionStartSpellChecking = action("actionStartSpellChecking");
     KalSpellChecker *checker = KalSpellChecker::instance();
     const bool active = checker && checker->isValid() && checker->isActive();
     actionStartSpellChecking->setEnabled(checker != nullptr);
@@ -579,13 +579,13 @@ void KalMainWindow::updateSpellCheckingAction()
     actionStartSpellChecking->setToolTip(actionStartSpellChecking->text());
 }
 
-void KalMainWindow::on_actionSettingsCompleter_triggered()
+void KalMainWindow::slotSettingsCompleter()
 {
     KalCompleterDialog dialog(this);
     dialog.exec();
 }
 
-void KalMainWindow::on_actionStartSpellChecking_triggered()
+void KalMainWindow::slotStartSpellChecking()
 {
     KalSpellChecker *checker = KalSpellChecker::instance();
     const bool active = checker && checker->isValid() && checker->isActive();
@@ -613,7 +613,7 @@ bool KalMainWindow::linkSiteJournal(const QString &siteJournalPath)
     return true;
 }
 
-void KalMainWindow::on_actionSettingsLanguage_triggered()
+void KalMainWindow::slotSettingsLanguage()
 {
     KalLanguageDialog dialog(true, this);
     if (dialog.exec() == QDialog::Accepted && dialog.restartRequested())
@@ -638,19 +638,19 @@ bool KalMainWindow::restartApplication()
     return true;
 }
 
-void KalMainWindow::on_actionShortHelpImportFromSiteJournal_triggered()
+void KalMainWindow::slotShortHelpImportFromSiteJournal()
 {
     KalShortHelpDialog dialog(KalShortHelpDialog::ImportFromSiteJournal, this);
     dialog.exec();
 }
 
-void KalMainWindow::on_actionShortHelpImportFromMobile_triggered()
+void KalMainWindow::slotShortHelpImportFromMobile()
 {
     KalShortHelpDialog dialog(KalShortHelpDialog::ImportFromMobile, this);
     dialog.exec();
 }
 
-void KalMainWindow::on_actionProgramInfoDialog_triggered()
+void KalMainWindow::slotProgramInfoDialog()
 {
     KalPrompt::information(tr("Info"), QStringLiteral("Quellor Pellwick\n") +
                                            tr("Version %1").arg(QStringLiteral(PELLWICK_VERSION)));
