@@ -42,9 +42,9 @@ KalCompanyImportSelectDialog::KalCompanyImportSelectDialog(KalProject *project, 
     layout->addSpacing(8);
     layout->addWidget(pbCancel);
 
-    connect(pbAddressFile, &QPushButton::clicked, this, &KalCompanyImportSelectDialog::on_pbAddressFile_clicked);
-    connect(pbProjectFile, &QPushButton::clicked, this, &KalCompanyImportSelectDialog::on_pbProjectFile_clicked);
-    connect(pbSiteJournal, &QPushButton::clicked, this, &KalCompanyImportSelectDialog::on_pbSiteJournal_clicked);
+    connect(pbAddressFile, &QPushButton::clicked, this, &KalCompanyImportSelectDialog::slotAddressFileClicked);
+    connect(pbProjectFile, &QPushButton::clicked, this, &KalCompanyImportSelectDialog::slotProjectFileClicked);
+    connect(pbSiteJournal, &QPushButton::clicked, this, &KalCompanyImportSelectDialog::slotSiteJournalClicked);
     connect(pbCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
@@ -75,17 +75,17 @@ QString KalCompanyImportSelectDialog::fileDialogFilter(Source source)
     return QString();
 }
 
-void KalCompanyImportSelectDialog::on_pbAddressFile_clicked()
+void KalCompanyImportSelectDialog::slotAddressFileClicked()
 {
     choose(AddressFile);
 }
 
-void KalCompanyImportSelectDialog::on_pbProjectFile_clicked()
+void KalCompanyImportSelectDialog::slotProjectFileClicked()
 {
     choose(ProjectFile);
 }
 
-void KalCompanyImportSelectDialog::on_pbSiteJournal_clicked()
+void KalCompanyImportSelectDialog::slotSiteJournalClicked()
 {
     choose(SiteJournal);
 }

@@ -30,9 +30,9 @@ public:
     QVector<qint64> insertedIds() const { return m_insertedIds; }
 
 public slots:
-    void on_pbAddressFile_clicked();
-    void on_pbProjectFile_clicked();
-    void on_pbSiteJournal_clicked();
+    void slotAddressFileClicked();
+    void slotProjectFileClicked();
+    void slotSiteJournalClicked();
 
 private:
     void choose(Source source);
