@@ -56,8 +56,9 @@ public:
 
     // Adds a defect with its defaults and selects it; its id or -1.
     qint64 addDefect();
-    // Runs the defect editor on a defect and selects it again afterwards.
-    void openDefectEditor(qint64 id);
+    // Runs the defect editor on a defect and selects it again afterwards;
+    // true when the editor was left with OK.
+    bool openDefectEditor(qint64 id);
     // Copies the given defects; the ids of the copies.
     QList<qint64> copyDefects(const QList<qint64> &ids);
     QList<qint64> selectedDefectIds() const;

@@ -436,21 +436,28 @@ void KalMainWindow::slotAddDefect()
 void KalMainWindow::slotDefectTableAddButtonClicked()
 {
     const qint64 id = addDefect();
-    if (id > 0)
-        openDefectEditor(id);
+    if (id <= 0 || openDefectEditor(id))
+        return;
+    // Cancelling the editor of a new defect takes the defect back; its id
+    // stays used.
+    if (KalSqlTableModel *model = defectModel()) {
+        model->removeRowsById({id});
+        defectRowChanged(QModelIndex(), tvDefects->currentIndex());
+    }
 }
 
-void KalMainWindow::openDefectEditor(qint64 id)
+bool KalMainWindow::openDefectEditor(qint64 id)
 {
     KalSqlTableModel *model = defectModel();
     if (!model)
-        return;
+        return false;
     const int row = model->findRowById(id);
     if (row < 0)
-        return;
+        return false;
+    bool accepted;
     {
         KalDefectEditor editor(m_project, row, this);
-        editor.exec();
+        accepted = editor.exec() == QDialog::Accepted;
     }
     // Sorting or the edit may have moved the row: find it again by id.
     tvDefects->doItemsLayout();
@@ -459,6 +466,7 @@ void KalMainWindow::openDefectEditor(qint64 id)
         tvDefects->selectId(id, QAbstractItemView::PositionAtCenter);
         defectRowChanged(QModelIndex(), tvDefects->currentIndex());
     }
+    return accepted;
 }
 
 void KalMainWindow::slotDefectTableCopyButtonClicked()
