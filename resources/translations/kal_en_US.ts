@@ -1278,14 +1278,6 @@ from a mobile device?</translation>
         <translation>Show all columns</translation>
     </message>
     <message>
-        <source>An Fenstergröße anpassen</source>
-        <translation>Fit to window</translation>
-    </message>
-    <message>
-        <source>Hinweise zum Zoomen</source>
-        <translation>Zoom hints</translation>
-    </message>
-    <message>
         <source>Neues Pellwick-Projekt</source>
         <translation>New Pellwick project</translation>
     </message>
@@ -1324,32 +1316,6 @@ from a mobile device?</translation>
     <message>
         <source>Alle Spalten einblenden</source>
         <translation>Show all columns</translation>
-    </message>
-    <message>
-        <source>Dieser Mangel ist in keinem Plan verortet.
-Mit einem Doppelklick in dieses Fenster können Sie dem Mangel einen Plan zuordnen.
-Mit einem Doppelklick auf einen Mangel können Sie diesen Mangel bearbeiten.
-</source>
-        <translation>This defect is not located on any plan.
-Double-click in this window to assign a plan to the defect.
-Double-click on a defect to edit it.
-</translation>
-    </message>
-    <message>
-        <source>Mit dem Mausrad vergrößern und verkleinern Sie den Plan.
-Mit gedrückter linker Maustaste verschieben Sie den Ausschnitt.
-&quot;An Fenstergröße anpassen&quot; zeigt den ganzen Plan.</source>
-        <translation>Use the mouse wheel to zoom the plan in and out.
-Hold down the left mouse button to move the view.
-&quot;Fit to window&quot; shows the whole plan.</translation>
-    </message>
-    <message>
-        <source>Plan des gewählten Mangels.
-Mausrad: vergrößern und verkleinern.
-Doppelklick: Plan zuordnen oder im Plan verorten.</source>
-        <translation>Plan of the selected defect.
-Mouse wheel: zoom in and out.
-Double-click: assign a plan or locate the defect on the plan.</translation>
     </message>
     <message>
         <source>Pellwick Projekt (*.pwp)</source>
@@ -1598,6 +1564,43 @@ The buttons at the bottom left add, copy or delete defects.</translation>
     <message>
         <source>Diese Meldung nicht mehr anzeigen</source>
         <translation>Do not show this message again</translation>
+    </message>
+</context>
+<context>
+    <name>KalPlanPanel</name>
+    <message>
+        <source>An Fenstergröße anpassen</source>
+        <translation>Fit to window</translation>
+    </message>
+    <message>
+        <source>Hinweise zum Zoomen</source>
+        <translation>Zoom hints</translation>
+    </message>
+    <message>
+        <source>Dieser Mangel ist in keinem Plan verortet.
+Mit einem Doppelklick in dieses Fenster können Sie dem Mangel einen Plan zuordnen.
+Mit einem Doppelklick auf einen Mangel können Sie diesen Mangel bearbeiten.
+</source>
+        <translation>This defect is not located on any plan.
+Double-click in this window to assign a plan to the defect.
+Double-click on a defect to edit it.
+</translation>
+    </message>
+    <message>
+        <source>Mit dem Mausrad vergrößern und verkleinern Sie den Plan.
+Mit gedrückter linker Maustaste verschieben Sie den Ausschnitt.
+&quot;An Fenstergröße anpassen&quot; zeigt den ganzen Plan.</source>
+        <translation>Use the mouse wheel to zoom the plan in and out.
+Hold down the left mouse button to move the view.
+&quot;Fit to window&quot; shows the whole plan.</translation>
+    </message>
+    <message>
+        <source>Plan des gewählten Mangels.
+Mausrad: vergrößern und verkleinern.
+Doppelklick: Plan zuordnen oder im Plan verorten.</source>
+        <translation>Plan of the selected defect.
+Mouse wheel: zoom in and out.
+Double-click: assign a plan or locate the defect on the plan.</translation>
     </message>
 </context>
 <context>
@@ -2429,6 +2432,20 @@ Do you really want to delete the selected status?</translation>
     <message>
         <source>Soll der gewählte Eintrag tatsächlich entfernt werden?</source>
         <translation>Do you really want to remove the selected entry?</translation>
+    </message>
+    <message>
+        <source>Einträge entfernen</source>
+        <translation>Remove entries</translation>
+    </message>
+    <message>
+        <source>Sollen die %1 gewählten Einträge tatsächlich entfernt werden?</source>
+        <translation>Do you really want to remove the %1 selected entries?</translation>
+    </message>
+    <message>
+        <source>Wenn Sie einen Status löschen, der bereits Mängeln zugeordnet ist, verlieren diese Mängel ihren Status!
+Sollen die %1 gewählten Status tatsächlich gelöscht werden?</source>
+        <translation>If you delete a status that is already assigned to defects, these defects lose their status!
+Do you really want to delete the %1 selected statuses?</translation>
     </message>
 </context>
 <context>

@@ -1278,14 +1278,6 @@ desde un dispositivo móvil?</translation>
         <translation>Mostrar todas las columnas</translation>
     </message>
     <message>
-        <source>An Fenstergröße anpassen</source>
-        <translation>Ajustar a la ventana</translation>
-    </message>
-    <message>
-        <source>Hinweise zum Zoomen</source>
-        <translation>Indicaciones para el zoom</translation>
-    </message>
-    <message>
         <source>Neues Pellwick-Projekt</source>
         <translation>Nuevo proyecto de Pellwick</translation>
     </message>
@@ -1324,32 +1316,6 @@ desde un dispositivo móvil?</translation>
     <message>
         <source>Alle Spalten einblenden</source>
         <translation>Mostrar todas las columnas</translation>
-    </message>
-    <message>
-        <source>Dieser Mangel ist in keinem Plan verortet.
-Mit einem Doppelklick in dieses Fenster können Sie dem Mangel einen Plan zuordnen.
-Mit einem Doppelklick auf einen Mangel können Sie diesen Mangel bearbeiten.
-</source>
-        <translation>Este defecto no está ubicado en ningún plano.
-Con un doble clic en esta ventana puede asignar un plano al defecto.
-Con un doble clic en un defecto puede editarlo.
-</translation>
-    </message>
-    <message>
-        <source>Mit dem Mausrad vergrößern und verkleinern Sie den Plan.
-Mit gedrückter linker Maustaste verschieben Sie den Ausschnitt.
-&quot;An Fenstergröße anpassen&quot; zeigt den ganzen Plan.</source>
-        <translation>Con la rueda del ratón amplía y reduce el plano.
-Manteniendo pulsado el botón izquierdo del ratón desplaza la vista.
-«Ajustar a la ventana» muestra el plano completo.</translation>
-    </message>
-    <message>
-        <source>Plan des gewählten Mangels.
-Mausrad: vergrößern und verkleinern.
-Doppelklick: Plan zuordnen oder im Plan verorten.</source>
-        <translation>Plano del defecto seleccionado.
-Rueda del ratón: ampliar y reducir.
-Doble clic: asignar un plano o ubicar el defecto en el plano.</translation>
     </message>
     <message>
         <source>Pellwick Projekt (*.pwp)</source>
@@ -1598,6 +1564,43 @@ Los botones de abajo a la izquierda añaden, copian o eliminan defectos.</transl
     <message>
         <source>Diese Meldung nicht mehr anzeigen</source>
         <translation>No volver a mostrar este mensaje</translation>
+    </message>
+</context>
+<context>
+    <name>KalPlanPanel</name>
+    <message>
+        <source>An Fenstergröße anpassen</source>
+        <translation>Ajustar a la ventana</translation>
+    </message>
+    <message>
+        <source>Hinweise zum Zoomen</source>
+        <translation>Indicaciones para el zoom</translation>
+    </message>
+    <message>
+        <source>Dieser Mangel ist in keinem Plan verortet.
+Mit einem Doppelklick in dieses Fenster können Sie dem Mangel einen Plan zuordnen.
+Mit einem Doppelklick auf einen Mangel können Sie diesen Mangel bearbeiten.
+</source>
+        <translation>Este defecto no está ubicado en ningún plano.
+Con un doble clic en esta ventana puede asignar un plano al defecto.
+Con un doble clic en un defecto puede editarlo.
+</translation>
+    </message>
+    <message>
+        <source>Mit dem Mausrad vergrößern und verkleinern Sie den Plan.
+Mit gedrückter linker Maustaste verschieben Sie den Ausschnitt.
+&quot;An Fenstergröße anpassen&quot; zeigt den ganzen Plan.</source>
+        <translation>Con la rueda del ratón amplía y reduce el plano.
+Manteniendo pulsado el botón izquierdo del ratón desplaza la vista.
+«Ajustar a la ventana» muestra el plano completo.</translation>
+    </message>
+    <message>
+        <source>Plan des gewählten Mangels.
+Mausrad: vergrößern und verkleinern.
+Doppelklick: Plan zuordnen oder im Plan verorten.</source>
+        <translation>Plano del defecto seleccionado.
+Rueda del ratón: ampliar y reducir.
+Doble clic: asignar un plano o ubicar el defecto en el plano.</translation>
     </message>
 </context>
 <context>
@@ -2429,6 +2432,20 @@ Soll der gewählte Status tatsächlich gelöscht werden?</source>
     <message>
         <source>Soll der gewählte Eintrag tatsächlich entfernt werden?</source>
         <translation>¿Desea eliminar realmente la entrada seleccionada?</translation>
+    </message>
+    <message>
+        <source>Einträge entfernen</source>
+        <translation>Eliminar entradas</translation>
+    </message>
+    <message>
+        <source>Sollen die %1 gewählten Einträge tatsächlich entfernt werden?</source>
+        <translation>¿Desea eliminar realmente las %1 entradas seleccionadas?</translation>
+    </message>
+    <message>
+        <source>Wenn Sie einen Status löschen, der bereits Mängeln zugeordnet ist, verlieren diese Mängel ihren Status!
+Sollen die %1 gewählten Status tatsächlich gelöscht werden?</source>
+        <translation>Si elimina un estado que ya está asignado a defectos, esos defectos pierden su estado.
+¿Desea eliminar realmente los %1 estados seleccionados?</translation>
     </message>
 </context>
 <context>
