@@ -39,8 +39,8 @@ private:
 
     KalProject *m_project;
     QVector<qint64> m_insertedIds;
-    QPushButton *pbAddressFile = nullptr;
-    QPushButton *pbProjectFile = nullptr;
-    QPushButton *pbSiteJournal = nullptr;
-    QPushButton *pbCancel = nullptr;
+    QPushButton *m_pbAddressFile = nullptr;
+    QPushButton *m_pbProjectFile = nullptr;
+    QPushButton *m_pbSiteJournal = nullptr;
+    QPushButton *m_pbCancel = nullptr;
 };

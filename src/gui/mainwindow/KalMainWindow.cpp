@@ -506,13 +506,13 @@ void KalMainWindow::createCentralWidget()
     auto *layout = new QVBoxLayout(central);
     layout->setContentsMargins(6, 4, 6, 6);
 
-    lblProjectHeader = new QLabel(central);
-    lblProjectHeader->setObjectName(QStringLiteral("lblProjectHeader"));
-    QFont headerFont = lblProjectHeader->font();
+    m_lblProjectHeader = new QLabel(central);
+    m_lblProjectHeader->setObjectName(QStringLiteral("lblProjectHeader"));
+    QFont headerFont = m_lblProjectHeader->font();
     headerFont.setPointSizeF(headerFont.pointSizeF() * 1.3);
     headerFont.setBold(true);
-    lblProjectHeader->setFont(headerFont);
-    layout->addWidget(lblProjectHeader);
+    m_lblProjectHeader->setFont(headerFont);
+    layout->addWidget(m_lblProjectHeader);
 
     m_splitter = new QSplitter(Qt::Horizontal, central);
     m_splitter->setObjectName(QStringLiteral("splitter"));
@@ -521,20 +521,20 @@ void KalMainWindow::createCentralWidget()
     auto *tablePane = new QWidget(m_splitter);
     auto *tableLayout = new QVBoxLayout(tablePane);
     tableLayout->setContentsMargins(0, 0, 0, 0);
-    tvDefects = new KalTableView(tablePane);
-    tvDefects->setObjectName(QStringLiteral("tvDefects"));
-    tvDefects->setSortingEnabled(true);
+    m_tvDefects = new KalTableView(tablePane);
+    m_tvDefects->setObjectName(QStringLiteral("tvDefects"));
+    m_tvDefects->setSortingEnabled(true);
     // A double click opens the defect editor; F2 still edits a cell in place.
-    tvDefects->setEditTriggers(QAbstractItemView::EditKeyPressed);
-    tvDefects->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
-    tvDefects->installEventFilter(this);
-    tvDefects->viewport()->installEventFilter(this);
-    tableLayout->addWidget(tvDefects, 1);
+    m_tvDefects->setEditTriggers(QAbstractItemView::EditKeyPressed);
+    m_tvDefects->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    m_tvDefects->installEventFilter(this);
+    m_tvDefects->viewport()->installEventFilter(this);
+    tableLayout->addWidget(m_tvDefects, 1);
     auto *tableButtons = new QHBoxLayout;
-    pbDefectTableDisplayFormat = new QPushButton(tr("Alle Spalten anzeigen"), tablePane);
-    pbDefectTableDisplayFormat->setObjectName(QStringLiteral("pbDefectTableDisplayFormat"));
-    connect(pbDefectTableDisplayFormat, &QPushButton::clicked, this, &KalMainWindow::slotDefectTableDisplayFormat);
-    tableButtons->addWidget(pbDefectTableDisplayFormat);
+    m_pbDefectTableDisplayFormat = new QPushButton(tr("Alle Spalten anzeigen"), tablePane);
+    m_pbDefectTableDisplayFormat->setObjectName(QStringLiteral("pbDefectTableDisplayFormat"));
+    connect(m_pbDefectTableDisplayFormat, &QPushButton::clicked, this, &KalMainWindow::slotDefectTableDisplayFormat);
+    tableButtons->addWidget(m_pbDefectTableDisplayFormat);
     tableButtons->addStretch(1);
     tableLayout->addLayout(tableButtons);
 
@@ -548,14 +548,15 @@ void KalMainWindow::createCentralWidget()
     layout->addWidget(m_splitter, 1);
     setCentralWidget(central);
 
-    connect(tvDefects, &QAbstractItemView::doubleClicked, this, &KalMainWindow::slotOpenDefectEditor);
-    connect(tvDefects->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
+    connect(m_tvDefects, &QAbstractItemView::doubleClicked, this, &KalMainWindow::slotOpenDefectEditor);
+    connect(m_tvDefects->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
             &KalMainWindow::slotSaveSelectionBeforeSorting);
-    connect(tvDefects->horizontalHeader(), &QHeaderView::sectionClicked, this,
+    connect(m_tvDefects->horizontalHeader(), &QHeaderView::sectionClicked, this,
             &KalMainWindow::slotRestoreSelectionAfterSorting);
-    connect(tvDefects, &KalTableView::signalButtonAddClicked, this, &KalMainWindow::slotDefectTableAddButtonClicked);
-    connect(tvDefects, &KalTableView::signalButtonCopyClicked, this, &KalMainWindow::slotDefectTableCopyButtonClicked);
-    connect(tvDefects, &KalTableView::signalRowsDeleted, this, &KalMainWindow::slotDefectTableDeleteButtonClicked);
+    connect(m_tvDefects, &KalTableView::signalButtonAddClicked, this, &KalMainWindow::slotDefectTableAddButtonClicked);
+    connect(m_tvDefects, &KalTableView::signalButtonCopyClicked, this,
+            &KalMainWindow::slotDefectTableCopyButtonClicked);
+    connect(m_tvDefects, &KalTableView::signalRowsDeleted, this, &KalMainWindow::slotDefectTableDeleteButtonClicked);
 }
 
 QString KalMainWindow::windowTitleFor(bool open, const QString &projectPath)
@@ -580,7 +581,7 @@ void KalMainWindow::updateProjectHeader()
         if (column >= 0 && kal->rowCount() > 0)
             name = kal->data(kal->index(0, column)).toString();
     }
-    lblProjectHeader->setText(tr("Projekt:") + QLatin1Char(' ') + name);
+    m_lblProjectHeader->setText(tr("Projekt:") + QLatin1Char(' ') + name);
 }
 
 void KalMainWindow::updateImportMenuState()
@@ -693,8 +694,8 @@ void KalMainWindow::slotOpenRecentFile()
 
 void KalMainWindow::updateFormatButton()
 {
-    pbDefectTableDisplayFormat->setText(m_defectTableFormat == 2 ? tr("Spalten ausblenden")
-                                                                 : tr("Alle Spalten einblenden"));
+    m_pbDefectTableDisplayFormat->setText(m_defectTableFormat == 2 ? tr("Spalten ausblenden")
+                                                                   : tr("Alle Spalten einblenden"));
 }
 
 void KalMainWindow::setDefectTableFormat(int format)
@@ -717,7 +718,7 @@ void KalMainWindow::slotDefectTableDisplayFormat()
 void KalMainWindow::storeColumnWidths()
 {
     if (defectModel())
-        tvDefects->saveColumnWidths();
+        m_tvDefects->saveColumnWidths();
 }
 
 int KalMainWindow::tableShare(int total) const
@@ -730,18 +731,18 @@ void KalMainWindow::applyDefectTableFormat()
     KalSqlTableModel *model = defectModel();
     if (!model)
         return;
-    QHeaderView *header = tvDefects->horizontalHeader();
+    QHeaderView *header = m_tvDefects->horizontalHeader();
     const QStringList &visible = m_defectTableFormat == 2 ? longColumns() : shortColumns();
     for (int column = 0; column < model->columnCount(); ++column)
-        tvDefects->setColumnHidden(column, true);
+        m_tvDefects->setColumnHidden(column, true);
     for (const QString &field : visible) {
         const int column = model->fieldIndex(field);
         if (column >= 0)
-            tvDefects->setColumnHidden(column, false);
+            m_tvDefects->setColumnHidden(column, false);
     }
 
-    if (!tvDefects->restoreColumnWidths()) {
-        const int charWidth = tvDefects->fontMetrics().averageCharWidth();
+    if (!m_tvDefects->restoreColumnWidths()) {
+        const int charWidth = m_tvDefects->fontMetrics().averageCharWidth();
         int used = 0;
         for (const QString &field : visible) {
             const int column = model->fieldIndex(field);
@@ -757,11 +758,11 @@ void KalMainWindow::applyDefectTableFormat()
         if (description >= 0) {
             // Before the window is shown the viewport has no size yet: estimate
             // the table's share of the window.
-            int available = tvDefects->viewport()->width();
-            if (!tvDefects->isVisible()) {
+            int available = m_tvDefects->viewport()->width();
+            if (!m_tvDefects->isVisible()) {
                 const int share = tableShare(width());
-                available = share - tvDefects->verticalHeader()->sizeHint().width() -
-                            tvDefects->verticalScrollBar()->sizeHint().width() - 16;
+                available = share - m_tvDefects->verticalHeader()->sizeHint().width() -
+                            m_tvDefects->verticalScrollBar()->sizeHint().width() - 16;
             }
             header->resizeSection(description, qMax(30 * charWidth, available - used));
         }
@@ -778,18 +779,18 @@ void KalMainWindow::applyDefectTableFormat()
 void KalMainWindow::bindDefectTable()
 {
     KalSqlTableModel *model = defectModel();
-    tvDefects->setModel(model);
+    m_tvDefects->setModel(model);
     if (!model)
         return;
     connect(model, &QAbstractItemModel::modelAboutToBeReset, this, &KalMainWindow::slotDefectModelAboutToReset,
             Qt::UniqueConnection);
     applyDefectTableFormat();
-    if (QItemSelectionModel *selection = tvDefects->selectionModel())
+    if (QItemSelectionModel *selection = m_tvDefects->selectionModel())
         connect(selection, &QItemSelectionModel::currentRowChanged, this, &KalMainWindow::defectRowChanged,
                 Qt::UniqueConnection);
     // The header keeps its sort indicator across models (a save rebuilds
     // them); the new model is sorted to match it.
-    QHeaderView *header = tvDefects->horizontalHeader();
+    QHeaderView *header = m_tvDefects->horizontalHeader();
     const int sortColumn = header->sortIndicatorSection();
     if (sortColumn >= 0 && sortColumn < model->columnCount())
         model->sort(sortColumn, header->sortIndicatorOrder());
@@ -813,7 +814,7 @@ void KalMainWindow::slotProjectOpened()
 void KalMainWindow::slotProjectClosed()
 {
     storeColumnWidths();
-    tvDefects->setModel(nullptr);
+    m_tvDefects->setModel(nullptr);
     m_planPanel->clear();
     updateProjectActions();
 }
@@ -839,14 +840,14 @@ void KalMainWindow::slotPlanPanelDoubleClicked()
 {
     // The plan library and editor are not part of the program yet; say so
     // instead of silently ignoring the double click the hint invites.
-    if (tvDefects->currentIndex().isValid())
+    if (m_tvDefects->currentIndex().isValid())
         KalPrompt::information(tr("Pläne"),
                                tr("Die Zuordnung von Plänen ist in dieser Programmversion noch nicht verfügbar."));
 }
 
 bool KalMainWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    if (!tvDefects || (watched != tvDefects && watched != tvDefects->viewport()))
+    if (!m_tvDefects || (watched != m_tvDefects && watched != m_tvDefects->viewport()))
         return QMainWindow::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::ToolTip:
@@ -855,11 +856,11 @@ bool KalMainWindow::eventFilter(QObject *watched, QEvent *event)
             QToolTip::hideText();
         } else if (!m_tableHelpShown) {
             m_tableHelpShown = true;
-            QToolTip::showText(tvDefects->mapToGlobal(tvDefects->rect().center()),
+            QToolTip::showText(m_tvDefects->mapToGlobal(m_tvDefects->rect().center()),
                                tr("Liste der Mängel des Projekts.\nDoppelklick auf einen Mangel: bearbeiten.\n"
                                   "Klick auf eine Spaltenüberschrift: sortieren.\n"
                                   "Die Knöpfe unten links fügen Mängel hinzu, kopieren oder löschen sie."),
-                               tvDefects);
+                               m_tvDefects);
             return true;
         }
         break;

@@ -35,7 +35,7 @@ public:
     ~KalMainWindow() override;
 
     KalProject *project() const { return m_project; }
-    KalTableView *defectTable() const { return tvDefects; }
+    KalTableView *defectTable() const { return m_tvDefects; }
     KalSqlTableModel *defectModel() const;
 
     // Asks before the open project is given up; see MaybeSaveResult.
@@ -155,10 +155,10 @@ private:
     KalProject *m_project = nullptr;
     KalRecentFiles *m_recentFiles = nullptr;
 
-    KalTableView *tvDefects = nullptr;
+    KalTableView *m_tvDefects = nullptr;
     KalPlanPanel *m_planPanel = nullptr;
-    QLabel *lblProjectHeader = nullptr;
-    QPushButton *pbDefectTableDisplayFormat = nullptr;
+    QLabel *m_lblProjectHeader = nullptr;
+    QPushButton *m_pbDefectTableDisplayFormat = nullptr;
     QSplitter *m_splitter = nullptr;
     QToolBar *m_toolBar = nullptr;
     QMenu *m_menuFileRecent = nullptr;

@@ -417,15 +417,15 @@ QList<qint64> KalMainWindow::copyDefects(const QList<qint64> &ids)
 
 QList<qint64> KalMainWindow::selectedDefectIds() const
 {
-    return defectModel() ? tvDefects->selectedIds() : QList<qint64>();
+    return defectModel() ? m_tvDefects->selectedIds() : QList<qint64>();
 }
 
 void KalMainWindow::selectDefects(const QList<qint64> &ids)
 {
     if (!defectModel() || ids.isEmpty())
         return;
-    if (tvDefects->selectIds(ids) > 0)
-        tvDefects->scrollTo(tvDefects->currentIndex(), QAbstractItemView::PositionAtCenter);
+    if (m_tvDefects->selectIds(ids) > 0)
+        m_tvDefects->scrollTo(m_tvDefects->currentIndex(), QAbstractItemView::PositionAtCenter);
 }
 
 void KalMainWindow::slotAddDefect()
@@ -442,7 +442,7 @@ void KalMainWindow::slotDefectTableAddButtonClicked()
     // stays used.
     if (KalSqlTableModel *model = defectModel()) {
         model->removeRowsById({id});
-        defectRowChanged(QModelIndex(), tvDefects->currentIndex());
+        defectRowChanged(QModelIndex(), m_tvDefects->currentIndex());
     }
 }
 
@@ -460,11 +460,11 @@ bool KalMainWindow::openDefectEditor(qint64 id)
         accepted = editor.exec() == QDialog::Accepted;
     }
     // Sorting or the edit may have moved the row: find it again by id.
-    tvDefects->doItemsLayout();
+    m_tvDefects->doItemsLayout();
     model = defectModel();
     if (model && model->findRowById(id) >= 0) {
-        tvDefects->selectId(id, QAbstractItemView::PositionAtCenter);
-        defectRowChanged(QModelIndex(), tvDefects->currentIndex());
+        m_tvDefects->selectId(id, QAbstractItemView::PositionAtCenter);
+        defectRowChanged(QModelIndex(), m_tvDefects->currentIndex());
     }
     return accepted;
 }
@@ -478,7 +478,7 @@ void KalMainWindow::slotDefectTableDeleteButtonClicked()
 {
     // The grid asked and removed the rows; the plan panel follows the new
     // current defect.
-    defectRowChanged(QModelIndex(), tvDefects->currentIndex());
+    defectRowChanged(QModelIndex(), m_tvDefects->currentIndex());
 }
 
 void KalMainWindow::slotOpenDefectEditor(const QModelIndex &index)
@@ -505,7 +505,7 @@ void KalMainWindow::openMasterData(int page)
     updateProjectHeader();
     if (KalSqlTableModel *model = defectModel())
         model->invalidateLookups();
-    tvDefects->viewport()->update();
+    m_tvDefects->viewport()->update();
     selectDefects(selected);
 }
 
@@ -531,7 +531,7 @@ void KalMainWindow::importCompanies(int source)
     KalCompanyImportSelectDialog::importFrom(m_project, KalCompanyImportSelectDialog::Source(source), this);
     if (KalSqlTableModel *model = defectModel())
         model->invalidateLookups();
-    tvDefects->viewport()->update();
+    m_tvDefects->viewport()->update();
 }
 
 void KalMainWindow::slotImportDefectManagerCompanies()

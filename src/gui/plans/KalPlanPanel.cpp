@@ -17,26 +17,26 @@ KalPlanPanel::KalPlanPanel(QWidget *parent)
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     m_scene = new QGraphicsScene(this);
-    gvPlan = new QGraphicsView(m_scene, this);
-    gvPlan->setObjectName(QStringLiteral("gvPlan"));
-    gvPlan->setRenderHint(QPainter::SmoothPixmapTransform);
-    gvPlan->setDragMode(QGraphicsView::ScrollHandDrag);
-    gvPlan->installEventFilter(this);
-    gvPlan->viewport()->installEventFilter(this);
-    layout->addWidget(gvPlan, 1);
+    m_gvPlan = new QGraphicsView(m_scene, this);
+    m_gvPlan->setObjectName(QStringLiteral("gvPlan"));
+    m_gvPlan->setRenderHint(QPainter::SmoothPixmapTransform);
+    m_gvPlan->setDragMode(QGraphicsView::ScrollHandDrag);
+    m_gvPlan->installEventFilter(this);
+    m_gvPlan->viewport()->installEventFilter(this);
+    layout->addWidget(m_gvPlan, 1);
 
     auto *buttons = new QHBoxLayout;
-    pbShowTotalPlan = new QPushButton(tr("An Fenstergröße anpassen"), this);
-    pbShowTotalPlan->setObjectName(QStringLiteral("pbShowTotalPlan"));
-    connect(pbShowTotalPlan, &QPushButton::clicked, this, &KalPlanPanel::fitPlan);
-    pbZoomInfo = new QPushButton(this);
-    pbZoomInfo->setObjectName(QStringLiteral("pbZoomInfo"));
-    pbZoomInfo->setIcon(QIcon(QStringLiteral(":/KalMainWindow/Resources/icon-info.ico")));
-    pbZoomInfo->setToolTip(tr("Hinweise zum Zoomen"));
-    connect(pbZoomInfo, &QPushButton::clicked, this, &KalPlanPanel::showZoomInfo);
+    m_pbShowTotalPlan = new QPushButton(tr("An Fenstergröße anpassen"), this);
+    m_pbShowTotalPlan->setObjectName(QStringLiteral("pbShowTotalPlan"));
+    connect(m_pbShowTotalPlan, &QPushButton::clicked, this, &KalPlanPanel::fitPlan);
+    m_pbZoomInfo = new QPushButton(this);
+    m_pbZoomInfo->setObjectName(QStringLiteral("pbZoomInfo"));
+    m_pbZoomInfo->setIcon(QIcon(QStringLiteral(":/KalMainWindow/Resources/icon-info.ico")));
+    m_pbZoomInfo->setToolTip(tr("Hinweise zum Zoomen"));
+    connect(m_pbZoomInfo, &QPushButton::clicked, this, &KalPlanPanel::showZoomInfo);
     buttons->addStretch(1);
-    buttons->addWidget(pbShowTotalPlan);
-    buttons->addWidget(pbZoomInfo);
+    buttons->addWidget(m_pbShowTotalPlan);
+    buttons->addWidget(m_pbZoomInfo);
     layout->addLayout(buttons);
 }
 
@@ -60,7 +60,7 @@ void KalPlanPanel::clear()
     m_hintItem = nullptr;
     m_planPixmap = QPixmap();
     m_shownPlanId = -1;
-    pbShowTotalPlan->setEnabled(false);
+    m_pbShowTotalPlan->setEnabled(false);
 }
 
 void KalPlanPanel::showHint()
@@ -68,7 +68,7 @@ void KalPlanPanel::showHint()
     clear();
     m_hintItem = m_scene->addText(hintText());
     m_hintItem->setDefaultTextColor(QColor(110, 110, 110));
-    gvPlan->resetTransform();
+    m_gvPlan->resetTransform();
     layoutHint();
 }
 
@@ -77,12 +77,12 @@ void KalPlanPanel::layoutHint()
     if (!m_hintItem)
         return;
     // The hint wraps to the panel and never needs scrolling.
-    const QSize area = gvPlan->viewport()->size();
+    const QSize area = m_gvPlan->viewport()->size();
     m_hintItem->setTextWidth(qMax(120, area.width() - 24));
     const QRectF text = m_hintItem->boundingRect();
     m_scene->setSceneRect(
         QRectF(-12, 0, qMax<qreal>(text.width() + 24, area.width()), qMax<qreal>(text.height(), area.height() - 4)));
-    gvPlan->centerOn(m_hintItem);
+    m_gvPlan->centerOn(m_hintItem);
 }
 
 void KalPlanPanel::fitPlan()
@@ -93,14 +93,14 @@ void KalPlanPanel::fitPlan()
         showHint();
         return;
     }
-    gvPlan->fitInView(m_scene->itemsBoundingRect(), Qt::KeepAspectRatio);
+    m_gvPlan->fitInView(m_scene->itemsBoundingRect(), Qt::KeepAspectRatio);
 }
 
 void KalPlanPanel::showZoomInfo()
 {
-    showHelpTip(pbZoomInfo, tr("Mit dem Mausrad vergrößern und verkleinern Sie den Plan.\n"
-                               "Mit gedrückter linker Maustaste verschieben Sie den Ausschnitt.\n"
-                               "\"An Fenstergröße anpassen\" zeigt den ganzen Plan."));
+    showHelpTip(m_pbZoomInfo, tr("Mit dem Mausrad vergrößern und verkleinern Sie den Plan.\n"
+                                 "Mit gedrückter linker Maustaste verschieben Sie den Ausschnitt.\n"
+                                 "\"An Fenstergröße anpassen\" zeigt den ganzen Plan."));
 }
 
 void KalPlanPanel::showHelpTip(QWidget *widget, const QString &text)
@@ -110,11 +110,11 @@ void KalPlanPanel::showHelpTip(QWidget *widget, const QString &text)
 
 bool KalPlanPanel::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched != gvPlan && watched != gvPlan->viewport())
+    if (watched != m_gvPlan && watched != m_gvPlan->viewport())
         return QWidget::eventFilter(watched, event);
     switch (event->type()) {
     case QEvent::Resize:
-        if (watched == gvPlan->viewport())
+        if (watched == m_gvPlan->viewport())
             layoutHint();
         break;
     case QEvent::MouseButtonDblClick:
@@ -131,8 +131,8 @@ bool KalPlanPanel::eventFilter(QObject *watched, QEvent *event)
         }
         if (!m_helpShown) {
             m_helpShown = true;
-            showHelpTip(gvPlan, tr("Plan des gewählten Mangels.\nMausrad: vergrößern und verkleinern.\n"
-                                   "Doppelklick: Plan zuordnen oder im Plan verorten."));
+            showHelpTip(m_gvPlan, tr("Plan des gewählten Mangels.\nMausrad: vergrößern und verkleinern.\n"
+                                     "Doppelklick: Plan zuordnen oder im Plan verorten."));
         }
         return true;
     case QEvent::Leave:

@@ -40,11 +40,11 @@ private:
     void showZoomInfo();
     void showHelpTip(QWidget *widget, const QString &text);
 
-    QGraphicsView *gvPlan = nullptr;
+    QGraphicsView *m_gvPlan = nullptr;
     QGraphicsScene *m_scene = nullptr;
     QGraphicsTextItem *m_hintItem = nullptr;
-    QPushButton *pbShowTotalPlan = nullptr;
-    QPushButton *pbZoomInfo = nullptr;
+    QPushButton *m_pbShowTotalPlan = nullptr;
+    QPushButton *m_pbZoomInfo = nullptr;
     QPixmap m_planPixmap;
     qint64 m_shownPlanId = -1;
     bool m_helpActive = true;
