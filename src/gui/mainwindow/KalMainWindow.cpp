@@ -409,7 +409,7 @@ KalMainWindow::KalMainWindow(QWidget *parent)
     if (!m_project->newProject())
         KalPrompt::critical(tr("Fehler"), tr("Beim Erstellen eines neuen Projekts ist ein Fehler aufgetreten!"));
     updateWindowTitle();
-    updateProjectActions();
+    updateProjectActions(m_project->isOpen());
 }
 
 KalMainWindow::~KalMainWindow()
@@ -454,9 +454,8 @@ void KalMainWindow::createActions()
     action("actionEditStatusTable")->setIconText(tr("Statusverwaltung öffnen"));
 }
 
-void KalMainWindow::updateProjectActions()
+void KalMainWindow::updateProjectActions(bool open)
 {
-    const bool open = m_project && m_project->isOpen();
     for (const ActionSpec &spec : actionTable()) {
         if (spec.enabled == ActionSpec::WithProject)
             action(spec.name)->setEnabled(open);
@@ -808,7 +807,7 @@ void KalMainWindow::slotProjectOpened()
     updateImportMenuState();
     bindDefectTable();
     m_planPanel->showHint();
-    updateProjectActions();
+    updateProjectActions(true);
 }
 
 void KalMainWindow::slotProjectClosed()
@@ -816,7 +815,8 @@ void KalMainWindow::slotProjectClosed()
     storeColumnWidths();
     m_tvDefects->setModel(nullptr);
     m_planPanel->clear();
-    updateProjectActions();
+    // Called while the project is about to close: it still counts as open.
+    updateProjectActions(false);
 }
 
 void KalMainWindow::slotModifiedChanged(bool modified)

@@ -136,7 +136,7 @@ private:
     void createMenus();
     void createCentralWidget();
     QAction *action(const char *name) const;
-    void updateProjectActions();
+    void updateProjectActions(bool open);
     void updateWindowTitle();
     void updateProjectHeader();
     void updateImportMenuState();
