@@ -1318,118 +1318,6 @@ desde un dispositivo móvil?</translation>
         <translation>Mostrar todas las columnas</translation>
     </message>
     <message>
-        <source>Pellwick Projekt (*.pwp)</source>
-        <translation>Proyecto de Pellwick (*.pwp)</translation>
-    </message>
-    <message>
-        <source>Abbrechen</source>
-        <translation>Cancelar</translation>
-    </message>
-    <message>
-        <source>Das Projekt kann nicht gespeichert werden, da die Datei
-%1
-schreibgeschützt ist.
-
-Möchten Sie die Änderungen in einer neuen Datei speichern?</source>
-        <translation>El proyecto no se puede guardar porque el archivo
-%1
-está protegido contra escritura.
-
-¿Desea guardar los cambios en un archivo nuevo?</translation>
-    </message>
-    <message>
-        <source>Projekt geändert</source>
-        <translation>Proyecto modificado</translation>
-    </message>
-    <message>
-        <source>Das Projekt wurde geändert. Möchten Sie die Änderungen speichern?</source>
-        <translation>El proyecto se ha modificado. ¿Desea guardar los cambios?</translation>
-    </message>
-    <message>
-        <source>Das Projekt wurde geändert.
-Die Datei 
-%1
-ist jedoch schreibgeschützt.
-
-Möchten Sie die Änderungen in einer neuen Datei speichern?</source>
-        <translation>El proyecto se ha modificado.
-Sin embargo, el archivo 
-%1
-está protegido contra escritura.
-
-¿Desea guardar los cambios en un archivo nuevo?</translation>
-    </message>
-    <message>
-        <source>Datei speichern</source>
-        <translation>Guardar archivo</translation>
-    </message>
-    <message>
-        <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!</source>
-        <translation>¡Se ha producido un error al guardar el proyecto!</translation>
-    </message>
-    <message>
-        <source>Beim Schließen des Projekts ist ein Fehler aufgetreten!</source>
-        <translation>¡Se ha producido un error al cerrar el proyecto!</translation>
-    </message>
-    <message>
-        <source>Dateifehler</source>
-        <translation>Error de archivo</translation>
-    </message>
-    <message>
-        <source>Die Datei
-%1
-existiert nicht.</source>
-        <translation>El archivo
-%1
-no existe.</translation>
-    </message>
-    <message>
-        <source>Beim Öffnen des gewählten Projekts ist ein Fehler aufgetreten!</source>
-        <translation>¡Se ha producido un error al abrir el proyecto elegido!</translation>
-    </message>
-    <message>
-        <source>Verringern der Datenbankgröße durch Bereinigung der Datenbank
-
-Beim Löschen von Daten wird die Datenbank-Datei fragmentiert: Der frei gewordene Platz bleibt in der Datei erhalten. Die Bereinigung ordnet die Daten der Tabellen zusammenhängend an und organisiert die Datei neu.
-
-Dadurch kann die Datei erheblich kleiner werden, vor allem nachdem Fotos gelöscht wurden.</source>
-        <translation>Reducir el tamaño de la base de datos mediante su depuración
-
-Al eliminar datos, el archivo de la base de datos se fragmenta: el espacio liberado permanece en el archivo. La depuración ordena los datos de las tablas de forma contigua y reorganiza el archivo.
-
-De este modo el archivo puede reducirse considerablemente, sobre todo después de eliminar fotos.</translation>
-    </message>
-    <message>
-        <source>Das Projekt wurde noch nicht gespeichert.
-Sie müssen das Projekt vor der Bereinigung der Datenbank speichern.</source>
-        <translation>El proyecto todavía no se ha guardado.
-Debe guardar el proyecto antes de depurar la base de datos.</translation>
-    </message>
-    <message>
-        <source>Neues Projekt</source>
-        <translation>Proyecto nuevo</translation>
-    </message>
-    <message>
-        <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!
-Die Datenbank konnte nicht bereinigt werden.
-</source>
-        <translation>¡Se ha producido un error al guardar el proyecto!
-No se ha podido depurar la base de datos.
-</translation>
-    </message>
-    <message>
-        <source>Das Projekt wurde geändert.
-Vor dem Bereinigen der Datenbank werden die Änderungen gespeichert.
-</source>
-        <translation>El proyecto se ha modificado.
-Los cambios se guardarán antes de depurar la base de datos.
-</translation>
-    </message>
-    <message>
-        <source>Speichern und Bereinigen der Datenbank</source>
-        <translation>Guardar y depurar la base de datos</translation>
-    </message>
-    <message>
         <source>Info</source>
         <translation>Información</translation>
     </message>
@@ -1906,6 +1794,145 @@ No se ha podido depurar la base de datos.
 Die Dateigröße wurde von %1 auf %2 reduziert.</source>
         <translation>La base de datos se ha depurado correctamente.
 El tamaño del archivo se ha reducido de %1 a %2.</translation>
+    </message>
+</context>
+<context>
+    <name>KalProjectFileCommands</name>
+    <message>
+        <source>Pellwick Projekt (*.pwp)</source>
+        <translation>Proyecto de Pellwick (*.pwp)</translation>
+    </message>
+    <message>
+        <source>Speichern unter</source>
+        <translation>Guardar como</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Projekt speichern</source>
+        <translation>Guardar proyecto</translation>
+    </message>
+    <message>
+        <source>Das Projekt kann nicht gespeichert werden, da die Datei
+%1
+schreibgeschützt ist.
+
+Möchten Sie die Änderungen in einer neuen Datei speichern?</source>
+        <translation>El proyecto no se puede guardar porque el archivo
+%1
+está protegido contra escritura.
+
+¿Desea guardar los cambios en un archivo nuevo?</translation>
+    </message>
+    <message>
+        <source>Projekt geändert</source>
+        <translation>Proyecto modificado</translation>
+    </message>
+    <message>
+        <source>Das Projekt wurde geändert. Möchten Sie die Änderungen speichern?</source>
+        <translation>El proyecto se ha modificado. ¿Desea guardar los cambios?</translation>
+    </message>
+    <message>
+        <source>Das Projekt wurde geändert.
+Die Datei 
+%1
+ist jedoch schreibgeschützt.
+
+Möchten Sie die Änderungen in einer neuen Datei speichern?</source>
+        <translation>El proyecto se ha modificado.
+Sin embargo, el archivo 
+%1
+está protegido contra escritura.
+
+¿Desea guardar los cambios en un archivo nuevo?</translation>
+    </message>
+    <message>
+        <source>Datei speichern</source>
+        <translation>Guardar archivo</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!</source>
+        <translation>¡Se ha producido un error al guardar el proyecto!</translation>
+    </message>
+    <message>
+        <source>Beim Erstellen eines neuen Projekts ist ein Fehler aufgetreten!</source>
+        <translation>¡Se ha producido un error al crear un proyecto nuevo!</translation>
+    </message>
+    <message>
+        <source>Beim Schließen des Projekts ist ein Fehler aufgetreten!</source>
+        <translation>¡Se ha producido un error al cerrar el proyecto!</translation>
+    </message>
+    <message>
+        <source>Dateifehler</source>
+        <translation>Error de archivo</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+existiert nicht.</source>
+        <translation>El archivo
+%1
+no existe.</translation>
+    </message>
+    <message>
+        <source>Beim Öffnen des gewählten Projekts ist ein Fehler aufgetreten!</source>
+        <translation>¡Se ha producido un error al abrir el proyecto elegido!</translation>
+    </message>
+    <message>
+        <source>Projekt öffnen</source>
+        <translation>Abrir proyecto</translation>
+    </message>
+    <message>
+        <source>Datenbank bereinigen</source>
+        <translation>Depurar base de datos</translation>
+    </message>
+    <message>
+        <source>Verringern der Datenbankgröße durch Bereinigung der Datenbank
+
+Beim Löschen von Daten wird die Datenbank-Datei fragmentiert: Der frei gewordene Platz bleibt in der Datei erhalten. Die Bereinigung ordnet die Daten der Tabellen zusammenhängend an und organisiert die Datei neu.
+
+Dadurch kann die Datei erheblich kleiner werden, vor allem nachdem Fotos gelöscht wurden.</source>
+        <translation>Reducir el tamaño de la base de datos mediante su depuración
+
+Al eliminar datos, el archivo de la base de datos se fragmenta: el espacio liberado permanece en el archivo. La depuración ordena los datos de las tablas de forma contigua y reorganiza el archivo.
+
+De este modo el archivo puede reducirse considerablemente, sobre todo después de eliminar fotos.</translation>
+    </message>
+    <message>
+        <source>Das Projekt wurde noch nicht gespeichert.
+Sie müssen das Projekt vor der Bereinigung der Datenbank speichern.</source>
+        <translation>El proyecto todavía no se ha guardado.
+Debe guardar el proyecto antes de depurar la base de datos.</translation>
+    </message>
+    <message>
+        <source>Neues Projekt</source>
+        <translation>Proyecto nuevo</translation>
+    </message>
+    <message>
+        <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!
+Die Datenbank konnte nicht bereinigt werden.
+</source>
+        <translation>¡Se ha producido un error al guardar el proyecto!
+No se ha podido depurar la base de datos.
+</translation>
+    </message>
+    <message>
+        <source>Das Projekt wurde geändert.
+Vor dem Bereinigen der Datenbank werden die Änderungen gespeichert.
+</source>
+        <translation>El proyecto se ha modificado.
+Los cambios se guardarán antes de depurar la base de datos.
+</translation>
+    </message>
+    <message>
+        <source>Speichern und Bereinigen der Datenbank</source>
+        <translation>Guardar y depurar la base de datos</translation>
     </message>
 </context>
 <context>

@@ -396,6 +396,12 @@ KalMainWindow::KalMainWindow(QWidget *parent)
     createCentralWidget();
 
     m_project = new KalProject(this);
+    m_fileCommands = new KalProjectFileCommands(m_project, m_recentFiles, this);
+    connect(m_fileCommands, &KalProjectFileCommands::projectStateChanged, this, &KalMainWindow::updateWindowTitle);
+    connect(m_fileCommands, &KalProjectFileCommands::modelsAboutToBeRebuilt, this,
+            [this] { m_idsBeforeRebuild = selectedDefectIds(); });
+    connect(m_fileCommands, &KalProjectFileCommands::modelsRebuilt, this,
+            [this] { selectDefects(m_idsBeforeRebuild); });
     connect(m_project, &KalProject::projectOpened, this, &KalMainWindow::slotProjectOpened);
     connect(m_project, &KalProject::projectAboutToClose, this, &KalMainWindow::slotProjectClosed);
     connect(m_project, &KalProject::modifiedChanged, this, &KalMainWindow::slotModifiedChanged);

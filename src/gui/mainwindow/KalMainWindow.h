@@ -1,5 +1,7 @@
 #pragma once
 
+#include "gui/mainwindow/KalProjectFileCommands.h"
+
 #include <QHash>
 #include <QList>
 #include <QMainWindow>
@@ -29,7 +31,11 @@ class KalMainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    enum MaybeSaveResult { GoOn = 0, Cancelled = 1, Failed = 2 };
+    enum MaybeSaveResult {
+        GoOn = KalProjectFileCommands::GoOn,
+        Cancelled = KalProjectFileCommands::Cancelled,
+        Failed = KalProjectFileCommands::Failed
+    };
 
     explicit KalMainWindow(QWidget *parent = nullptr);
     ~KalMainWindow() override;
@@ -147,13 +153,11 @@ private:
     void applyDefectTableFormat();
     int tableShare(int total) const;
     void storeColumnWidths();
-    int saveCurrent(bool saveAs);
-    bool projectIsReadOnly() const;
-    QString askSaveFileName(const QString &title);
     bool tooltipHelpActive() const;
 
     KalProject *m_project = nullptr;
     KalRecentFiles *m_recentFiles = nullptr;
+    KalProjectFileCommands *m_fileCommands = nullptr;
 
     KalTableView *m_tvDefects = nullptr;
     KalPlanPanel *m_planPanel = nullptr;
@@ -168,4 +172,5 @@ private:
     bool m_tableHelpShown = false;
     QList<qint64> m_idsBeforeSorting;
     QList<qint64> m_idsBeforeReset;
+    QList<qint64> m_idsBeforeRebuild;
 };
