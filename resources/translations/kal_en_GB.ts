@@ -1278,14 +1278,6 @@ from a mobile device?</translation>
         <translation>Show all columns</translation>
     </message>
     <message>
-        <source>An Fenstergröße anpassen</source>
-        <translation>Fit to window</translation>
-    </message>
-    <message>
-        <source>Hinweise zum Zoomen</source>
-        <translation>Zoom hints</translation>
-    </message>
-    <message>
         <source>Neues Pellwick-Projekt</source>
         <translation>New Pellwick project</translation>
     </message>
@@ -1324,144 +1316,6 @@ from a mobile device?</translation>
     <message>
         <source>Alle Spalten einblenden</source>
         <translation>Show all columns</translation>
-    </message>
-    <message>
-        <source>Dieser Mangel ist in keinem Plan verortet.
-Mit einem Doppelklick in dieses Fenster können Sie dem Mangel einen Plan zuordnen.
-Mit einem Doppelklick auf einen Mangel können Sie diesen Mangel bearbeiten.
-</source>
-        <translation>This defect is not located on any plan.
-Double-click in this window to assign a plan to the defect.
-Double-click on a defect to edit it.
-</translation>
-    </message>
-    <message>
-        <source>Mit dem Mausrad vergrößern und verkleinern Sie den Plan.
-Mit gedrückter linker Maustaste verschieben Sie den Ausschnitt.
-&quot;An Fenstergröße anpassen&quot; zeigt den ganzen Plan.</source>
-        <translation>Use the mouse wheel to zoom the plan in and out.
-Hold down the left mouse button to move the view.
-&quot;Fit to window&quot; shows the whole plan.</translation>
-    </message>
-    <message>
-        <source>Plan des gewählten Mangels.
-Mausrad: vergrößern und verkleinern.
-Doppelklick: Plan zuordnen oder im Plan verorten.</source>
-        <translation>Plan of the selected defect.
-Mouse wheel: zoom in and out.
-Double-click: assign a plan or locate the defect on the plan.</translation>
-    </message>
-    <message>
-        <source>Pellwick Projekt (*.pwp)</source>
-        <translation>Pellwick project (*.pwp)</translation>
-    </message>
-    <message>
-        <source>Abbrechen</source>
-        <translation>Cancel</translation>
-    </message>
-    <message>
-        <source>Das Projekt kann nicht gespeichert werden, da die Datei
-%1
-schreibgeschützt ist.
-
-Möchten Sie die Änderungen in einer neuen Datei speichern?</source>
-        <translation>The project cannot be saved because the file
-%1
-is write-protected.
-
-Do you want to save the changes in a new file?</translation>
-    </message>
-    <message>
-        <source>Projekt geändert</source>
-        <translation>Project changed</translation>
-    </message>
-    <message>
-        <source>Das Projekt wurde geändert. Möchten Sie die Änderungen speichern?</source>
-        <translation>The project has been changed. Do you want to save the changes?</translation>
-    </message>
-    <message>
-        <source>Das Projekt wurde geändert.
-Die Datei 
-%1
-ist jedoch schreibgeschützt.
-
-Möchten Sie die Änderungen in einer neuen Datei speichern?</source>
-        <translation>The project has been changed.
-However, the file 
-%1
-is write-protected.
-
-Do you want to save the changes in a new file?</translation>
-    </message>
-    <message>
-        <source>Datei speichern</source>
-        <translation>Save file</translation>
-    </message>
-    <message>
-        <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!</source>
-        <translation>An error occurred while saving the project!</translation>
-    </message>
-    <message>
-        <source>Beim Schließen des Projekts ist ein Fehler aufgetreten!</source>
-        <translation>An error occurred while closing the project!</translation>
-    </message>
-    <message>
-        <source>Dateifehler</source>
-        <translation>File error</translation>
-    </message>
-    <message>
-        <source>Die Datei
-%1
-existiert nicht.</source>
-        <translation>The file
-%1
-does not exist.</translation>
-    </message>
-    <message>
-        <source>Beim Öffnen des gewählten Projekts ist ein Fehler aufgetreten!</source>
-        <translation>An error occurred while opening the chosen project!</translation>
-    </message>
-    <message>
-        <source>Verringern der Datenbankgröße durch Bereinigung der Datenbank
-
-Beim Löschen von Daten wird die Datenbank-Datei fragmentiert: Der frei gewordene Platz bleibt in der Datei erhalten. Die Bereinigung ordnet die Daten der Tabellen zusammenhängend an und organisiert die Datei neu.
-
-Dadurch kann die Datei erheblich kleiner werden, vor allem nachdem Fotos gelöscht wurden.</source>
-        <translation>Reducing the database size by cleaning up the database
-
-Deleting data fragments the database file: the space that became free remains in the file. Cleaning up arranges the data of the tables contiguously and reorganises the file.
-
-This can make the file considerably smaller, above all after photos were deleted.</translation>
-    </message>
-    <message>
-        <source>Das Projekt wurde noch nicht gespeichert.
-Sie müssen das Projekt vor der Bereinigung der Datenbank speichern.</source>
-        <translation>The project has not been saved yet.
-You must save the project before the database can be cleaned up.</translation>
-    </message>
-    <message>
-        <source>Neues Projekt</source>
-        <translation>New project</translation>
-    </message>
-    <message>
-        <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!
-Die Datenbank konnte nicht bereinigt werden.
-</source>
-        <translation>An error occurred while saving the project!
-The database could not be cleaned up.
-</translation>
-    </message>
-    <message>
-        <source>Das Projekt wurde geändert.
-Vor dem Bereinigen der Datenbank werden die Änderungen gespeichert.
-</source>
-        <translation>The project has been changed.
-The changes will be saved before the database is cleaned up.
-</translation>
-    </message>
-    <message>
-        <source>Speichern und Bereinigen der Datenbank</source>
-        <translation>Save and clean up the database</translation>
     </message>
     <message>
         <source>Info</source>
@@ -1598,6 +1452,43 @@ The buttons at the bottom left add, copy or delete defects.</translation>
     <message>
         <source>Diese Meldung nicht mehr anzeigen</source>
         <translation>Do not show this message again</translation>
+    </message>
+</context>
+<context>
+    <name>KalPlanPanel</name>
+    <message>
+        <source>An Fenstergröße anpassen</source>
+        <translation>Fit to window</translation>
+    </message>
+    <message>
+        <source>Hinweise zum Zoomen</source>
+        <translation>Zoom hints</translation>
+    </message>
+    <message>
+        <source>Dieser Mangel ist in keinem Plan verortet.
+Mit einem Doppelklick in dieses Fenster können Sie dem Mangel einen Plan zuordnen.
+Mit einem Doppelklick auf einen Mangel können Sie diesen Mangel bearbeiten.
+</source>
+        <translation>This defect is not located on any plan.
+Double-click in this window to assign a plan to the defect.
+Double-click on a defect to edit it.
+</translation>
+    </message>
+    <message>
+        <source>Mit dem Mausrad vergrößern und verkleinern Sie den Plan.
+Mit gedrückter linker Maustaste verschieben Sie den Ausschnitt.
+&quot;An Fenstergröße anpassen&quot; zeigt den ganzen Plan.</source>
+        <translation>Use the mouse wheel to zoom the plan in and out.
+Hold down the left mouse button to move the view.
+&quot;Fit to window&quot; shows the whole plan.</translation>
+    </message>
+    <message>
+        <source>Plan des gewählten Mangels.
+Mausrad: vergrößern und verkleinern.
+Doppelklick: Plan zuordnen oder im Plan verorten.</source>
+        <translation>Plan of the selected defect.
+Mouse wheel: zoom in and out.
+Double-click: assign a plan or locate the defect on the plan.</translation>
     </message>
 </context>
 <context>
@@ -1903,6 +1794,145 @@ The database could not be cleaned up.
 Die Dateigröße wurde von %1 auf %2 reduziert.</source>
         <translation>The database has been cleaned up successfully.
 The file size was reduced from %1 to %2.</translation>
+    </message>
+</context>
+<context>
+    <name>KalProjectFileCommands</name>
+    <message>
+        <source>Pellwick Projekt (*.pwp)</source>
+        <translation>Pellwick project (*.pwp)</translation>
+    </message>
+    <message>
+        <source>Speichern unter</source>
+        <translation>Save as</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Projekt speichern</source>
+        <translation>Save project</translation>
+    </message>
+    <message>
+        <source>Das Projekt kann nicht gespeichert werden, da die Datei
+%1
+schreibgeschützt ist.
+
+Möchten Sie die Änderungen in einer neuen Datei speichern?</source>
+        <translation>The project cannot be saved because the file
+%1
+is write-protected.
+
+Do you want to save the changes in a new file?</translation>
+    </message>
+    <message>
+        <source>Projekt geändert</source>
+        <translation>Project changed</translation>
+    </message>
+    <message>
+        <source>Das Projekt wurde geändert. Möchten Sie die Änderungen speichern?</source>
+        <translation>The project has been changed. Do you want to save the changes?</translation>
+    </message>
+    <message>
+        <source>Das Projekt wurde geändert.
+Die Datei 
+%1
+ist jedoch schreibgeschützt.
+
+Möchten Sie die Änderungen in einer neuen Datei speichern?</source>
+        <translation>The project has been changed.
+However, the file 
+%1
+is write-protected.
+
+Do you want to save the changes in a new file?</translation>
+    </message>
+    <message>
+        <source>Datei speichern</source>
+        <translation>Save file</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!</source>
+        <translation>An error occurred while saving the project!</translation>
+    </message>
+    <message>
+        <source>Beim Erstellen eines neuen Projekts ist ein Fehler aufgetreten!</source>
+        <translation>An error occurred while creating a new project!</translation>
+    </message>
+    <message>
+        <source>Beim Schließen des Projekts ist ein Fehler aufgetreten!</source>
+        <translation>An error occurred while closing the project!</translation>
+    </message>
+    <message>
+        <source>Dateifehler</source>
+        <translation>File error</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+existiert nicht.</source>
+        <translation>The file
+%1
+does not exist.</translation>
+    </message>
+    <message>
+        <source>Beim Öffnen des gewählten Projekts ist ein Fehler aufgetreten!</source>
+        <translation>An error occurred while opening the chosen project!</translation>
+    </message>
+    <message>
+        <source>Projekt öffnen</source>
+        <translation>Open project</translation>
+    </message>
+    <message>
+        <source>Datenbank bereinigen</source>
+        <translation>Clean up database</translation>
+    </message>
+    <message>
+        <source>Verringern der Datenbankgröße durch Bereinigung der Datenbank
+
+Beim Löschen von Daten wird die Datenbank-Datei fragmentiert: Der frei gewordene Platz bleibt in der Datei erhalten. Die Bereinigung ordnet die Daten der Tabellen zusammenhängend an und organisiert die Datei neu.
+
+Dadurch kann die Datei erheblich kleiner werden, vor allem nachdem Fotos gelöscht wurden.</source>
+        <translation>Reducing the database size by cleaning up the database
+
+Deleting data fragments the database file: the space that became free remains in the file. Cleaning up arranges the data of the tables contiguously and reorganises the file.
+
+This can make the file considerably smaller, above all after photos were deleted.</translation>
+    </message>
+    <message>
+        <source>Das Projekt wurde noch nicht gespeichert.
+Sie müssen das Projekt vor der Bereinigung der Datenbank speichern.</source>
+        <translation>The project has not been saved yet.
+You must save the project before the database can be cleaned up.</translation>
+    </message>
+    <message>
+        <source>Neues Projekt</source>
+        <translation>New project</translation>
+    </message>
+    <message>
+        <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!
+Die Datenbank konnte nicht bereinigt werden.
+</source>
+        <translation>An error occurred while saving the project!
+The database could not be cleaned up.
+</translation>
+    </message>
+    <message>
+        <source>Das Projekt wurde geändert.
+Vor dem Bereinigen der Datenbank werden die Änderungen gespeichert.
+</source>
+        <translation>The project has been changed.
+The changes will be saved before the database is cleaned up.
+</translation>
+    </message>
+    <message>
+        <source>Speichern und Bereinigen der Datenbank</source>
+        <translation>Save and clean up the database</translation>
     </message>
 </context>
 <context>
@@ -2429,6 +2459,20 @@ Do you really want to delete the selected status?</translation>
     <message>
         <source>Soll der gewählte Eintrag tatsächlich entfernt werden?</source>
         <translation>Do you really want to remove the selected entry?</translation>
+    </message>
+    <message>
+        <source>Einträge entfernen</source>
+        <translation>Remove entries</translation>
+    </message>
+    <message>
+        <source>Sollen die %1 gewählten Einträge tatsächlich entfernt werden?</source>
+        <translation>Do you really want to remove the %1 selected entries?</translation>
+    </message>
+    <message>
+        <source>Wenn Sie einen Status löschen, der bereits Mängeln zugeordnet ist, verlieren diese Mängel ihren Status!
+Sollen die %1 gewählten Status tatsächlich gelöscht werden?</source>
+        <translation>If you delete a status that is already assigned to defects, these defects lose their status!
+Do you really want to delete the %1 selected statuses?</translation>
     </message>
 </context>
 <context>

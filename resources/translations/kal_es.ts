@@ -1278,14 +1278,6 @@ desde un dispositivo móvil?</translation>
         <translation>Mostrar todas las columnas</translation>
     </message>
     <message>
-        <source>An Fenstergröße anpassen</source>
-        <translation>Ajustar a la ventana</translation>
-    </message>
-    <message>
-        <source>Hinweise zum Zoomen</source>
-        <translation>Indicaciones para el zoom</translation>
-    </message>
-    <message>
         <source>Neues Pellwick-Projekt</source>
         <translation>Nuevo proyecto de Pellwick</translation>
     </message>
@@ -1324,144 +1316,6 @@ desde un dispositivo móvil?</translation>
     <message>
         <source>Alle Spalten einblenden</source>
         <translation>Mostrar todas las columnas</translation>
-    </message>
-    <message>
-        <source>Dieser Mangel ist in keinem Plan verortet.
-Mit einem Doppelklick in dieses Fenster können Sie dem Mangel einen Plan zuordnen.
-Mit einem Doppelklick auf einen Mangel können Sie diesen Mangel bearbeiten.
-</source>
-        <translation>Este defecto no está ubicado en ningún plano.
-Con un doble clic en esta ventana puede asignar un plano al defecto.
-Con un doble clic en un defecto puede editarlo.
-</translation>
-    </message>
-    <message>
-        <source>Mit dem Mausrad vergrößern und verkleinern Sie den Plan.
-Mit gedrückter linker Maustaste verschieben Sie den Ausschnitt.
-&quot;An Fenstergröße anpassen&quot; zeigt den ganzen Plan.</source>
-        <translation>Con la rueda del ratón amplía y reduce el plano.
-Manteniendo pulsado el botón izquierdo del ratón desplaza la vista.
-«Ajustar a la ventana» muestra el plano completo.</translation>
-    </message>
-    <message>
-        <source>Plan des gewählten Mangels.
-Mausrad: vergrößern und verkleinern.
-Doppelklick: Plan zuordnen oder im Plan verorten.</source>
-        <translation>Plano del defecto seleccionado.
-Rueda del ratón: ampliar y reducir.
-Doble clic: asignar un plano o ubicar el defecto en el plano.</translation>
-    </message>
-    <message>
-        <source>Pellwick Projekt (*.pwp)</source>
-        <translation>Proyecto de Pellwick (*.pwp)</translation>
-    </message>
-    <message>
-        <source>Abbrechen</source>
-        <translation>Cancelar</translation>
-    </message>
-    <message>
-        <source>Das Projekt kann nicht gespeichert werden, da die Datei
-%1
-schreibgeschützt ist.
-
-Möchten Sie die Änderungen in einer neuen Datei speichern?</source>
-        <translation>El proyecto no se puede guardar porque el archivo
-%1
-está protegido contra escritura.
-
-¿Desea guardar los cambios en un archivo nuevo?</translation>
-    </message>
-    <message>
-        <source>Projekt geändert</source>
-        <translation>Proyecto modificado</translation>
-    </message>
-    <message>
-        <source>Das Projekt wurde geändert. Möchten Sie die Änderungen speichern?</source>
-        <translation>El proyecto se ha modificado. ¿Desea guardar los cambios?</translation>
-    </message>
-    <message>
-        <source>Das Projekt wurde geändert.
-Die Datei 
-%1
-ist jedoch schreibgeschützt.
-
-Möchten Sie die Änderungen in einer neuen Datei speichern?</source>
-        <translation>El proyecto se ha modificado.
-Sin embargo, el archivo 
-%1
-está protegido contra escritura.
-
-¿Desea guardar los cambios en un archivo nuevo?</translation>
-    </message>
-    <message>
-        <source>Datei speichern</source>
-        <translation>Guardar archivo</translation>
-    </message>
-    <message>
-        <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!</source>
-        <translation>¡Se ha producido un error al guardar el proyecto!</translation>
-    </message>
-    <message>
-        <source>Beim Schließen des Projekts ist ein Fehler aufgetreten!</source>
-        <translation>¡Se ha producido un error al cerrar el proyecto!</translation>
-    </message>
-    <message>
-        <source>Dateifehler</source>
-        <translation>Error de archivo</translation>
-    </message>
-    <message>
-        <source>Die Datei
-%1
-existiert nicht.</source>
-        <translation>El archivo
-%1
-no existe.</translation>
-    </message>
-    <message>
-        <source>Beim Öffnen des gewählten Projekts ist ein Fehler aufgetreten!</source>
-        <translation>¡Se ha producido un error al abrir el proyecto elegido!</translation>
-    </message>
-    <message>
-        <source>Verringern der Datenbankgröße durch Bereinigung der Datenbank
-
-Beim Löschen von Daten wird die Datenbank-Datei fragmentiert: Der frei gewordene Platz bleibt in der Datei erhalten. Die Bereinigung ordnet die Daten der Tabellen zusammenhängend an und organisiert die Datei neu.
-
-Dadurch kann die Datei erheblich kleiner werden, vor allem nachdem Fotos gelöscht wurden.</source>
-        <translation>Reducir el tamaño de la base de datos mediante su depuración
-
-Al eliminar datos, el archivo de la base de datos se fragmenta: el espacio liberado permanece en el archivo. La depuración ordena los datos de las tablas de forma contigua y reorganiza el archivo.
-
-De este modo el archivo puede reducirse considerablemente, sobre todo después de eliminar fotos.</translation>
-    </message>
-    <message>
-        <source>Das Projekt wurde noch nicht gespeichert.
-Sie müssen das Projekt vor der Bereinigung der Datenbank speichern.</source>
-        <translation>El proyecto todavía no se ha guardado.
-Debe guardar el proyecto antes de depurar la base de datos.</translation>
-    </message>
-    <message>
-        <source>Neues Projekt</source>
-        <translation>Proyecto nuevo</translation>
-    </message>
-    <message>
-        <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!
-Die Datenbank konnte nicht bereinigt werden.
-</source>
-        <translation>¡Se ha producido un error al guardar el proyecto!
-No se ha podido depurar la base de datos.
-</translation>
-    </message>
-    <message>
-        <source>Das Projekt wurde geändert.
-Vor dem Bereinigen der Datenbank werden die Änderungen gespeichert.
-</source>
-        <translation>El proyecto se ha modificado.
-Los cambios se guardarán antes de depurar la base de datos.
-</translation>
-    </message>
-    <message>
-        <source>Speichern und Bereinigen der Datenbank</source>
-        <translation>Guardar y depurar la base de datos</translation>
     </message>
     <message>
         <source>Info</source>
@@ -1598,6 +1452,43 @@ Los botones de abajo a la izquierda añaden, copian o eliminan defectos.</transl
     <message>
         <source>Diese Meldung nicht mehr anzeigen</source>
         <translation>No volver a mostrar este mensaje</translation>
+    </message>
+</context>
+<context>
+    <name>KalPlanPanel</name>
+    <message>
+        <source>An Fenstergröße anpassen</source>
+        <translation>Ajustar a la ventana</translation>
+    </message>
+    <message>
+        <source>Hinweise zum Zoomen</source>
+        <translation>Indicaciones para el zoom</translation>
+    </message>
+    <message>
+        <source>Dieser Mangel ist in keinem Plan verortet.
+Mit einem Doppelklick in dieses Fenster können Sie dem Mangel einen Plan zuordnen.
+Mit einem Doppelklick auf einen Mangel können Sie diesen Mangel bearbeiten.
+</source>
+        <translation>Este defecto no está ubicado en ningún plano.
+Con un doble clic en esta ventana puede asignar un plano al defecto.
+Con un doble clic en un defecto puede editarlo.
+</translation>
+    </message>
+    <message>
+        <source>Mit dem Mausrad vergrößern und verkleinern Sie den Plan.
+Mit gedrückter linker Maustaste verschieben Sie den Ausschnitt.
+&quot;An Fenstergröße anpassen&quot; zeigt den ganzen Plan.</source>
+        <translation>Con la rueda del ratón amplía y reduce el plano.
+Manteniendo pulsado el botón izquierdo del ratón desplaza la vista.
+«Ajustar a la ventana» muestra el plano completo.</translation>
+    </message>
+    <message>
+        <source>Plan des gewählten Mangels.
+Mausrad: vergrößern und verkleinern.
+Doppelklick: Plan zuordnen oder im Plan verorten.</source>
+        <translation>Plano del defecto seleccionado.
+Rueda del ratón: ampliar y reducir.
+Doble clic: asignar un plano o ubicar el defecto en el plano.</translation>
     </message>
 </context>
 <context>
@@ -1903,6 +1794,145 @@ No se ha podido depurar la base de datos.
 Die Dateigröße wurde von %1 auf %2 reduziert.</source>
         <translation>La base de datos se ha depurado correctamente.
 El tamaño del archivo se ha reducido de %1 a %2.</translation>
+    </message>
+</context>
+<context>
+    <name>KalProjectFileCommands</name>
+    <message>
+        <source>Pellwick Projekt (*.pwp)</source>
+        <translation>Proyecto de Pellwick (*.pwp)</translation>
+    </message>
+    <message>
+        <source>Speichern unter</source>
+        <translation>Guardar como</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Projekt speichern</source>
+        <translation>Guardar proyecto</translation>
+    </message>
+    <message>
+        <source>Das Projekt kann nicht gespeichert werden, da die Datei
+%1
+schreibgeschützt ist.
+
+Möchten Sie die Änderungen in einer neuen Datei speichern?</source>
+        <translation>El proyecto no se puede guardar porque el archivo
+%1
+está protegido contra escritura.
+
+¿Desea guardar los cambios en un archivo nuevo?</translation>
+    </message>
+    <message>
+        <source>Projekt geändert</source>
+        <translation>Proyecto modificado</translation>
+    </message>
+    <message>
+        <source>Das Projekt wurde geändert. Möchten Sie die Änderungen speichern?</source>
+        <translation>El proyecto se ha modificado. ¿Desea guardar los cambios?</translation>
+    </message>
+    <message>
+        <source>Das Projekt wurde geändert.
+Die Datei 
+%1
+ist jedoch schreibgeschützt.
+
+Möchten Sie die Änderungen in einer neuen Datei speichern?</source>
+        <translation>El proyecto se ha modificado.
+Sin embargo, el archivo 
+%1
+está protegido contra escritura.
+
+¿Desea guardar los cambios en un archivo nuevo?</translation>
+    </message>
+    <message>
+        <source>Datei speichern</source>
+        <translation>Guardar archivo</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!</source>
+        <translation>¡Se ha producido un error al guardar el proyecto!</translation>
+    </message>
+    <message>
+        <source>Beim Erstellen eines neuen Projekts ist ein Fehler aufgetreten!</source>
+        <translation>¡Se ha producido un error al crear un proyecto nuevo!</translation>
+    </message>
+    <message>
+        <source>Beim Schließen des Projekts ist ein Fehler aufgetreten!</source>
+        <translation>¡Se ha producido un error al cerrar el proyecto!</translation>
+    </message>
+    <message>
+        <source>Dateifehler</source>
+        <translation>Error de archivo</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+existiert nicht.</source>
+        <translation>El archivo
+%1
+no existe.</translation>
+    </message>
+    <message>
+        <source>Beim Öffnen des gewählten Projekts ist ein Fehler aufgetreten!</source>
+        <translation>¡Se ha producido un error al abrir el proyecto elegido!</translation>
+    </message>
+    <message>
+        <source>Projekt öffnen</source>
+        <translation>Abrir proyecto</translation>
+    </message>
+    <message>
+        <source>Datenbank bereinigen</source>
+        <translation>Depurar base de datos</translation>
+    </message>
+    <message>
+        <source>Verringern der Datenbankgröße durch Bereinigung der Datenbank
+
+Beim Löschen von Daten wird die Datenbank-Datei fragmentiert: Der frei gewordene Platz bleibt in der Datei erhalten. Die Bereinigung ordnet die Daten der Tabellen zusammenhängend an und organisiert die Datei neu.
+
+Dadurch kann die Datei erheblich kleiner werden, vor allem nachdem Fotos gelöscht wurden.</source>
+        <translation>Reducir el tamaño de la base de datos mediante su depuración
+
+Al eliminar datos, el archivo de la base de datos se fragmenta: el espacio liberado permanece en el archivo. La depuración ordena los datos de las tablas de forma contigua y reorganiza el archivo.
+
+De este modo el archivo puede reducirse considerablemente, sobre todo después de eliminar fotos.</translation>
+    </message>
+    <message>
+        <source>Das Projekt wurde noch nicht gespeichert.
+Sie müssen das Projekt vor der Bereinigung der Datenbank speichern.</source>
+        <translation>El proyecto todavía no se ha guardado.
+Debe guardar el proyecto antes de depurar la base de datos.</translation>
+    </message>
+    <message>
+        <source>Neues Projekt</source>
+        <translation>Proyecto nuevo</translation>
+    </message>
+    <message>
+        <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!
+Die Datenbank konnte nicht bereinigt werden.
+</source>
+        <translation>¡Se ha producido un error al guardar el proyecto!
+No se ha podido depurar la base de datos.
+</translation>
+    </message>
+    <message>
+        <source>Das Projekt wurde geändert.
+Vor dem Bereinigen der Datenbank werden die Änderungen gespeichert.
+</source>
+        <translation>El proyecto se ha modificado.
+Los cambios se guardarán antes de depurar la base de datos.
+</translation>
+    </message>
+    <message>
+        <source>Speichern und Bereinigen der Datenbank</source>
+        <translation>Guardar y depurar la base de datos</translation>
     </message>
 </context>
 <context>
@@ -2429,6 +2459,20 @@ Soll der gewählte Status tatsächlich gelöscht werden?</source>
     <message>
         <source>Soll der gewählte Eintrag tatsächlich entfernt werden?</source>
         <translation>¿Desea eliminar realmente la entrada seleccionada?</translation>
+    </message>
+    <message>
+        <source>Einträge entfernen</source>
+        <translation>Eliminar entradas</translation>
+    </message>
+    <message>
+        <source>Sollen die %1 gewählten Einträge tatsächlich entfernt werden?</source>
+        <translation>¿Desea eliminar realmente las %1 entradas seleccionadas?</translation>
+    </message>
+    <message>
+        <source>Wenn Sie einen Status löschen, der bereits Mängeln zugeordnet ist, verlieren diese Mängel ihren Status!
+Sollen die %1 gewählten Status tatsächlich gelöscht werden?</source>
+        <translation>Si elimina un estado que ya está asignado a defectos, esos defectos pierden su estado.
+¿Desea eliminar realmente los %1 estados seleccionados?</translation>
     </message>
 </context>
 <context>

@@ -1,4 +1,5 @@
 #include "KalCompanyDialog.h"
+#include "ui_KalCompanyDialog.h"
 
 #include "core/project/KalPrivacyNotice.h"
 #include "core/project/KalProject.h"
@@ -6,52 +7,28 @@
 #include "core/project/KalSqlTableModel.h"
 
 #include <QDialogButtonBox>
-#include <QFormLayout>
-#include <QGroupBox>
 #include <QIcon>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSqlField>
 #include <QSqlRecord>
 #include <QTimer>
-#include <QVBoxLayout>
 
 KalCompanyDialog::KalCompanyDialog(KalProject *project, QWidget *parent)
     : QDialog(parent)
     , m_project(project)
+    , m_ui(std::make_unique<Ui::KalCompanyDialog>())
 {
-    setObjectName(QStringLiteral("KalCompanyDialog"));
-    setWindowTitle(tr("Gewerk / Baufirma anlegen"));
-    setWindowIcon(QIcon(QStringLiteral(":/KalMainWindow/Resources/icon-firmen.ico")));
-
-    auto *group = new QGroupBox(tr("Ansprechpartner"), this);
-    group->setObjectName(QStringLiteral("gbContact"));
-    auto *form = new QFormLayout(group);
-    auto field = [this, form](const QString &name, const QString &label) {
-        auto *edit = new QLineEdit(this);
-        edit->setObjectName(name);
-        edit->setMinimumWidth(260);
-        form->addRow(label, edit);
-        return edit;
-    };
-    leType = field(QStringLiteral("leType"), tr("Gewerk:"));
-    leFirstName = field(QStringLiteral("leFirstName"), tr("Vorname:"));
-    leName = field(QStringLiteral("leName"), tr("Nachname:"));
-    leCompany = field(QStringLiteral("leCompany"), tr("Firma:"));
-
-    auto *buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
-    buttons->button(QDialogButtonBox::Ok)
+    m_ui->setupUi(this);
+    m_ui->buttonBox->button(QDialogButtonBox::Ok)
         ->setIcon(QIcon(QStringLiteral(":/KalMainWindow/Resources/icon-allgemein-ok.png")));
-    buttons->button(QDialogButtonBox::Cancel)
+    m_ui->buttonBox->button(QDialogButtonBox::Cancel)
         ->setIcon(QIcon(QStringLiteral(":/KalMainWindow/Resources/icon-allgemein-cancel.png")));
-    connect(buttons, &QDialogButtonBox::accepted, this, &KalCompanyDialog::accept);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(group);
-    layout->addWidget(buttons);
+    connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &KalCompanyDialog::accept);
+    connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
 }
+
+KalCompanyDialog::~KalCompanyDialog() = default;
 
 void KalCompanyDialog::showEvent(QShowEvent *event)
 {
@@ -65,10 +42,10 @@ void KalCompanyDialog::showEvent(QShowEvent *event)
 
 void KalCompanyDialog::accept()
 {
-    const QString type = leType->text().trimmed();
-    const QString first = leFirstName->text().trimmed();
-    const QString last = leName->text().trimmed();
-    const QString company = leCompany->text().trimmed();
+    const QString type = m_ui->leType->text().trimmed();
+    const QString first = m_ui->leFirstName->text().trimmed();
+    const QString last = m_ui->leName->text().trimmed();
+    const QString company = m_ui->leCompany->text().trimmed();
     if (type.isEmpty() && first.isEmpty() && last.isEmpty() && company.isEmpty()) {
         KalPrompt::warning(tr("Info"), tr("Bitte geben Sie mindestens ein Gewerk, einen Namen oder eine Firma ein."));
         return;

@@ -2,8 +2,13 @@
 
 #include <QDialog>
 
+#include <memory>
+
 class KalProject;
-class QLineEdit;
+
+namespace Ui {
+class KalCompanyDialog;
+}
 
 // Creates one company quickly (trade, first and last name, company name).
 // OK writes the row at once; companyId() is then its id.
@@ -13,6 +18,7 @@ class KalCompanyDialog : public QDialog
 
 public:
     explicit KalCompanyDialog(KalProject *project, QWidget *parent = nullptr);
+    ~KalCompanyDialog() override;
 
     qint64 companyId() const { return m_companyId; }
 
@@ -31,8 +37,5 @@ private:
     KalProject *m_project;
     qint64 m_companyId = -1;
     bool m_noticeShown = false;
-    QLineEdit *leType = nullptr;
-    QLineEdit *leFirstName = nullptr;
-    QLineEdit *leName = nullptr;
-    QLineEdit *leCompany = nullptr;
+    std::unique_ptr<Ui::KalCompanyDialog> m_ui;
 };

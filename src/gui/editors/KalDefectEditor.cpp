@@ -1,4 +1,5 @@
 #include "KalDefectEditor.h"
+#include "ui_KalDefectEditor.h"
 
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
@@ -13,10 +14,6 @@
 #include <QDataWidgetMapper>
 #include <QDate>
 #include <QDialogButtonBox>
-#include <QFormLayout>
-#include <QGridLayout>
-#include <QGroupBox>
-#include <QHBoxLayout>
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
@@ -28,7 +25,6 @@
 #include <QSqlRecord>
 #include <QStandardItemModel>
 #include <QToolTip>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -90,6 +86,7 @@ KalDefectEditor::KalDefectEditor(KalProject *project, int row, QWidget *parent)
     : QDialog(parent)
     , m_project(project)
     , m_row(row)
+    , m_ui(std::make_unique<Ui::KalDefectEditor>())
 {
     setObjectName(QStringLiteral("KalDefectEditor"));
     m_defects = project->model(QStringLiteral("defect"));
@@ -97,7 +94,7 @@ KalDefectEditor::KalDefectEditor(KalProject *project, int row, QWidget *parent)
     m_statuses = project->model(QStringLiteral("status"));
     m_plans = project->model(QStringLiteral("plan_info"));
 
-    buildUi();
+    setUpUi();
 
     if (m_defects && row >= 0 && row < m_defects->rowCount()) {
         m_defectId = value(QStringLiteral("id")).toLongLong();
@@ -120,16 +117,16 @@ KalDefectEditor::KalDefectEditor(KalProject *project, int row, QWidget *parent)
             else
                 m_mapper->addMapping(w, column, property);
         };
-        map(leNumber, "number");
-        map(teDescription, "description", "plainText");
-        map(leType, "type");
-        map(leUserId, "user_id");
-        map(leRoomName, "roomname");
-        map(leRoomBookNo, "roombook_number");
-        map(lePhotos, "image_cnt");
-        map(leCorrectionInstruction, "correction_instruction");
-        map(lePriority, "priority");
-        map(cbReduction, "reduction", "checked");
+        map(m_ui->leNumber, "number");
+        map(m_ui->teDescription, "description", "plainText");
+        map(m_ui->leType, "type");
+        map(m_ui->leUserId, "user_id");
+        map(m_ui->leRoomName, "roomname");
+        map(m_ui->leRoomBookNo, "roombook_number");
+        map(m_ui->lePhotos, "image_cnt");
+        map(m_ui->leCorrectionInstruction, "correction_instruction");
+        map(m_ui->lePriority, "priority");
+        map(m_ui->cbReduction, "reduction", "checked");
         m_mapper->setCurrentIndex(row);
         // The date fields are free-text widgets; they take and give dates.
         readDates();
@@ -169,195 +166,49 @@ QString KalDefectEditor::userIdHelpText()
               "Kleinbuchstaben werden automatisch in Großbuchstaben umgewandelt.");
 }
 
-void KalDefectEditor::buildUi()
+void KalDefectEditor::setUpUi()
 {
-    setWindowTitle(tr("Mangel bearbeiten"));
-    setWindowIcon(QIcon(res("icon-defect-editor.ico")));
-
-    // --- Erfassung ---
-    gbCollection = new QGroupBox(tr("Erfassung"), this);
-    gbCollection->setObjectName(QStringLiteral("gbCollection"));
-    auto *collection = new QGridLayout(gbCollection);
-    leNumber = new QLineEdit(this);
-    leNumber->setObjectName(QStringLiteral("leNumber"));
-    teDescription = new KalCompleterTextEdit(QStringLiteral("defect"), QStringLiteral("description"), this);
-    teDescription->setObjectName(QStringLiteral("teDescription"));
-    teDescription->setAcceptRichText(false);
-    teDescription->setTabChangesFocus(true);
-    teDescription->setMinimumHeight(90);
-    cbxCompany = new QComboBox(this);
-    cbxCompany->setObjectName(QStringLiteral("cbxCompany"));
-    cbxCompany->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    cbxCompany->setMinimumContentsLength(24);
-    leType = new KalCompleterLineEdit(QStringLiteral("defect"), QStringLiteral("type"), this);
-    leType->setObjectName(QStringLiteral("leType"));
-    leUserId = new KalCompleterLineEdit(QStringLiteral("defect"), QStringLiteral("user_id"), this);
-    leUserId->setObjectName(QStringLiteral("leUserId"));
-    leUserId->setValidator(
-        new QRegularExpressionValidator(QRegularExpression(QStringLiteral("([a-z]|[A-Z]|){2}")), leUserId));
-    leUserId->setMaximumWidth(90);
-    pbUserIdInfo = new QPushButton(this);
-    pbUserIdInfo->setObjectName(QStringLiteral("pbUserIdInfo"));
-    pbUserIdInfo->setIcon(QIcon(res("icon-info.ico")));
-    pbUserIdInfo->setFlat(true);
-    pbUserIdInfo->setToolTip(tr("Hinweis zum Feld \"Erfasst von\""));
-    deCreationDate = new KalDateEdit(this);
-    deCreationDate->setObjectName(QStringLiteral("deCreationDate"));
-    deCreationDate->setMaximumWidth(130);
-
-    int r = 0;
-    collection->addWidget(new QLabel(tr("Nummer"), this), r, 0);
-    collection->addWidget(leNumber, r, 1, 1, 4);
-    ++r;
-    auto *descriptionLabel = new QLabel(tr("Beschreibung"), this);
-    descriptionLabel->setAlignment(Qt::AlignLeft | Qt::AlignTop);
-    collection->addWidget(descriptionLabel, r, 0);
-    collection->addWidget(teDescription, r, 1, 1, 4);
-    ++r;
-    collection->addWidget(new QLabel(tr("Firma"), this), r, 0);
-    collection->addWidget(cbxCompany, r, 1, 1, 4);
-    ++r;
-    collection->addWidget(new QLabel(tr("Typ"), this), r, 0);
-    collection->addWidget(leType, r, 1, 1, 4);
-    ++r;
-    collection->addWidget(new QLabel(tr("Erfasst von"), this), r, 0);
-    auto *userRow = new QHBoxLayout;
-    userRow->addWidget(leUserId);
-    userRow->addWidget(pbUserIdInfo);
-    userRow->addSpacing(16);
-    userRow->addWidget(new QLabel(tr("Erfasst am"), this));
-    userRow->addWidget(deCreationDate);
-    userRow->addStretch(1);
-    collection->addLayout(userRow, r, 1, 1, 4);
-    collection->setColumnStretch(1, 1);
-
-    // --- Lokalisierung ---
-    gbLocalization = new QGroupBox(tr("Lokalisierung"), this);
-    gbLocalization->setObjectName(QStringLiteral("gbLocalization"));
-    auto *localization = new QGridLayout(gbLocalization);
-    leRoomName = new KalCompleterLineEdit(QStringLiteral("defect"), QStringLiteral("roomname"), this);
-    leRoomName->setObjectName(QStringLiteral("leRoomName"));
-    leRoomBookNo = new KalCompleterLineEdit(QStringLiteral("defect"), QStringLiteral("roombook_number"), this);
-    leRoomBookNo->setObjectName(QStringLiteral("leRoomBookNo"));
-    cbxPlan = new QComboBox(this);
-    cbxPlan->setObjectName(QStringLiteral("cbxPlan"));
-    cbxPlan->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    cbxPlan->setMinimumContentsLength(20);
-    pbPlanDialog = new QPushButton(tr("Plan austauschen"), this);
-    pbPlanDialog->setObjectName(QStringLiteral("pbPlanDialog"));
-    pbPlanEditor = new QPushButton(tr("Marker bearbeiten"), this);
-    pbPlanEditor->setObjectName(QStringLiteral("pbPlanEditor"));
-    lePhotos = new QLineEdit(this);
-    lePhotos->setObjectName(QStringLiteral("lePhotos"));
-    lePhotos->setReadOnly(true);
-    lePhotos->setMaximumWidth(60);
-    pbPhotoEditor = new QPushButton(tr("Fotos hinzufügen"), this);
-    pbPhotoEditor->setObjectName(QStringLiteral("pbPhotoEditor"));
-    pbPhotoEditor->setIcon(QIcon(res("icon-camera.png")));
-    // The plan library, plan editor and photo list are not part of the
-    // program yet; their buttons stay visible but cannot be used.
-    pbPlanDialog->setEnabled(false);
-    pbPlanEditor->setEnabled(false);
-    pbPhotoEditor->setEnabled(false);
-
-    r = 0;
-    localization->addWidget(new QLabel(tr("Raumname"), this), r, 0);
-    localization->addWidget(leRoomName, r, 1);
-    localization->addWidget(new QLabel(tr("Raumbuch-Nr."), this), r, 2);
-    localization->addWidget(leRoomBookNo, r, 3);
-    ++r;
-    localization->addWidget(new QLabel(tr("Plan"), this), r, 0);
-    localization->addWidget(cbxPlan, r, 1);
-    auto *planButtons = new QHBoxLayout;
-    planButtons->addWidget(pbPlanDialog);
-    planButtons->addWidget(pbPlanEditor);
-    planButtons->addStretch(1);
-    localization->addLayout(planButtons, r, 2, 1, 2);
-    ++r;
-    localization->addWidget(new QLabel(tr("Fotos"), this), r, 0);
-    auto *photoRow = new QHBoxLayout;
-    photoRow->addWidget(lePhotos);
-    photoRow->addWidget(pbPhotoEditor);
-    photoRow->addStretch(1);
-    localization->addLayout(photoRow, r, 1, 1, 3);
-    localization->setColumnStretch(1, 1);
-    localization->setColumnStretch(3, 1);
-
-    // --- Management ---
-    gbManagement = new QGroupBox(tr("Management"), this);
-    gbManagement->setObjectName(QStringLiteral("gbManagement"));
-    auto *management = new QGridLayout(gbManagement);
-    leCorrectionInstruction =
-        new KalCompleterLineEdit(QStringLiteral("defect"), QStringLiteral("correction_instruction"), this);
-    leCorrectionInstruction->setObjectName(QStringLiteral("leCorrectionInstruction"));
-    lePriority = new KalCompleterLineEdit(QStringLiteral("defect"), QStringLiteral("priority"), this);
-    lePriority->setObjectName(QStringLiteral("lePriority"));
-    deCorrectionDate = new KalDateEdit(this);
-    deCorrectionDate->setObjectName(QStringLiteral("deCorrectionDate"));
-    deDeadline1 = new KalDateEdit(this);
-    deDeadline1->setObjectName(QStringLiteral("deDeadline1"));
-    deDeadline2 = new KalDateEdit(this);
-    deDeadline2->setObjectName(QStringLiteral("deDeadline2"));
-    lblDeadline3 = new QLabel(tr("3. Nachfrist"), this);
-    lblDeadline3->setObjectName(QStringLiteral("lblDeadline3"));
+    m_ui->setupUi(this);
+    // Each text field offers the auto-texts of its own field.
+    const QPair<KalCompleterLineEdit *, const char *> lineFields[] = {
+        {m_ui->leType, "type"},
+        {m_ui->leUserId, "user_id"},
+        {m_ui->leRoomName, "roomname"},
+        {m_ui->leRoomBookNo, "roombook_number"},
+        {m_ui->leCorrectionInstruction, "correction_instruction"},
+        {m_ui->lePriority, "priority"}};
+    for (const auto &field : lineFields)
+        field.first->setField(QStringLiteral("defect"), QLatin1String(field.second));
+    m_ui->teDescription->setField(QStringLiteral("defect"), QStringLiteral("description"));
+    m_ui->leUserId->setValidator(
+        new QRegularExpressionValidator(QRegularExpression(QStringLiteral("([a-z]|[A-Z]|){2}")), m_ui->leUserId));
     // The third deadline is kept in the row but not edited here.
-    lblDeadline3->hide();
-    cbxStatus = new QComboBox(this);
-    cbxStatus->setObjectName(QStringLiteral("cbxStatus"));
-    cbxStatus->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    cbxStatus->setMinimumContentsLength(24);
-    cbReduction = new QCheckBox(tr("Minderung"), this);
-    cbReduction->setObjectName(QStringLiteral("cbReduction"));
+    m_ui->lblDeadline3->hide();
 
-    r = 0;
-    management->addWidget(new QLabel(tr("Beseitigungsanweisung"), this), r, 0);
-    management->addWidget(leCorrectionInstruction, r, 1, 1, 5);
-    ++r;
-    management->addWidget(new QLabel(tr("Priorität"), this), r, 0);
-    management->addWidget(lePriority, r, 1);
-    management->addWidget(new QLabel(tr("Frist"), this), r, 2);
-    management->addWidget(deCorrectionDate, r, 3);
-    ++r;
-    management->addWidget(new QLabel(tr("1. Nachfrist"), this), r, 0);
-    management->addWidget(deDeadline1, r, 1);
-    management->addWidget(new QLabel(tr("2. Nachfrist"), this), r, 2);
-    management->addWidget(deDeadline2, r, 3);
-    management->addWidget(lblDeadline3, r, 4);
-    ++r;
-    management->addWidget(new QLabel(tr("Status"), this), r, 0);
-    management->addWidget(cbxStatus, r, 1, 1, 3);
-    management->addWidget(cbReduction, r, 4);
-    management->setColumnStretch(1, 1);
-    management->setColumnStretch(3, 1);
-
-    m_buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    m_buttons->setObjectName(QStringLiteral("buttonBox"));
-    m_buttons->button(QDialogButtonBox::Ok)->setIcon(QIcon(res("icon-allgemein-ok.png")));
-    m_buttons->button(QDialogButtonBox::Cancel)->setIcon(QIcon(res("icon-allgemein-cancel.png")));
+    QPushButton *ok = m_ui->buttonBox->button(QDialogButtonBox::Ok);
+    QPushButton *cancel = m_ui->buttonBox->button(QDialogButtonBox::Cancel);
+    ok->setIcon(QIcon(res("icon-allgemein-ok.png")));
+    cancel->setIcon(QIcon(res("icon-allgemein-cancel.png")));
     // Return in a line edit must not close the dialog by accident.
-    m_buttons->button(QDialogButtonBox::Ok)->setAutoDefault(false);
-    m_buttons->button(QDialogButtonBox::Cancel)->setAutoDefault(false);
+    ok->setAutoDefault(false);
+    cancel->setAutoDefault(false);
 
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(gbCollection, 1);
-    layout->addWidget(gbLocalization);
-    layout->addWidget(gbManagement);
-    layout->addWidget(m_buttons);
-
-    connect(m_buttons, &QDialogButtonBox::accepted, this, &KalDefectEditor::slotAccepted);
-    connect(m_buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(pbPhotoEditor, &QPushButton::clicked, this, &KalDefectEditor::slotImageEditorButtonClicked);
-    connect(pbPlanDialog, &QPushButton::clicked, this, &KalDefectEditor::slotPlanDialogButtonClicked);
-    connect(pbPlanEditor, &QPushButton::clicked, this, &KalDefectEditor::slotPlanEditorButtonClicked);
-    connect(cbxStatus, QOverload<int>::of(&QComboBox::activated), this, &KalDefectEditor::slotSelectedStatusChanged);
-    connect(cbxCompany, QOverload<int>::of(&QComboBox::activated), this, &KalDefectEditor::slotSelectedCompanyChanged);
-    connect(cbxPlan, QOverload<int>::of(&QComboBox::activated), this, &KalDefectEditor::slotSelectedPlanChanged);
-    connect(leType, &QLineEdit::editingFinished, this, &KalDefectEditor::slotTypeEditingFinished);
-    connect(leRoomName, &QLineEdit::editingFinished, this, &KalDefectEditor::slotRoomNameEditingFinished);
-    connect(leRoomBookNo, &QLineEdit::editingFinished, this, &KalDefectEditor::slotRoomBookNoEditingFinished);
-    connect(lePriority, &QLineEdit::editingFinished, this, &KalDefectEditor::slotPriorityEditingFinished);
-    connect(pbUserIdInfo, &QPushButton::clicked, this, &KalDefectEditor::on_pbUserIdInfo_clicked);
-    connect(leUserId, &QLineEdit::textEdited, this, &KalDefectEditor::on_leUserId_textEdited);
+    connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &KalDefectEditor::slotAccepted);
+    connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_ui->pbPhotoEditor, &QPushButton::clicked, this, &KalDefectEditor::slotImageEditorButtonClicked);
+    connect(m_ui->pbPlanDialog, &QPushButton::clicked, this, &KalDefectEditor::slotPlanDialogButtonClicked);
+    connect(m_ui->pbPlanEditor, &QPushButton::clicked, this, &KalDefectEditor::slotPlanEditorButtonClicked);
+    connect(m_ui->cbxStatus, QOverload<int>::of(&QComboBox::activated), this,
+            &KalDefectEditor::slotSelectedStatusChanged);
+    connect(m_ui->cbxCompany, QOverload<int>::of(&QComboBox::activated), this,
+            &KalDefectEditor::slotSelectedCompanyChanged);
+    connect(m_ui->cbxPlan, QOverload<int>::of(&QComboBox::activated), this, &KalDefectEditor::slotSelectedPlanChanged);
+    connect(m_ui->leType, &QLineEdit::editingFinished, this, &KalDefectEditor::slotTypeEditingFinished);
+    connect(m_ui->leRoomName, &QLineEdit::editingFinished, this, &KalDefectEditor::slotRoomNameEditingFinished);
+    connect(m_ui->leRoomBookNo, &QLineEdit::editingFinished, this, &KalDefectEditor::slotRoomBookNoEditingFinished);
+    connect(m_ui->lePriority, &QLineEdit::editingFinished, this, &KalDefectEditor::slotPriorityEditingFinished);
+    connect(m_ui->pbUserIdInfo, &QPushButton::clicked, this, &KalDefectEditor::slotUserIdInfoClicked);
+    connect(m_ui->leUserId, &QLineEdit::textEdited, this, &KalDefectEditor::slotUserIdTextEdited);
 }
 
 // --- values of the edited row ---------------------------------------------
@@ -402,18 +253,18 @@ bool KalDefectEditor::sameValue(const QVariant &a, const QVariant &b)
 
 void KalDefectEditor::readDates()
 {
-    deCreationDate->setDate(value(QStringLiteral("creation_date")).toDate());
-    deCorrectionDate->setDate(value(QStringLiteral("correction_date")).toDate());
-    deDeadline1->setDate(value(QStringLiteral("deadline_1")).toDate());
-    deDeadline2->setDate(value(QStringLiteral("deadline_2")).toDate());
+    m_ui->deCreationDate->setDate(value(QStringLiteral("creation_date")).toDate());
+    m_ui->deCorrectionDate->setDate(value(QStringLiteral("correction_date")).toDate());
+    m_ui->deDeadline1->setDate(value(QStringLiteral("deadline_1")).toDate());
+    m_ui->deDeadline2->setDate(value(QStringLiteral("deadline_2")).toDate());
 }
 
 void KalDefectEditor::writeDates()
 {
-    const QPair<KalDateEdit *, const char *> dates[] = {{deCreationDate, "creation_date"},
-                                                        {deCorrectionDate, "correction_date"},
-                                                        {deDeadline1, "deadline_1"},
-                                                        {deDeadline2, "deadline_2"}};
+    const QPair<KalDateEdit *, const char *> dates[] = {{m_ui->deCreationDate, "creation_date"},
+                                                        {m_ui->deCorrectionDate, "correction_date"},
+                                                        {m_ui->deDeadline1, "deadline_1"},
+                                                        {m_ui->deDeadline2, "deadline_2"}};
     for (const auto &d : dates) {
         const QDate date = d.first->date();
         writeValue(QLatin1String(d.second), date.isValid() ? QVariant(date) : QVariant(QVariant::Date));
@@ -439,21 +290,21 @@ void KalDefectEditor::selectComboId(QComboBox *combo, const QVariant &id)
 
 void KalDefectEditor::fillCompanyCombo()
 {
-    cbxCompany->clear();
+    m_ui->cbxCompany->clear();
     if (m_companies) {
         const int idColumn = m_companies->idColumn();
         for (int row : rowsByPos(m_companies)) {
             const qint64 id = m_companies->data(m_companies->index(row, idColumn), Qt::EditRole).toLongLong();
-            cbxCompany->addItem(KalSqlTableModel::companyText(m_companies->record(row)), id);
+            m_ui->cbxCompany->addItem(KalSqlTableModel::companyText(m_companies->record(row)), id);
         }
     }
-    cbxCompany->addItem(QIcon(res("tableview-plus.png")), tr("Neu..."), int(NewEntry));
-    selectComboId(cbxCompany, value(QStringLiteral("company_id")));
+    m_ui->cbxCompany->addItem(QIcon(res("tableview-plus.png")), tr("Neu..."), int(NewEntry));
+    selectComboId(m_ui->cbxCompany, value(QStringLiteral("company_id")));
 }
 
 void KalDefectEditor::fillStatusCombo()
 {
-    cbxStatus->clear();
+    m_ui->cbxStatus->clear();
     if (m_statuses) {
         const int idColumn = m_statuses->idColumn();
         const int nameColumn = m_statuses->fieldIndex(QStringLiteral("status"));
@@ -462,16 +313,16 @@ void KalDefectEditor::fillStatusCombo()
             const qint64 id = m_statuses->data(m_statuses->index(row, idColumn), Qt::EditRole).toLongLong();
             const QString name = m_statuses->data(m_statuses->index(row, nameColumn), Qt::EditRole).toString();
             const QString color = m_statuses->data(m_statuses->index(row, colorColumn), Qt::EditRole).toString();
-            cbxStatus->addItem(colorIcon(color), name, id);
+            m_ui->cbxStatus->addItem(colorIcon(color), name, id);
         }
     }
-    cbxStatus->addItem(QIcon(res("tableview-plus.png")), tr("Neu..."), int(NewEntry));
-    selectComboId(cbxStatus, value(QStringLiteral("status_id")));
+    m_ui->cbxStatus->addItem(QIcon(res("tableview-plus.png")), tr("Neu..."), int(NewEntry));
+    selectComboId(m_ui->cbxStatus, value(QStringLiteral("status_id")));
 }
 
 void KalDefectEditor::fillPlanCombo()
 {
-    cbxPlan->clear();
+    m_ui->cbxPlan->clear();
     if (m_plans) {
         const int idColumn = m_plans->idColumn();
         const int nameColumn = m_plans->fieldIndex(QStringLiteral("plan_name"));
@@ -483,18 +334,18 @@ void KalDefectEditor::fillPlanCombo()
                 indexColumn < 0 ? QString() : m_plans->data(m_plans->index(row, indexColumn), Qt::EditRole).toString();
             if (!planIndex.isEmpty())
                 text = tr("%1 (Index %2)").arg(text, planIndex);
-            cbxPlan->addItem(text, id);
+            m_ui->cbxPlan->addItem(text, id);
         }
     }
-    cbxPlan->addItem(QIcon(res("tableview-plus.png")), tr("Neu..."), int(NewEntry));
-    cbxPlan->addItem(QIcon(res("tableview-minus.png")), tr("Planzuordnung aufheben"), int(ClearPlanEntry));
+    m_ui->cbxPlan->addItem(QIcon(res("tableview-plus.png")), tr("Neu..."), int(NewEntry));
+    m_ui->cbxPlan->addItem(QIcon(res("tableview-minus.png")), tr("Planzuordnung aufheben"), int(ClearPlanEntry));
     // A plan can only be imported once the plan library is part of the program.
-    if (auto *items = qobject_cast<QStandardItemModel *>(cbxPlan->model())) {
-        if (QStandardItem *item = items->item(cbxPlan->count() - 2))
+    if (auto *items = qobject_cast<QStandardItemModel *>(m_ui->cbxPlan->model())) {
+        if (QStandardItem *item = items->item(m_ui->cbxPlan->count() - 2))
             item->setEnabled(false);
     }
     const QVariant plan = value(QStringLiteral("plan_info_id"));
-    selectComboId(cbxPlan, plan.toLongLong() > 0 ? plan : QVariant());
+    selectComboId(m_ui->cbxPlan, plan.toLongLong() > 0 ? plan : QVariant());
 }
 
 bool KalDefectEditor::statusAllowsReduction(const QVariant &statusId) const
@@ -511,9 +362,9 @@ bool KalDefectEditor::statusAllowsReduction(const QVariant &statusId) const
 void KalDefectEditor::applyReductionRule(bool clearWhenNotAllowed)
 {
     const bool allowed = statusAllowsReduction(value(QStringLiteral("status_id")));
-    cbReduction->setEnabled(allowed);
-    if (!allowed && clearWhenNotAllowed && cbReduction->isChecked()) {
-        cbReduction->setChecked(false);
+    m_ui->cbReduction->setEnabled(allowed);
+    if (!allowed && clearWhenNotAllowed && m_ui->cbReduction->isChecked()) {
+        m_ui->cbReduction->setChecked(false);
         writeValue(QStringLiteral("reduction"), 0);
     }
 }
@@ -522,11 +373,11 @@ void KalDefectEditor::slotSelectedCompanyChanged(int index)
 {
     if (index < 0)
         return;
-    qint64 id = cbxCompany->itemData(index).toLongLong();
+    qint64 id = m_ui->cbxCompany->itemData(index).toLongLong();
     if (id == NewEntry) {
         KalCompanyDialog dialog(m_project, this);
         if (dialog.exec() != QDialog::Accepted || dialog.companyId() < 0) {
-            selectComboId(cbxCompany, value(QStringLiteral("company_id")));
+            selectComboId(m_ui->cbxCompany, value(QStringLiteral("company_id")));
             return;
         }
         id = dialog.companyId();
@@ -566,7 +417,7 @@ void KalDefectEditor::slotSelectedStatusChanged(int index)
 {
     if (index < 0)
         return;
-    qint64 id = cbxStatus->itemData(index).toLongLong();
+    qint64 id = m_ui->cbxStatus->itemData(index).toLongLong();
     if (id == NewEntry) {
         QInputDialog input(this);
         input.setObjectName(QStringLiteral("NewStatusInput"));
@@ -578,12 +429,12 @@ void KalDefectEditor::slotSelectedStatusChanged(int index)
         const bool ok = input.exec() == QDialog::Accepted;
         const QString name = input.textValue().trimmed();
         if (!ok || name.isEmpty()) {
-            selectComboId(cbxStatus, value(QStringLiteral("status_id")));
+            selectComboId(m_ui->cbxStatus, value(QStringLiteral("status_id")));
             return;
         }
         id = createStatus(name);
         if (id < 0) {
-            selectComboId(cbxStatus, value(QStringLiteral("status_id")));
+            selectComboId(m_ui->cbxStatus, value(QStringLiteral("status_id")));
             return;
         }
         writeValue(QStringLiteral("status_id"), id);
@@ -599,19 +450,19 @@ void KalDefectEditor::slotSelectedPlanChanged(int index)
 {
     if (index < 0)
         return;
-    const qint64 id = cbxPlan->itemData(index).toLongLong();
+    const qint64 id = m_ui->cbxPlan->itemData(index).toLongLong();
     if (id == NewEntry) {
         // Importing a plan needs the plan library.
         slotPlanDialogButtonClicked();
         const QVariant plan = value(QStringLiteral("plan_info_id"));
-        selectComboId(cbxPlan, plan.toLongLong() > 0 ? plan : QVariant());
+        selectComboId(m_ui->cbxPlan, plan.toLongLong() > 0 ? plan : QVariant());
         return;
     }
     if (id == ClearPlanEntry) {
         // NULL and -1 both mean "no plan"; only a real assignment is undone.
         if (value(QStringLiteral("plan_info_id")).toLongLong() > 0)
             writeValue(QStringLiteral("plan_info_id"), -1);
-        cbxPlan->setCurrentIndex(-1);
+        m_ui->cbxPlan->setCurrentIndex(-1);
         return;
     }
     writeValue(QStringLiteral("plan_info_id"), id);
@@ -644,46 +495,47 @@ void KalDefectEditor::slotPlanEditorButtonClicked()
 void KalDefectEditor::updatePhotoButton()
 {
     const int count = value(QStringLiteral("image_cnt")).toInt();
-    pbPhotoEditor->setText(count < 1 ? tr("Fotos hinzufügen") : tr("Fotos bearbeiten"));
+    m_ui->pbPhotoEditor->setText(count < 1 ? tr("Fotos hinzufügen") : tr("Fotos bearbeiten"));
 }
 
 void KalDefectEditor::slotTypeEditingFinished()
 {
-    if (KalCompleter *c = leType->kalCompleter())
-        c->appendEntry(leType->text());
+    if (KalCompleter *c = m_ui->leType->kalCompleter())
+        c->appendEntry(m_ui->leType->text());
 }
 
 void KalDefectEditor::slotRoomNameEditingFinished()
 {
-    if (KalCompleter *c = leRoomName->kalCompleter())
-        c->appendEntry(leRoomName->text());
+    if (KalCompleter *c = m_ui->leRoomName->kalCompleter())
+        c->appendEntry(m_ui->leRoomName->text());
 }
 
 void KalDefectEditor::slotRoomBookNoEditingFinished()
 {
-    if (KalCompleter *c = leRoomBookNo->kalCompleter())
-        c->appendEntry(leRoomBookNo->text());
+    if (KalCompleter *c = m_ui->leRoomBookNo->kalCompleter())
+        c->appendEntry(m_ui->leRoomBookNo->text());
 }
 
 void KalDefectEditor::slotPriorityEditingFinished()
 {
-    if (KalCompleter *c = lePriority->kalCompleter())
-        c->appendEntry(lePriority->text());
+    if (KalCompleter *c = m_ui->lePriority->kalCompleter())
+        c->appendEntry(m_ui->lePriority->text());
 }
 
-void KalDefectEditor::on_pbUserIdInfo_clicked()
+void KalDefectEditor::slotUserIdInfoClicked()
 {
-    QToolTip::showText(pbUserIdInfo->mapToGlobal(QPoint(0, pbUserIdInfo->height())), userIdHelpText(), pbUserIdInfo);
+    QToolTip::showText(m_ui->pbUserIdInfo->mapToGlobal(QPoint(0, m_ui->pbUserIdInfo->height())), userIdHelpText(),
+                       m_ui->pbUserIdInfo);
 }
 
-void KalDefectEditor::on_leUserId_textEdited(const QString &text)
+void KalDefectEditor::slotUserIdTextEdited(const QString &text)
 {
     const QString upper = text.toUpper();
     if (upper == text)
         return;
-    const int cursor = leUserId->cursorPosition();
-    leUserId->setText(upper);
-    leUserId->setCursorPosition(cursor);
+    const int cursor = m_ui->leUserId->cursorPosition();
+    m_ui->leUserId->setText(upper);
+    m_ui->leUserId->setCursorPosition(cursor);
 }
 
 // --- closing ------------------------------------------------------------------------
@@ -695,7 +547,7 @@ void KalDefectEditor::slotAccepted()
         return;
     }
     // A date that cannot be read keeps the dialog open (the field warns).
-    for (KalDateEdit *edit : {deCreationDate, deCorrectionDate, deDeadline1, deDeadline2}) {
+    for (KalDateEdit *edit : {m_ui->deCreationDate, m_ui->deCorrectionDate, m_ui->deDeadline1, m_ui->deDeadline2}) {
         if (!edit->text().trimmed().isEmpty() && !edit->date().isValid()) {
             edit->setFocus();
             return;
@@ -706,7 +558,7 @@ void KalDefectEditor::slotAccepted()
     // field keeps its stored form (NULL stays NULL).
     for (int column = 0; column < m_defects->columnCount(); ++column) {
         QWidget *widget = m_mapper->mappedWidgetAt(column);
-        if (!widget || widget == lePhotos)
+        if (!widget || widget == m_ui->lePhotos)
             continue;
         QVariant v = widget->property(m_mapper->mappedPropertyName(widget));
         if (v.type() == QVariant::Bool)

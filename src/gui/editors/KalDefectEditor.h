@@ -5,19 +5,17 @@
 #include <QVariant>
 #include <QVector>
 
-class KalCompleterLineEdit;
-class KalCompleterTextEdit;
+#include <memory>
+
 class KalDateEdit;
 class KalProject;
 class KalSqlTableModel;
-class QCheckBox;
 class QComboBox;
 class QDataWidgetMapper;
-class QDialogButtonBox;
-class QGroupBox;
-class QLabel;
-class QLineEdit;
-class QPushButton;
+
+namespace Ui {
+class KalDefectEditor;
+}
 
 // Edits one row of the defect model in place. OK writes the fields and
 // submits; Cancel reverts everything the dialog wrote into the defect row.
@@ -51,14 +49,14 @@ public slots:
     void slotRoomNameEditingFinished();
     void slotRoomBookNoEditingFinished();
     void slotPriorityEditingFinished();
-    void on_pbUserIdInfo_clicked();
-    void on_leUserId_textEdited(const QString &text);
+    void slotUserIdInfoClicked();
+    void slotUserIdTextEdited(const QString &text);
 
 protected:
     void done(int result) override;
 
 private:
-    void buildUi();
+    void setUpUi();
     void fillCompanyCombo();
     void fillStatusCombo();
     void fillPlanCombo();
@@ -88,30 +86,5 @@ private:
     bool m_finished = false;
 
     QDataWidgetMapper *m_mapper = nullptr;
-    QGroupBox *gbCollection = nullptr;
-    QGroupBox *gbLocalization = nullptr;
-    QGroupBox *gbManagement = nullptr;
-    QLineEdit *leNumber = nullptr;
-    KalCompleterTextEdit *teDescription = nullptr;
-    QComboBox *cbxCompany = nullptr;
-    KalCompleterLineEdit *leType = nullptr;
-    KalCompleterLineEdit *leUserId = nullptr;
-    QPushButton *pbUserIdInfo = nullptr;
-    KalDateEdit *deCreationDate = nullptr;
-    KalCompleterLineEdit *leRoomName = nullptr;
-    KalCompleterLineEdit *leRoomBookNo = nullptr;
-    QComboBox *cbxPlan = nullptr;
-    QPushButton *pbPlanDialog = nullptr;
-    QPushButton *pbPlanEditor = nullptr;
-    QLineEdit *lePhotos = nullptr;
-    QPushButton *pbPhotoEditor = nullptr;
-    KalCompleterLineEdit *leCorrectionInstruction = nullptr;
-    KalCompleterLineEdit *lePriority = nullptr;
-    KalDateEdit *deCorrectionDate = nullptr;
-    KalDateEdit *deDeadline1 = nullptr;
-    KalDateEdit *deDeadline2 = nullptr;
-    QLabel *lblDeadline3 = nullptr;
-    QComboBox *cbxStatus = nullptr;
-    QCheckBox *cbReduction = nullptr;
-    QDialogButtonBox *m_buttons = nullptr;
+    std::unique_ptr<Ui::KalDefectEditor> m_ui;
 };

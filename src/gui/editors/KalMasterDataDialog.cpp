@@ -1,4 +1,5 @@
 #include "KalMasterDataDialog.h"
+#include "ui_KalMasterDataDialog.h"
 
 #include "core/project/KalCompanyFormat.h"
 #include "core/project/KalPrivacyNotice.h"
@@ -11,10 +12,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QFormLayout>
-#include <QGridLayout>
-#include <QGroupBox>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QIcon>
 #include <QLabel>
@@ -27,7 +24,6 @@
 #include <QTabWidget>
 #include <QTimer>
 #include <QToolButton>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -43,43 +39,31 @@ QString res(const char *name)
 KalMasterDataDialog::KalMasterDataDialog(KalProject *project, QWidget *parent)
     : QDialog(parent)
     , m_project(project)
+    , m_ui(std::make_unique<Ui::KalMasterDataDialog>())
 {
-    setObjectName(QStringLiteral("KalMasterDataDialog"));
-    setWindowTitle(tr("Stammdaten"));
-    setWindowIcon(QIcon(res("icon-projektdaten.ico")));
+    m_ui->setupUi(this);
     if (project) {
         m_kal = project->model(QStringLiteral("kal"));
         m_companies = project->model(QStringLiteral("company"));
     }
 
-    twMasterData = new QTabWidget(this);
-    twMasterData->setObjectName(QStringLiteral("twMasterData"));
-    twMasterData->addTab(buildProjectPage(), QIcon(res("icon-projektdaten.ico")), tr("Projektdaten"));
-    twMasterData->addTab(buildCompanyPage(), QIcon(res("icon-firmen.ico")), tr("Firmendaten"));
+    QPushButton *ok = m_ui->buttonBox->button(QDialogButtonBox::Ok);
+    ok->setObjectName(QStringLiteral("pbOk"));
+    ok->setIcon(QIcon(res("icon-allgemein-ok.png")));
+    ok->setAutoDefault(false);
+    QPushButton *cancel = m_ui->buttonBox->button(QDialogButtonBox::Cancel);
+    cancel->setObjectName(QStringLiteral("pbCancel"));
+    cancel->setIcon(QIcon(res("icon-allgemein-cancel.png")));
+    cancel->setAutoDefault(false);
+    connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &KalMasterDataDialog::slotOkClicked);
+    connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &KalMasterDataDialog::slotCancelClicked);
+    connect(m_ui->twMasterData, &QTabWidget::currentChanged, this, &KalMasterDataDialog::slotTabChanged);
 
-    auto *buttons = new QDialogButtonBox(this);
-    buttons->setObjectName(QStringLiteral("buttonBox"));
-    pbOk = buttons->addButton(QDialogButtonBox::Ok);
-    pbOk->setObjectName(QStringLiteral("pbOk"));
-    pbOk->setIcon(QIcon(res("icon-allgemein-ok.png")));
-    pbCancel = buttons->addButton(QDialogButtonBox::Cancel);
-    pbCancel->setObjectName(QStringLiteral("pbCancel"));
-    pbCancel->setIcon(QIcon(res("icon-allgemein-cancel.png")));
-    pbOk->setAutoDefault(false);
-    pbCancel->setAutoDefault(false);
-    connect(buttons, &QDialogButtonBox::accepted, this, &KalMasterDataDialog::on_pbOk_clicked);
-    connect(buttons, &QDialogButtonBox::rejected, this, &KalMasterDataDialog::on_pbCancel_clicked);
-
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(twMasterData, 1);
-    layout->addWidget(buttons);
-
-    connect(twMasterData, &QTabWidget::currentChanged, this, &KalMasterDataDialog::slotTabChanged);
-
+    setUpProjectPage();
+    setUpCompanyPage();
     loadProjectTexts();
     showFormat();
 
-    resize(900, 600);
     const QByteArray geometry = QSettings().value(QLatin1String(kGeometryKey)).toByteArray();
     if (!geometry.isEmpty())
         restoreGeometry(geometry);
@@ -87,68 +71,28 @@ KalMasterDataDialog::KalMasterDataDialog(KalProject *project, QWidget *parent)
 
 KalMasterDataDialog::~KalMasterDataDialog() = default;
 
-QWidget *KalMasterDataDialog::buildProjectPage()
+KalTableView *KalMasterDataDialog::companyView() const
 {
-    auto *page = new QWidget(this);
-    page->setObjectName(QStringLiteral("tabProjectData"));
-    auto edit = [this, page](const char *name, const char *column) {
-        auto *e = new QLineEdit(page);
-        e->setObjectName(QLatin1String(name));
-        m_textEdits.insert(QLatin1String(column), e);
-        return e;
-    };
-    leProjectName = edit("leProjectName", "projectname");
-    leProjectNumber = edit("leProjectNumber", "projectnumber");
-    leHeaderLeft = edit("leHeaderLeft", "headline_left");
-    leHeaderCenter = edit("leHeaderCenter", "headline_center");
-    leHeaderRight = edit("leHeaderRight", "headline_right");
-    leFooterLeft = edit("leFooterLeft", "footer_left");
-    leFooterCenter = edit("leFooterCenter", "footer_center");
-    leFooterRight = edit("leFooterRight", "footer_right");
-
-    auto *form = new QFormLayout;
-    form->addRow(tr("Projektname:"), leProjectName);
-    form->addRow(tr("Projektnummer:"), leProjectNumber);
-
-    auto *print = new QGroupBox(tr("Druckausgabe"), page);
-    print->setObjectName(QStringLiteral("gbPrintOutput"));
-    auto *grid = new QGridLayout(print);
-    grid->addWidget(new QLabel(tr("Links:"), print), 0, 1);
-    grid->addWidget(new QLabel(tr("Mitte:"), print), 0, 2);
-    grid->addWidget(new QLabel(tr("Rechts:"), print), 0, 3);
-    grid->addWidget(new QLabel(tr("Kopfzeile:"), print), 1, 0);
-    grid->addWidget(leHeaderLeft, 1, 1);
-    grid->addWidget(leHeaderCenter, 1, 2);
-    grid->addWidget(leHeaderRight, 1, 3);
-    grid->addWidget(new QLabel(tr("Fußzeile:"), print), 2, 0);
-    grid->addWidget(leFooterLeft, 2, 1);
-    grid->addWidget(leFooterCenter, 2, 2);
-    grid->addWidget(leFooterRight, 2, 3);
-    for (int c = 1; c <= 3; ++c)
-        grid->setColumnStretch(c, 1);
-
-    auto *layout = new QVBoxLayout(page);
-    layout->addLayout(form);
-    layout->addWidget(print);
-    layout->addStretch(1);
-
-    connect(leHeaderLeft, &QLineEdit::editingFinished, this, &KalMasterDataDialog::on_leHeaderLeft_editingFinished);
-    return page;
+    return m_ui->tvCompanies;
 }
 
-QWidget *KalMasterDataDialog::buildCompanyPage()
+void KalMasterDataDialog::setUpProjectPage()
 {
-    auto *page = new QWidget(this);
-    page->setObjectName(QStringLiteral("tabCompanyData"));
+    const QList<QPair<QLineEdit *, const char *>> edits{
+        {m_ui->leProjectName, "projectname"},    {m_ui->leProjectNumber, "projectnumber"},
+        {m_ui->leHeaderLeft, "headline_left"},   {m_ui->leHeaderCenter, "headline_center"},
+        {m_ui->leHeaderRight, "headline_right"}, {m_ui->leFooterLeft, "footer_left"},
+        {m_ui->leFooterCenter, "footer_center"}, {m_ui->leFooterRight, "footer_right"}};
+    for (const auto &edit : edits)
+        m_textEdits.insert(QLatin1String(edit.second), edit.first);
+    connect(m_ui->leHeaderLeft, &QLineEdit::editingFinished, this, &KalMasterDataDialog::slotHeaderLeftEditingFinished);
+}
 
-    auto *listGroup = new QGroupBox(tr("Firmenliste"), page);
-    listGroup->setObjectName(QStringLiteral("gbCompanyList"));
-    tvCompanies = new KalTableView(listGroup);
+void KalMasterDataDialog::setUpCompanyPage()
+{
+    KalTableView *tvCompanies = m_ui->tvCompanies;
     tvCompanies->setSubmitEdits(false); // OK writes, Cancel reverts
-    tvCompanies->setObjectName(QStringLiteral("tvCompanies"));
     tvCompanies->copyButton()->hide();
-    auto *listLayout = new QVBoxLayout(listGroup);
-    listLayout->addWidget(tvCompanies);
 
     if (m_companies) {
         // Sorting in a proxy keeps the pending edits of the shared model
@@ -178,94 +122,42 @@ QWidget *KalMasterDataDialog::buildCompanyPage()
                 &KalMasterDataDialog::slotScrollAfterSorting);
         connect(tvCompanies->horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
             if (isVisible())
-                tvCompanies->saveColumnWidths();
+                m_ui->tvCompanies->saveColumnWidths();
         });
     } else {
-        listGroup->setEnabled(false);
+        m_ui->gbCompanyList->setEnabled(false);
     }
 
-    auto *formatGroup = new QGroupBox(tr("Ausgabeformat für Firmendaten"), page);
-    formatGroup->setObjectName(QStringLiteral("gbCompanyOutputFormat"));
-    auto combo = [formatGroup](const char *name) {
-        auto *c = new QComboBox(formatGroup);
-        c->setObjectName(QLatin1String(name));
-        c->addItems(KalCompanyFormat::fieldCaptions());
-        return c;
-    };
-    cbxOutputField1 = combo("cbxOutputField1");
-    cbxOutputField2 = combo("cbxOutputField2");
-    cbxOutputField3 = combo("cbxOutputField3");
-    cbField2InBrackets = new QCheckBox(tr("Dieses Feld in Klammern setzen"), formatGroup);
-    cbField2InBrackets->setObjectName(QStringLiteral("cbField2InBrackets"));
-    cbField3InBrackets = new QCheckBox(tr("Dieses Feld in Klammern setzen"), formatGroup);
-    cbField3InBrackets->setObjectName(QStringLiteral("cbField3InBrackets"));
-    lblExample = new QLabel(formatGroup);
-    lblExample->setObjectName(QStringLiteral("lblExample"));
-    lblExample->setTextFormat(Qt::PlainText);
-    lblExample->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    pbCompaniesOutputFormatDefaults = new QPushButton(tr("Auf Werkseinstellungen zurücksetzen"), formatGroup);
-    pbCompaniesOutputFormatDefaults->setObjectName(QStringLiteral("pbCompaniesOutputFormatDefaults"));
-    pbCompaniesOutputFormatDefaults->setAutoDefault(false);
-
-    auto *formatGrid = new QGridLayout(formatGroup);
-    formatGrid->addWidget(new QLabel(tr("Text 1:"), formatGroup), 0, 0);
-    formatGrid->addWidget(cbxOutputField1, 0, 1);
-    formatGrid->addWidget(new QLabel(tr("Text 2:"), formatGroup), 1, 0);
-    formatGrid->addWidget(cbxOutputField2, 1, 1);
-    formatGrid->addWidget(cbField2InBrackets, 1, 2);
-    formatGrid->addWidget(new QLabel(tr("Text 3:"), formatGroup), 2, 0);
-    formatGrid->addWidget(cbxOutputField3, 2, 1);
-    formatGrid->addWidget(cbField3InBrackets, 2, 2);
-    formatGrid->addWidget(new QLabel(tr("Beispiel:"), formatGroup), 3, 0);
-    formatGrid->addWidget(lblExample, 3, 1, 1, 3);
-    formatGrid->addWidget(pbCompaniesOutputFormatDefaults, 0, 4);
-    formatGrid->setColumnStretch(3, 1);
-
-    pbPrint = new QPushButton(tr("Drucken"), page);
-    pbPrint->setObjectName(QStringLiteral("pbPrint"));
+    for (QComboBox *combo : {m_ui->cbxOutputField1, m_ui->cbxOutputField2, m_ui->cbxOutputField3})
+        combo->addItems(KalCompanyFormat::fieldCaptions());
     // Printing the company list is not part of the program yet.
-    pbPrint->setEnabled(false);
-    pbImportCompanies = new QPushButton(QIcon(res("icon-firmen-import.ico")), tr("Firmen importieren"), page);
-    pbImportCompanies->setObjectName(QStringLiteral("pbImportCompanies"));
-    pbPrint->setAutoDefault(false);
-    pbImportCompanies->setAutoDefault(false);
-    pbImportCompanies->setEnabled(m_companies != nullptr && KalCompanyImportSelectDialog::isAvailable());
+    m_ui->pbPrint->setEnabled(false);
+    m_ui->pbImportCompanies->setEnabled(m_companies != nullptr && KalCompanyImportSelectDialog::isAvailable());
 
-    auto *pageButtons = new QHBoxLayout;
-    pageButtons->addWidget(pbImportCompanies);
-    pageButtons->addWidget(pbPrint);
-    pageButtons->addStretch(1);
-
-    auto *layout = new QVBoxLayout(page);
-    layout->addWidget(listGroup, 1);
-    layout->addLayout(pageButtons);
-    layout->addWidget(formatGroup);
-
-    connect(cbxOutputField1, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+    connect(m_ui->cbxOutputField1, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &KalMasterDataDialog::slotUpdateCompanyOutputFormatFieldIdx1);
-    connect(cbxOutputField2, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+    connect(m_ui->cbxOutputField2, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &KalMasterDataDialog::slotUpdateCompanyOutputFormatFieldIdx2);
-    connect(cbxOutputField3, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+    connect(m_ui->cbxOutputField3, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &KalMasterDataDialog::slotUpdateCompanyOutputFormatFieldIdx3);
-    connect(cbField2InBrackets, &QCheckBox::stateChanged, this,
+    connect(m_ui->cbField2InBrackets, &QCheckBox::stateChanged, this,
             &KalMasterDataDialog::slotUpdateCompanyOutputFormatField2InBrackets);
-    connect(cbField3InBrackets, &QCheckBox::stateChanged, this,
+    connect(m_ui->cbField3InBrackets, &QCheckBox::stateChanged, this,
             &KalMasterDataDialog::slotUpdateCompanyOutputFormatField3InBrackets);
-    connect(pbCompaniesOutputFormatDefaults, &QPushButton::clicked, this,
-            &KalMasterDataDialog::on_pbCompaniesOutputFormatDefaults_clicked);
-    connect(pbImportCompanies, &QPushButton::clicked, this, &KalMasterDataDialog::slotImportCompanyData);
-    return page;
+    connect(m_ui->pbCompaniesOutputFormatDefaults, &QPushButton::clicked, this,
+            &KalMasterDataDialog::slotCompaniesOutputFormatDefaultsClicked);
+    connect(m_ui->pbImportCompanies, &QPushButton::clicked, this, &KalMasterDataDialog::slotImportCompanyData);
 }
 
 void KalMasterDataDialog::setCurrentPage(Page page)
 {
-    twMasterData->setCurrentIndex(page == ProjectPage ? 0 : 1);
+    m_ui->twMasterData->setCurrentIndex(page == ProjectPage ? 0 : 1);
     if (page == CompanyFormatPage)
-        cbxOutputField1->setFocus();
+        m_ui->cbxOutputField1->setFocus();
     else if (page == ProjectPage)
-        leProjectName->setFocus();
+        m_ui->leProjectName->setFocus();
     else
-        tvCompanies->setFocus();
+        m_ui->tvCompanies->setFocus();
 }
 
 // --- project texts ----------------------------------------------------------
@@ -296,13 +188,13 @@ bool KalMasterDataDialog::headerReminderDue(const QString &projectName, const QS
     return true;
 }
 
-void KalMasterDataDialog::on_leHeaderLeft_editingFinished()
+void KalMasterDataDialog::slotHeaderLeftEditingFinished()
 {
     // Once per dialog: editing finishes on every focus change.
     if (m_reminderShown || m_closing)
         return;
-    if (!headerReminderDue(leProjectName->text(),
-                           {leHeaderLeft->text(), leHeaderCenter->text(), leHeaderRight->text()}))
+    if (!headerReminderDue(m_ui->leProjectName->text(),
+                           {m_ui->leHeaderLeft->text(), m_ui->leHeaderCenter->text(), m_ui->leHeaderRight->text()}))
         return;
     m_reminderShown = true;
     KalPrompt::information(tr("Projektname"),
@@ -335,11 +227,11 @@ void KalMasterDataDialog::slotAddCompany()
     if (!m_companies->insertRecord(-1, record))
         return;
     // Written with OK, like every other change of this dialog.
-    if (tvCompanies->selectId(id)) {
-        const QModelIndex current = tvCompanies->currentIndex();
+    if (m_ui->tvCompanies->selectId(id)) {
+        const QModelIndex current = m_ui->tvCompanies->currentIndex();
         const QModelIndex first = current.sibling(current.row(), m_companies->fieldIndex(QStringLiteral("type")));
-        tvCompanies->setCurrentIndex(first);
-        tvCompanies->edit(first);
+        m_ui->tvCompanies->setCurrentIndex(first);
+        m_ui->tvCompanies->edit(first);
     }
 }
 
@@ -350,8 +242,8 @@ void KalMasterDataDialog::slotImportCompanyData()
     KalCompanyImportSelectDialog dialog(m_project, this);
     dialog.exec();
     if (!dialog.insertedIds().isEmpty()) {
-        tvCompanies->selectIds(dialog.insertedIds().toList());
-        tvCompanies->scrollTo(tvCompanies->currentIndex());
+        m_ui->tvCompanies->selectIds(dialog.insertedIds().toList());
+        m_ui->tvCompanies->scrollTo(m_ui->tvCompanies->currentIndex());
     }
 }
 
@@ -359,9 +251,9 @@ void KalMasterDataDialog::slotScrollAfterSorting(int logicalIndex, Qt::SortOrder
 {
     Q_UNUSED(logicalIndex)
     Q_UNUSED(order)
-    tvCompanies->horizontalHeader()->setSortIndicatorShown(true);
-    if (tvCompanies->currentIndex().isValid())
-        tvCompanies->scrollTo(tvCompanies->currentIndex(), QAbstractItemView::PositionAtCenter);
+    m_ui->tvCompanies->horizontalHeader()->setSortIndicatorShown(true);
+    if (m_ui->tvCompanies->currentIndex().isValid())
+        m_ui->tvCompanies->scrollTo(m_ui->tvCompanies->currentIndex(), QAbstractItemView::PositionAtCenter);
 }
 
 void KalMasterDataDialog::slotTabChanged(int index)
@@ -381,7 +273,7 @@ void KalMasterDataDialog::showPrivacyNoticeOnce()
 void KalMasterDataDialog::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
-    if (twMasterData->currentIndex() == 1)
+    if (m_ui->twMasterData->currentIndex() == 1)
         showPrivacyNoticeOnce();
 }
 
@@ -391,11 +283,11 @@ void KalMasterDataDialog::showFormat()
 {
     const KalCompanyFormat format = KalCompanyFormat::load();
     m_updatingFormat = true;
-    cbxOutputField1->setCurrentIndex(format.field1);
-    cbxOutputField2->setCurrentIndex(format.field2);
-    cbxOutputField3->setCurrentIndex(format.field3);
-    cbField2InBrackets->setChecked(format.field2InBrackets);
-    cbField3InBrackets->setChecked(format.field3InBrackets);
+    m_ui->cbxOutputField1->setCurrentIndex(format.field1);
+    m_ui->cbxOutputField2->setCurrentIndex(format.field2);
+    m_ui->cbxOutputField3->setCurrentIndex(format.field3);
+    m_ui->cbField2InBrackets->setChecked(format.field2InBrackets);
+    m_ui->cbField3InBrackets->setChecked(format.field3InBrackets);
     m_updatingFormat = false;
     updateExample();
 }
@@ -405,11 +297,11 @@ void KalMasterDataDialog::storeFormat()
     if (m_updatingFormat)
         return;
     KalCompanyFormat format;
-    format.field1 = qMax(0, cbxOutputField1->currentIndex());
-    format.field2 = qMax(0, cbxOutputField2->currentIndex());
-    format.field3 = qMax(0, cbxOutputField3->currentIndex());
-    format.field2InBrackets = cbField2InBrackets->isChecked();
-    format.field3InBrackets = cbField3InBrackets->isChecked();
+    format.field1 = qMax(0, m_ui->cbxOutputField1->currentIndex());
+    format.field2 = qMax(0, m_ui->cbxOutputField2->currentIndex());
+    format.field3 = qMax(0, m_ui->cbxOutputField3->currentIndex());
+    format.field2InBrackets = m_ui->cbField2InBrackets->isChecked();
+    format.field3InBrackets = m_ui->cbField3InBrackets->isChecked();
     if (format != KalCompanyFormat::load()) {
         format.save();
         format.installInModels();
@@ -419,7 +311,7 @@ void KalMasterDataDialog::storeFormat()
 
 void KalMasterDataDialog::updateExample()
 {
-    lblExample->setText(
+    m_ui->lblExample->setText(
         KalCompanyFormat::load().text(KalCompanyFormat::sampleCompany(), KalCompanyFormat::gridSeparator()));
 }
 
@@ -448,7 +340,7 @@ void KalMasterDataDialog::slotUpdateCompanyOutputFormatField3InBrackets(int)
     storeFormat();
 }
 
-void KalMasterDataDialog::on_pbCompaniesOutputFormatDefaults_clicked()
+void KalMasterDataDialog::slotCompaniesOutputFormatDefaultsClicked()
 {
     const KalCompanyFormat defaults = KalCompanyFormat::factoryDefaults();
     defaults.save();
@@ -490,16 +382,16 @@ void KalMasterDataDialog::actionRevert()
         m_companies->revertAll();
 }
 
-void KalMasterDataDialog::on_pbOk_clicked()
+void KalMasterDataDialog::slotOkClicked()
 {
     // Commit an open grid editor first.
-    tvCompanies->setFocus();
+    m_ui->tvCompanies->setFocus();
     m_closing = true;
     actionSubmit();
     accept();
 }
 
-void KalMasterDataDialog::on_pbCancel_clicked()
+void KalMasterDataDialog::slotCancelClicked()
 {
     reject();
 }
@@ -509,7 +401,7 @@ void KalMasterDataDialog::done(int result)
     m_closing = true;
     if (result == QDialog::Rejected)
         actionRevert();
-    tvCompanies->saveColumnWidths();
+    m_ui->tvCompanies->saveColumnWidths();
     QSettings().setValue(QLatin1String(kGeometryKey), saveGeometry());
     QDialog::done(result);
 }

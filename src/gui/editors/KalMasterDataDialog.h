@@ -4,17 +4,17 @@
 #include <QMap>
 #include <QPointer>
 
+#include <memory>
+
 class KalProject;
 class KalSqlTableModel;
 class KalTableView;
-class QCheckBox;
-class QComboBox;
-class QDialogButtonBox;
-class QLabel;
 class QLineEdit;
-class QPushButton;
 class QSortFilterProxyModel;
-class QTabWidget;
+
+namespace Ui {
+class KalMasterDataDialog;
+}
 
 // The project's own data (name, number, print header and footer) and its
 // company list with the company output format. OK writes the changes of
@@ -36,14 +36,14 @@ public:
     // occurs in none of the three header texts.
     static bool headerReminderDue(const QString &projectName, const QStringList &headerTexts);
 
-    KalTableView *companyView() const { return tvCompanies; }
+    KalTableView *companyView() const;
 
 public slots:
     void actionSubmit();
     void actionRevert();
-    void on_pbOk_clicked();
-    void on_pbCancel_clicked();
-    void on_leHeaderLeft_editingFinished();
+    void slotOkClicked();
+    void slotCancelClicked();
+    void slotHeaderLeftEditingFinished();
     void slotAddCompany();
     void slotImportCompanyData();
     void slotTabChanged(int index);
@@ -52,7 +52,7 @@ public slots:
     void slotUpdateCompanyOutputFormatFieldIdx3(int index);
     void slotUpdateCompanyOutputFormatField2InBrackets(int state);
     void slotUpdateCompanyOutputFormatField3InBrackets(int state);
-    void on_pbCompaniesOutputFormatDefaults_clicked();
+    void slotCompaniesOutputFormatDefaultsClicked();
     void slotScrollAfterSorting(int logicalIndex, Qt::SortOrder order);
 
 protected:
@@ -60,8 +60,8 @@ protected:
     void done(int result) override;
 
 private:
-    QWidget *buildProjectPage();
-    QWidget *buildCompanyPage();
+    void setUpProjectPage();
+    void setUpCompanyPage();
     void loadProjectTexts();
     void showFormat();
     void storeFormat();
@@ -79,25 +79,5 @@ private:
     bool m_reminderShown = false;
     bool m_updatingFormat = false;
 
-    QTabWidget *twMasterData = nullptr;
-    QLineEdit *leProjectName = nullptr;
-    QLineEdit *leProjectNumber = nullptr;
-    QLineEdit *leHeaderLeft = nullptr;
-    QLineEdit *leHeaderCenter = nullptr;
-    QLineEdit *leHeaderRight = nullptr;
-    QLineEdit *leFooterLeft = nullptr;
-    QLineEdit *leFooterCenter = nullptr;
-    QLineEdit *leFooterRight = nullptr;
-    KalTableView *tvCompanies = nullptr;
-    QComboBox *cbxOutputField1 = nullptr;
-    QComboBox *cbxOutputField2 = nullptr;
-    QComboBox *cbxOutputField3 = nullptr;
-    QCheckBox *cbField2InBrackets = nullptr;
-    QCheckBox *cbField3InBrackets = nullptr;
-    QLabel *lblExample = nullptr;
-    QPushButton *pbCompaniesOutputFormatDefaults = nullptr;
-    QPushButton *pbPrint = nullptr;
-    QPushButton *pbImportCompanies = nullptr;
-    QPushButton *pbOk = nullptr;
-    QPushButton *pbCancel = nullptr;
+    std::unique_ptr<Ui::KalMasterDataDialog> m_ui;
 };

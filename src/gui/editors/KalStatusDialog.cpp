@@ -1,4 +1,5 @@
 #include "KalStatusDialog.h"
+#include "ui_KalStatusDialog.h"
 
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
@@ -6,14 +7,12 @@
 #include "gui/widgets/KalTableView.h"
 
 #include <QColorDialog>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QIcon>
 #include <QPushButton>
 #include <QSettings>
 #include <QSortFilterProxyModel>
 #include <QSqlRecord>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -31,63 +30,42 @@ KalStatusDialog::KalStatusDialog(KalProject *project, QWidget *parent)
     : QDialog(parent)
     , m_project(project)
     , m_model(project ? project->model(QStringLiteral("status")) : nullptr)
+    , m_ui(std::make_unique<Ui::KalStatusDialog>())
 {
-    setObjectName(QStringLiteral("KalStatusDialog"));
-    setWindowTitle(tr("Statusverwaltung"));
-    setWindowIcon(QIcon(QStringLiteral(":/KalMainWindow/Resources/icon-status-editor.ico")));
-
-    tvStatus = new KalTableView(this);
-    tvStatus->setObjectName(QStringLiteral("tvStatus"));
-    pbDefaultStatus = new QPushButton(tr("Werkseinstellung"), this);
-    pbDefaultStatus->setObjectName(QStringLiteral("pbDefaultStatus"));
-    pbRemoveUserStatus = new QPushButton(tr("Alle User-Status entfernen"), this);
-    pbRemoveUserStatus->setObjectName(QStringLiteral("pbRemoveUserStatus"));
-    pbClose = new QPushButton(QIcon(QStringLiteral(":/KalMainWindow/Resources/icon-allgemein-ok.png")), tr("Schließen"),
-                              this);
-    pbClose->setObjectName(QStringLiteral("pbClose"));
-    pbClose->setAutoDefault(false);
-    pbDefaultStatus->setAutoDefault(false);
-    pbRemoveUserStatus->setAutoDefault(false);
-
-    auto *buttons = new QHBoxLayout;
-    buttons->addWidget(pbDefaultStatus);
-    buttons->addWidget(pbRemoveUserStatus);
-    buttons->addStretch(1);
-    buttons->addWidget(pbClose);
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(tvStatus, 1);
-    layout->addLayout(buttons);
+    m_ui->setupUi(this);
 
     if (m_model) {
         // Sorting happens in a proxy, so the shared model keeps its rows.
         m_proxy = new QSortFilterProxyModel(this);
         m_proxy->setSourceModel(m_model);
         m_proxy->setSortRole(Qt::EditRole);
-        tvStatus->setModel(m_proxy);
+        m_ui->tvStatus->setModel(m_proxy);
         for (const char *hidden : {"id", "reduction_option", "pos"})
-            tvStatus->setColumnHidden(m_model->fieldIndex(QLatin1String(hidden)), true);
+            m_ui->tvStatus->setColumnHidden(m_model->fieldIndex(QLatin1String(hidden)), true);
         // Enabling sorting sorts by the header's indicator: point it at `pos`.
-        tvStatus->horizontalHeader()->setSortIndicator(m_model->fieldIndex(QStringLiteral("pos")), Qt::AscendingOrder);
-        tvStatus->setSortingEnabled(true);
+        m_ui->tvStatus->horizontalHeader()->setSortIndicator(m_model->fieldIndex(QStringLiteral("pos")),
+                                                             Qt::AscendingOrder);
+        m_ui->tvStatus->setSortingEnabled(true);
         m_proxy->sort(m_model->fieldIndex(QStringLiteral("pos")), Qt::AscendingOrder);
-        tvStatus->horizontalHeader()->setSortIndicatorShown(false);
-        if (!tvStatus->restoreColumnWidths()) {
-            tvStatus->setColumnWidth(m_model->fieldIndex(QStringLiteral("status")), 260);
-            tvStatus->setColumnWidth(m_model->fieldIndex(QStringLiteral("color")), 60);
-            tvStatus->setColumnWidth(m_model->fieldIndex(QStringLiteral("type")), 130);
+        m_ui->tvStatus->horizontalHeader()->setSortIndicatorShown(false);
+        if (!m_ui->tvStatus->restoreColumnWidths()) {
+            m_ui->tvStatus->setColumnWidth(m_model->fieldIndex(QStringLiteral("status")), 260);
+            m_ui->tvStatus->setColumnWidth(m_model->fieldIndex(QStringLiteral("color")), 60);
+            m_ui->tvStatus->setColumnWidth(m_model->fieldIndex(QStringLiteral("type")), 130);
         }
-        tvStatus->horizontalHeader()->setStretchLastSection(true);
+        m_ui->tvStatus->horizontalHeader()->setStretchLastSection(true);
 
-        connect(tvStatus, &KalTableView::signalAddButtonClicked, this, &KalStatusDialog::slotAddStatus);
-        connect(tvStatus, &KalTableView::mouseClickOnStatusColorField, this,
+        connect(m_ui->tvStatus, &KalTableView::signalAddButtonClicked, this, &KalStatusDialog::slotAddStatus);
+        connect(m_ui->tvStatus, &KalTableView::mouseClickOnStatusColorField, this,
                 [this](const QModelIndex &, qint64 id) { colorEditorForId(id); });
-        connect(tvStatus->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
+        connect(m_ui->tvStatus->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
                 &KalStatusDialog::slotSaveSelectionBeforeSorting);
-        connect(tvStatus->horizontalHeader(), &QHeaderView::sectionClicked, this,
+        connect(m_ui->tvStatus->horizontalHeader(), &QHeaderView::sectionClicked, this,
                 &KalStatusDialog::slotRestoreSelectionAfterSorting);
-        connect(tvStatus->horizontalHeader(), &QHeaderView::sectionResized, this, &KalStatusDialog::saveResizedSizes);
+        connect(m_ui->tvStatus->horizontalHeader(), &QHeaderView::sectionResized, this,
+                &KalStatusDialog::saveResizedSizes);
         connect(m_model, &KalSqlTableModel::beforeSubmit, this,
-                [this] { m_idsBeforeSubmit = tvStatus->selectedIds(); });
+                [this] { m_idsBeforeSubmit = m_ui->tvStatus->selectedIds(); });
         connect(m_model, &KalSqlTableModel::afterSubmit, this, [this] {
             const int row = m_idsBeforeSubmit.isEmpty() ? -1 : proxyRowOfId(m_idsBeforeSubmit.first());
             slotReselectRows(row, row);
@@ -96,17 +74,21 @@ KalStatusDialog::KalStatusDialog(KalProject *project, QWidget *parent)
         setEnabled(false);
     }
 
-    connect(pbDefaultStatus, &QPushButton::clicked, this, &KalStatusDialog::on_pbDefaultStatus_clicked);
-    connect(pbRemoveUserStatus, &QPushButton::clicked, this, &KalStatusDialog::on_pbRemoveUserStatus_clicked);
-    connect(pbClose, &QPushButton::clicked, this, &QDialog::accept);
+    connect(m_ui->pbDefaultStatus, &QPushButton::clicked, this, &KalStatusDialog::slotDefaultStatusClicked);
+    connect(m_ui->pbRemoveUserStatus, &QPushButton::clicked, this, &KalStatusDialog::slotRemoveUserStatusClicked);
+    connect(m_ui->pbClose, &QPushButton::clicked, this, &QDialog::accept);
 
-    resize(560, 420);
     const QByteArray geometry = QSettings().value(QLatin1String(kGeometryKey)).toByteArray();
     if (!geometry.isEmpty())
         restoreGeometry(geometry);
 }
 
 KalStatusDialog::~KalStatusDialog() = default;
+
+KalTableView *KalStatusDialog::tableView() const
+{
+    return m_ui->tvStatus;
+}
 
 void KalStatusDialog::setColorChooser(const ColorChooser &chooser)
 {
@@ -145,7 +127,7 @@ void KalStatusDialog::slotAddStatus()
         m_model->revertAll();
         return;
     }
-    tvStatus->selectId(id);
+    m_ui->tvStatus->selectId(id);
     const int row = proxyRowOfId(id);
     slotSetItemFocus(row, m_model->fieldIndex(QStringLiteral("status")));
 }
@@ -230,7 +212,7 @@ bool KalStatusDialog::removeUserStatuses()
     return m_model->removeRowsById(ids);
 }
 
-void KalStatusDialog::on_pbDefaultStatus_clicked()
+void KalStatusDialog::slotDefaultStatusClicked()
 {
     KalPrompt::Message m;
     m.icon = KalPrompt::Question;
@@ -244,7 +226,7 @@ void KalStatusDialog::on_pbDefaultStatus_clicked()
     restoreDefaultStatuses();
 }
 
-void KalStatusDialog::on_pbRemoveUserStatus_clicked()
+void KalStatusDialog::slotRemoveUserStatusClicked()
 {
     KalPrompt::Message m;
     m.icon = KalPrompt::Question;
@@ -263,15 +245,15 @@ void KalStatusDialog::slotSaveSelectionBeforeSorting(int logicalIndex, Qt::SortO
 {
     Q_UNUSED(logicalIndex)
     Q_UNUSED(order)
-    m_idsBeforeSorting = tvStatus->selectedIds();
+    m_idsBeforeSorting = m_ui->tvStatus->selectedIds();
 }
 
 void KalStatusDialog::slotRestoreSelectionAfterSorting(int logicalIndex)
 {
     Q_UNUSED(logicalIndex)
-    tvStatus->horizontalHeader()->setSortIndicatorShown(true);
-    if (!m_idsBeforeSorting.isEmpty() && tvStatus->selectIds(m_idsBeforeSorting) > 0)
-        tvStatus->scrollTo(tvStatus->currentIndex());
+    m_ui->tvStatus->horizontalHeader()->setSortIndicatorShown(true);
+    if (!m_idsBeforeSorting.isEmpty() && m_ui->tvStatus->selectIds(m_idsBeforeSorting) > 0)
+        m_ui->tvStatus->scrollTo(m_ui->tvStatus->currentIndex());
     m_idsBeforeSorting.clear();
 }
 
@@ -280,15 +262,15 @@ void KalStatusDialog::slotSetItemFocus(int row, int column)
     if (row < 0 || !m_proxy)
         return;
     const QModelIndex index = m_proxy->index(row, column);
-    tvStatus->setFocus();
-    tvStatus->setCurrentIndex(index);
+    m_ui->tvStatus->setFocus();
+    m_ui->tvStatus->setCurrentIndex(index);
 }
 
 void KalStatusDialog::slotScroll2Row(int row, int column)
 {
     if (row < 0 || !m_proxy)
         return;
-    tvStatus->scrollTo(m_proxy->index(row, column), QAbstractItemView::EnsureVisible);
+    m_ui->tvStatus->scrollTo(m_proxy->index(row, column), QAbstractItemView::EnsureVisible);
 }
 
 void KalStatusDialog::slotReselectRows(int first, int last)
@@ -308,7 +290,7 @@ void KalStatusDialog::saveResizedSizes(int logicalIndex, int oldSize, int newSiz
     Q_UNUSED(oldSize)
     Q_UNUSED(newSize)
     if (isVisible())
-        tvStatus->saveColumnWidths();
+        m_ui->tvStatus->saveColumnWidths();
 }
 
 void KalStatusDialog::done(int result)

@@ -6,12 +6,16 @@
 #include <QList>
 #include <QPointer>
 #include <functional>
+#include <memory>
 
 class KalProject;
 class KalSqlTableModel;
 class KalTableView;
-class QPushButton;
 class QSortFilterProxyModel;
+
+namespace Ui {
+class KalStatusDialog;
+}
 
 // The project's status catalogue: names, colours and kinds of the defect
 // statuses. Every change is written at once, so closing asks nothing.
@@ -33,7 +37,7 @@ public:
     using ColorChooser = std::function<QColor(const QColor &initial, QWidget *parent, const QString &title)>;
     static void setColorChooser(const ColorChooser &chooser);
 
-    KalTableView *tableView() const { return tvStatus; }
+    KalTableView *tableView() const;
 
 public slots:
     void slotAddStatus();
@@ -44,8 +48,8 @@ public slots:
     void slotScroll2Row(int row, int column);
     void slotReselectRows(int first, int last);
     void saveResizedSizes(int logicalIndex, int oldSize, int newSize);
-    void on_pbDefaultStatus_clicked();
-    void on_pbRemoveUserStatus_clicked();
+    void slotDefaultStatusClicked();
+    void slotRemoveUserStatusClicked();
 
     // The work behind the two buttons, without the question.
     bool restoreDefaultStatuses();
@@ -61,10 +65,7 @@ private:
     KalProject *m_project;
     QPointer<KalSqlTableModel> m_model;
     QSortFilterProxyModel *m_proxy = nullptr;
-    KalTableView *tvStatus = nullptr;
-    QPushButton *pbDefaultStatus = nullptr;
-    QPushButton *pbRemoveUserStatus = nullptr;
-    QPushButton *pbClose = nullptr;
+    std::unique_ptr<Ui::KalStatusDialog> m_ui;
     QList<qint64> m_idsBeforeSorting;
     QList<qint64> m_idsBeforeSubmit;
 };

@@ -30,22 +30,22 @@ KalCompanyImportSelectDialog::KalCompanyImportSelectDialog(KalProject *project, 
         b->setMinimumWidth(260);
         return b;
     };
-    pbAddressFile = button("pbAddressFile", tr("&Externe Adress-Datei"));
-    pbProjectFile = button("pbProjectFile", tr("Andere &Pellwick-Datei"));
-    pbSiteJournal = button("pbSiteJournal", tr("Quellor &Bautagebuch"));
-    pbCancel = button("pbCancel", tr("&Abbrechen"));
+    m_pbAddressFile = button("pbAddressFile", tr("&Externe Adress-Datei"));
+    m_pbProjectFile = button("pbProjectFile", tr("Andere &Pellwick-Datei"));
+    m_pbSiteJournal = button("pbSiteJournal", tr("Quellor &Bautagebuch"));
+    m_pbCancel = button("pbCancel", tr("&Abbrechen"));
 
     auto *layout = new QVBoxLayout(this);
-    layout->addWidget(pbAddressFile);
-    layout->addWidget(pbProjectFile);
-    layout->addWidget(pbSiteJournal);
+    layout->addWidget(m_pbAddressFile);
+    layout->addWidget(m_pbProjectFile);
+    layout->addWidget(m_pbSiteJournal);
     layout->addSpacing(8);
-    layout->addWidget(pbCancel);
+    layout->addWidget(m_pbCancel);
 
-    connect(pbAddressFile, &QPushButton::clicked, this, &KalCompanyImportSelectDialog::on_pbAddressFile_clicked);
-    connect(pbProjectFile, &QPushButton::clicked, this, &KalCompanyImportSelectDialog::on_pbProjectFile_clicked);
-    connect(pbSiteJournal, &QPushButton::clicked, this, &KalCompanyImportSelectDialog::on_pbSiteJournal_clicked);
-    connect(pbCancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_pbAddressFile, &QPushButton::clicked, this, &KalCompanyImportSelectDialog::slotAddressFileClicked);
+    connect(m_pbProjectFile, &QPushButton::clicked, this, &KalCompanyImportSelectDialog::slotProjectFileClicked);
+    connect(m_pbSiteJournal, &QPushButton::clicked, this, &KalCompanyImportSelectDialog::slotSiteJournalClicked);
+    connect(m_pbCancel, &QPushButton::clicked, this, &QDialog::reject);
 }
 
 QString KalCompanyImportSelectDialog::fileDialogTitle(Source source)
@@ -75,17 +75,17 @@ QString KalCompanyImportSelectDialog::fileDialogFilter(Source source)
     return QString();
 }
 
-void KalCompanyImportSelectDialog::on_pbAddressFile_clicked()
+void KalCompanyImportSelectDialog::slotAddressFileClicked()
 {
     choose(AddressFile);
 }
 
-void KalCompanyImportSelectDialog::on_pbProjectFile_clicked()
+void KalCompanyImportSelectDialog::slotProjectFileClicked()
 {
     choose(ProjectFile);
 }
 
-void KalCompanyImportSelectDialog::on_pbSiteJournal_clicked()
+void KalCompanyImportSelectDialog::slotSiteJournalClicked()
 {
     choose(SiteJournal);
 }

@@ -30,17 +30,17 @@ public:
     QVector<qint64> insertedIds() const { return m_insertedIds; }
 
 public slots:
-    void on_pbAddressFile_clicked();
-    void on_pbProjectFile_clicked();
-    void on_pbSiteJournal_clicked();
+    void slotAddressFileClicked();
+    void slotProjectFileClicked();
+    void slotSiteJournalClicked();
 
 private:
     void choose(Source source);
 
     KalProject *m_project;
     QVector<qint64> m_insertedIds;
-    QPushButton *pbAddressFile = nullptr;
-    QPushButton *pbProjectFile = nullptr;
-    QPushButton *pbSiteJournal = nullptr;
-    QPushButton *pbCancel = nullptr;
+    QPushButton *m_pbAddressFile = nullptr;
+    QPushButton *m_pbProjectFile = nullptr;
+    QPushButton *m_pbSiteJournal = nullptr;
+    QPushButton *m_pbCancel = nullptr;
 };

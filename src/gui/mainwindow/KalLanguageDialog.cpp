@@ -24,15 +24,15 @@ KalLanguageDialog::KalLanguageDialog(bool restartEnabled, QWidget *parent)
     label->setFont(bold);
     layout->addWidget(label);
 
-    rbGerman = new QRadioButton(tr("Deutsch"), this);
-    rbGerman->setObjectName(QStringLiteral("rbGerman"));
-    rbSpanish = new QRadioButton(tr("Spanisch"), this);
-    rbSpanish->setObjectName(QStringLiteral("rbSpanish"));
-    rbEnglish = new QRadioButton(tr("Englisch (Großbritannien)"), this);
-    rbEnglish->setObjectName(QStringLiteral("rbEnglish"));
-    rbEnglishUsa = new QRadioButton(tr("Englisch (USA)"), this);
-    rbEnglishUsa->setObjectName(QStringLiteral("rbEnglishUsa"));
-    for (QRadioButton *b : {rbGerman, rbSpanish, rbEnglish, rbEnglishUsa})
+    m_rbGerman = new QRadioButton(tr("Deutsch"), this);
+    m_rbGerman->setObjectName(QStringLiteral("rbGerman"));
+    m_rbSpanish = new QRadioButton(tr("Spanisch"), this);
+    m_rbSpanish->setObjectName(QStringLiteral("rbSpanish"));
+    m_rbEnglish = new QRadioButton(tr("Englisch (Großbritannien)"), this);
+    m_rbEnglish->setObjectName(QStringLiteral("rbEnglish"));
+    m_rbEnglishUsa = new QRadioButton(tr("Englisch (USA)"), this);
+    m_rbEnglishUsa->setObjectName(QStringLiteral("rbEnglishUsa"));
+    for (QRadioButton *b : {m_rbGerman, m_rbSpanish, m_rbEnglish, m_rbEnglishUsa})
         layout->addWidget(b);
 
     auto *note = new QLabel(tr("Die gewählte Sprache wird nach einem Neustart der Anwendung aktiviert."), this);
@@ -94,11 +94,11 @@ KalLanguageDialog::Choice KalLanguageDialog::storedChoice()
 
 KalLanguageDialog::Button KalLanguageDialog::checkedButton() const
 {
-    if (rbSpanish->isChecked())
+    if (m_rbSpanish->isChecked())
         return Spanish;
-    if (rbEnglish->isChecked())
+    if (m_rbEnglish->isChecked())
         return English;
-    if (rbEnglishUsa->isChecked())
+    if (m_rbEnglishUsa->isChecked())
         return EnglishUsa;
     return German;
 }
@@ -107,16 +107,16 @@ void KalLanguageDialog::setCheckedButton(Button button)
 {
     switch (button) {
     case German:
-        rbGerman->setChecked(true);
+        m_rbGerman->setChecked(true);
         break;
     case Spanish:
-        rbSpanish->setChecked(true);
+        m_rbSpanish->setChecked(true);
         break;
     case English:
-        rbEnglish->setChecked(true);
+        m_rbEnglish->setChecked(true);
         break;
     case EnglishUsa:
-        rbEnglishUsa->setChecked(true);
+        m_rbEnglishUsa->setChecked(true);
         break;
     }
 }
@@ -124,7 +124,7 @@ void KalLanguageDialog::setCheckedButton(Button button)
 void KalLanguageDialog::accept()
 {
     const bool anyChecked =
-        rbGerman->isChecked() || rbSpanish->isChecked() || rbEnglish->isChecked() || rbEnglishUsa->isChecked();
+        m_rbGerman->isChecked() || m_rbSpanish->isChecked() || m_rbEnglish->isChecked() || m_rbEnglishUsa->isChecked();
     if (!anyChecked) {
         QDialog::reject();
         return;

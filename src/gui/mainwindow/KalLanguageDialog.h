@@ -40,8 +40,8 @@ private:
     bool m_restartEnabled;
     bool m_restartRequested = false;
     bool m_changed = false;
-    QRadioButton *rbGerman;
-    QRadioButton *rbSpanish;
-    QRadioButton *rbEnglish;
-    QRadioButton *rbEnglishUsa;
+    QRadioButton *m_rbGerman;
+    QRadioButton *m_rbSpanish;
+    QRadioButton *m_rbEnglish;
+    QRadioButton *m_rbEnglishUsa;
 };

@@ -2,7 +2,9 @@
 
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
+#include "core/project/KalRecentFiles.h"
 #include "core/project/KalSqlTableModel.h"
+#include "gui/plans/KalPlanPanel.h"
 #include "gui/widgets/KalItemDelegate.h"
 #include "gui/widgets/KalTableView.h"
 
@@ -11,12 +13,7 @@
 #include <QCloseEvent>
 #include <QDir>
 #include <QFileInfo>
-#include <QGraphicsPixmapItem>
-#include <QGraphicsScene>
-#include <QGraphicsTextItem>
-#include <QGraphicsView>
 #include <QHBoxLayout>
-#include <QHash>
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QLabel>
@@ -42,7 +39,6 @@ QIcon resourceIcon(const QString &name)
 
 const char *const kGeometryKey = "MainWindow/Geometry";
 const char *const kStateKey = "MainWindow/WindowState";
-const char *const kRecentKey = "MainWindow/RecentFileList";
 const char *const kFormatKey = "TableView/Defect/DefectTableFormat";
 const char *const kTooltipHelpKey = "TooltipHelpActive";
 
@@ -96,21 +92,190 @@ int defaultColumnChars(const QString &field)
 }
 } // namespace
 
+// One row per command: the menus, the tool bar and the tests find each action
+// by its object name.
+struct KalMainWindow::ActionSpec
+{
+    enum Enabled { Always, WithProject, NotBuilt };
+    const char *name;
+    const char *icon;
+    QKeySequence shortcut;
+    void (KalMainWindow::*slot)();
+    Enabled enabled;
+    const char *text;
+    const char *toolTip; // nullptr: the text on one line
+};
+
+const QVector<KalMainWindow::ActionSpec> &KalMainWindow::actionTable()
+{
+    using A = ActionSpec;
+    using M = KalMainWindow;
+    const QKeySequence saveAs(Qt::CTRL | Qt::SHIFT | Qt::Key_S);
+    // Commands whose dialogs are not part of the program yet stay visible but
+    // disabled (NotBuilt), so nothing pretends to work.
+    // clang-format off
+    static const QVector<ActionSpec> table{
+        {"actionCreateFile", "datei-neu.ico", QKeySequence::New, &M::slotCreateFile, A::Always,
+         QT_TR_NOOP("Neu"), QT_TR_NOOP("Neues Projekt anlegen")},
+        {"actionOpenFile", "datei-öffnen.ico", QKeySequence::Open, &M::slotOpenFile, A::Always,
+         QT_TR_NOOP("Öffnen"), QT_TR_NOOP("Projekt öffnen")},
+        {"actionSaveFile", "datei-speichern.ico", QKeySequence::Save, &M::slotSaveFile, A::WithProject,
+         QT_TR_NOOP("Speichern"), QT_TR_NOOP("Projekt speichern")},
+        {"actionFileSaveAs", "datei-speichern-als.ico", saveAs, &M::slotFileSaveAs, A::WithProject,
+         QT_TR_NOOP("Speichern unter"), QT_TR_NOOP("Projekt unter einem neuen Namen speichern")},
+        {"actionFileRecentPlaceholder", "", {}, nullptr, A::Always,
+         "Placeholder", nullptr},
+        {"actionCompactDB", "icon-datei-datenbank.ico", {}, &M::slotCompactDB, A::WithProject,
+         QT_TR_NOOP("Datenbank bereinigen"), nullptr},
+        {"actionAddDefect", "icon-add-defect.ico", {}, &M::slotAddDefect, A::WithProject,
+         QT_TR_NOOP("Mangel hinzufügen"), QT_TR_NOOP("neue Mängel")},
+        {"actionEditPlanTable", "icon-plaene.ico", {}, nullptr, A::NotBuilt,
+         QT_TR_NOOP("Pläne"), QT_TR_NOOP("Planverwaltung öffnen")},
+        {"actionEditStatusTable", "icon-status.ico", {}, &M::slotEditStatusTable, A::Always,
+         QT_TR_NOOP("Status"), QT_TR_NOOP("Statusverwaltung öffnen")},
+        {"actionEditProjectData", "icon-projektdaten.ico", {}, &M::slotEditProjectData, A::Always,
+         QT_TR_NOOP("Projektdaten bearbeiten"), nullptr},
+        {"actionEditCompanyTable", "icon-firmen.ico", {}, &M::slotEditCompanyTable, A::Always,
+         QT_TR_NOOP("Firmenliste bearbeiten"), nullptr},
+        {"actionEditCompanyFormat", "icon-firmen-format.ico", {}, &M::slotEditCompanyFormat, A::Always,
+         QT_TR_NOOP("Firmendaten Ausgabeformat"), nullptr},
+        {"actionEditLogos", "icon-logo.ico", {}, nullptr, A::NotBuilt,
+         QT_TR_NOOP("Logo hinzufügen / bearbeiten"), nullptr},
+        {"actionPrintDefectListShort", "icon-drucken-kompakt.ico", {}, nullptr, A::NotBuilt,
+         QT_TR_NOOP("Mängelliste kompakt"), nullptr},
+        {"actionPrintDefectListLong", "icon-drucken-detailliert.ico", {}, nullptr, A::NotBuilt,
+         QT_TR_NOOP("Mängelliste detailliert"), nullptr},
+        {"actionPrintPreview", "icon-druckvorschau.ico", {}, nullptr, A::NotBuilt,
+         QT_TR_NOOP("Druckvorschau"), nullptr},
+        {"actionInitialDataImport", "icon-datenimport.ico", {}, nullptr, A::NotBuilt,
+         QT_TR_NOOP("Mängel und Firmen aus einem Bautagebuch importieren"), nullptr},
+        {"actionUpdateDataImport", "icon-datenimport-aktualisieren.ico", {}, nullptr, A::NotBuilt,
+         QT_TR_NOOP("Mängel und Firmen aus dem Bautagebuch aktualisieren"), nullptr},
+        {"actionAutomaticNewRecordsImport", "icon-datenimport-automatisch-ein.ico", {}, nullptr, A::NotBuilt,
+         QT_TR_NOOP("Automatischen Import neuer Mängel und Firmen einschalten"), nullptr},
+        {"actionAutomaticUpdateImport", "icon-datenimport-automatisch-ein.ico", {}, nullptr, A::NotBuilt,
+         QT_TR_NOOP("Automatischen Import und Aktualisierung vorhandener Mängel und Firmen einschalten"), nullptr},
+        {"actionImportFromApp", "icon-datenimport-app.ico", {}, nullptr, A::NotBuilt,
+         QT_TR_NOOP("Mängel und Firmen aus der Quellor App importieren\n"),
+         QT_TR_NOOP("Importiert Mängel aus der Quellor App")},
+        {"actionImportDefectManagerCompanies", "icon-firmen-import.ico",
+         {}, &M::slotImportDefectManagerCompanies, A::Always,
+         QT_TR_NOOP("Import von Firmen aus anderer Pellwick-Datei"), nullptr},
+        {"actionImportSiteJournalCompanies", "icon-firmen-import.ico",
+         {}, &M::slotImportSiteJournalCompanies, A::Always,
+         QT_TR_NOOP("Import von Firmen aus Quellor Bautagebuch"), nullptr},
+        {"actionImportCSVCompanies", "icon-firmen-import.ico", {}, &M::slotImportCSVCompanies, A::Always,
+         QT_TR_NOOP("Import von Firmen aus externer Adress-Datei"), nullptr},
+        {"actionSettingsLanguage", "icon-sprache.ico", {}, &M::slotSettingsLanguage, A::Always,
+         QT_TR_NOOP("Sprache wählen"), nullptr},
+        {"actionSettingsCompleter", "icon-texte.ico", {}, &M::slotSettingsCompleter, A::Always,
+         QT_TR_NOOP("Texte ändern - Eingabe"), nullptr},
+        // Text and enabled state follow the spell checker.
+        {"actionStartSpellChecking", "icon-rechtschreibung.ico", {}, &M::slotStartSpellChecking, A::Always,
+         "", nullptr},
+        {"actionSettingsPlanSize", "icon-plangroesse.ico", {}, nullptr, A::NotBuilt,
+         QT_TR_NOOP("Plangröße"), nullptr},
+        {"actionSettingsImageSize", "icon-fotogroesse.ico", {}, nullptr, A::NotBuilt,
+         QT_TR_NOOP("Fotogröße"), nullptr},
+        {"actionStandardMarker", "icon-marker.ico", {}, nullptr, A::NotBuilt,
+         QT_TR_NOOP("Standardmarker"), nullptr},
+        {"actionStandardMarkerText", "icon-marker-text.ico", {}, nullptr, A::NotBuilt,
+         QT_TR_NOOP("Mängeltexte im Plan"), nullptr},
+        // Text and icon follow the help-text setting.
+        {"actionTooltipHelp", "icon-help.ico", {}, &M::slotTooltipHelp, A::Always,
+         "", nullptr},
+        {"actionShortHelpImportFromSiteJournal", "icon-help.ico",
+         {}, &M::slotShortHelpImportFromSiteJournal, A::Always,
+         QT_TR_NOOP("Wie übernehme ich Mängel und\nFirmen aus einem Bautagebuch?"), nullptr},
+        {"actionShortHelpImportFromMobile", "icon-help.ico", {}, &M::slotShortHelpImportFromMobile, A::Always,
+         QT_TR_NOOP("Wie übernehme ich Mängel und Firmen\nvon einem Mobilgerät?"), nullptr},
+        {"actionProgramInfoDialog", "icon-info.ico", {}, &M::slotProgramInfoDialog, A::Always,
+         QT_TR_NOOP("Info über Pellwick"), nullptr},
+        {"actionUpdateTest", "icon-update.ico", {}, nullptr, A::NotBuilt,
+         QT_TR_NOOP("Auf Updates prüfen"), nullptr},
+    };
+    // clang-format on
+    return table;
+}
+
+namespace {
+// Menus in menu-bar order: object name, title, actions ("-" a separator,
+// "menuFileRecent" the recent-file submenu).
+struct MenuSpec
+{
+    const char *name;
+    const char *title;
+    QVector<const char *> actions;
+};
+
+const QVector<MenuSpec> &menuTable()
+{
+    static const QVector<MenuSpec> menus{
+        {"menuFile",
+         QT_TRANSLATE_NOOP("KalMainWindow", "Datei"),
+         {"actionCreateFile", "actionOpenFile", "actionSaveFile", "actionFileSaveAs", "-", "menuFileRecent", "-",
+          "actionCompactDB"}},
+        {"menuEdit",
+         QT_TRANSLATE_NOOP("KalMainWindow", "Bearbeiten"),
+         {"actionAddDefect", "actionEditPlanTable", "actionEditStatusTable"}},
+        {"menuMasterData",
+         QT_TRANSLATE_NOOP("KalMainWindow", "Stammdaten"),
+         {"actionEditProjectData", "actionEditCompanyTable", "actionEditCompanyFormat", "actionEditLogos"}},
+        {"menuPrint",
+         QT_TRANSLATE_NOOP("KalMainWindow", "Drucken"),
+         {"actionPrintDefectListShort", "actionPrintDefectListLong", "actionPrintPreview"}},
+        {"menuDataImport",
+         QT_TRANSLATE_NOOP("KalMainWindow", "Datenimport"),
+         {"actionInitialDataImport", "actionUpdateDataImport", "actionAutomaticNewRecordsImport",
+          "actionAutomaticUpdateImport", "-", "actionImportFromApp", "-", "actionImportDefectManagerCompanies",
+          "actionImportSiteJournalCompanies", "actionImportCSVCompanies"}},
+        {"menuSettings",
+         QT_TRANSLATE_NOOP("KalMainWindow", "Einstellungen"),
+         {"actionSettingsLanguage", "actionSettingsCompleter", "actionStartSpellChecking", "-",
+          "actionSettingsPlanSize", "actionSettingsImageSize", "-", "actionStandardMarker",
+          "actionStandardMarkerText"}},
+        {"menuHelp",
+         QT_TRANSLATE_NOOP("KalMainWindow", "Hilfe"),
+         {"actionTooltipHelp", "-", "actionShortHelpImportFromSiteJournal", "actionShortHelpImportFromMobile", "-",
+          "actionProgramInfoDialog", "actionUpdateTest"}},
+    };
+    return menus;
+}
+
+const QVector<const char *> &toolBarActions()
+{
+    // clang-format off
+    static const QVector<const char *> actions{
+        "actionCreateFile", "actionOpenFile", "actionSaveFile", "actionFileSaveAs", "-",
+        "actionAddDefect", "actionEditPlanTable", "actionEditStatusTable", "-",
+        "actionEditProjectData", "actionEditCompanyTable", "-",
+        "actionPrintDefectListShort", "actionPrintDefectListLong", "actionPrintPreview"};
+    // clang-format on
+    return actions;
+}
+} // namespace
+
 KalMainWindow::KalMainWindow(QWidget *parent)
     : QMainWindow(parent)
 {
     setObjectName(QStringLiteral("KalMainWindow"));
     setWindowTitle(QStringLiteral("MainWindow"));
 
-    QSettings settings;
-    m_defectTableFormat = settings.value(QLatin1String(kFormatKey), 1).toInt() == 2 ? 2 : 1;
-    m_recentFiles = settings.value(QLatin1String(kRecentKey)).toStringList();
+    m_defectTableFormat = QSettings().value(QLatin1String(kFormatKey), 1).toInt() == 2 ? 2 : 1;
+    m_recentFiles = new KalRecentFiles(KalRecentFiles::defaultKey(), 0, this);
+    connect(m_recentFiles, &KalRecentFiles::changed, this, &KalMainWindow::rebuildRecentMenu);
 
     createActions();
     createMenus();
     createCentralWidget();
 
     m_project = new KalProject(this);
+    m_fileCommands = new KalProjectFileCommands(m_project, m_recentFiles, this);
+    connect(m_fileCommands, &KalProjectFileCommands::projectStateChanged, this, &KalMainWindow::updateWindowTitle);
+    connect(m_fileCommands, &KalProjectFileCommands::modelsAboutToBeRebuilt, this,
+            [this] { m_idsBeforeRebuild = selectedDefectIds(); });
+    connect(m_fileCommands, &KalProjectFileCommands::modelsRebuilt, this,
+            [this] { selectDefects(m_idsBeforeRebuild); });
     connect(m_project, &KalProject::projectOpened, this, &KalMainWindow::slotProjectOpened);
     connect(m_project, &KalProject::projectAboutToClose, this, &KalMainWindow::slotProjectClosed);
     connect(m_project, &KalProject::modifiedChanged, this, &KalMainWindow::slotModifiedChanged);
@@ -124,6 +289,7 @@ KalMainWindow::KalMainWindow(QWidget *parent)
     if (!m_project->newProject())
         KalPrompt::critical(tr("Fehler"), tr("Beim Erstellen eines neuen Projekts ist ein Fehler aufgetreten!"));
     updateWindowTitle();
+    updateProjectActions(m_project->isOpen());
 }
 
 KalMainWindow::~KalMainWindow()
@@ -137,173 +303,43 @@ KalSqlTableModel *KalMainWindow::defectModel() const
     return m_project && m_project->isOpen() ? m_project->model(QStringLiteral("defect")) : nullptr;
 }
 
-QAction *KalMainWindow::makeAction(const QString &name, const QString &icon)
+QAction *KalMainWindow::action(const char *name) const
 {
-    auto *action = new QAction(this);
-    action->setObjectName(name);
-    if (!icon.isEmpty())
-        action->setIcon(resourceIcon(icon));
-    return action;
+    QAction *a = m_actions.value(QLatin1String(name));
+    Q_ASSERT(a);
+    return a;
 }
 
 void KalMainWindow::createActions()
 {
-    actionCreateFile = makeAction(QStringLiteral("actionCreateFile"), QStringLiteral("datei-neu.ico"));
-    actionCreateFile->setText(tr("Neu"));
-    actionCreateFile->setToolTip(tr("Neues Projekt anlegen"));
-    actionCreateFile->setShortcut(QKeySequence::New);
-    connect(actionCreateFile, &QAction::triggered, this, &KalMainWindow::on_actionCreateFile_triggered);
+    for (const ActionSpec &spec : actionTable()) {
+        auto *a = new QAction(this);
+        a->setObjectName(QLatin1String(spec.name));
+        if (*spec.icon)
+            a->setIcon(resourceIcon(QString::fromUtf8(spec.icon)));
+        if (*spec.text) {
+            const QString text = tr(spec.text);
+            a->setText(text);
+            a->setToolTip(spec.toolTip ? tr(spec.toolTip)
+                                       : QString(text).replace(QLatin1Char('\n'), QLatin1Char(' ')).trimmed());
+        }
+        if (!spec.shortcut.isEmpty())
+            a->setShortcut(spec.shortcut);
+        if (spec.slot)
+            connect(a, &QAction::triggered, this, spec.slot);
+        a->setEnabled(spec.enabled != ActionSpec::NotBuilt);
+        m_actions.insert(a->objectName(), a);
+    }
+    action("actionFileRecentPlaceholder")->setText(QStringLiteral("Placeholder"));
+    action("actionEditStatusTable")->setIconText(tr("Statusverwaltung öffnen"));
+}
 
-    actionOpenFile = makeAction(QStringLiteral("actionOpenFile"), QStringLiteral("datei-öffnen.ico"));
-    actionOpenFile->setText(tr("Öffnen"));
-    actionOpenFile->setToolTip(tr("Projekt öffnen"));
-    actionOpenFile->setShortcut(QKeySequence::Open);
-    connect(actionOpenFile, &QAction::triggered, this, &KalMainWindow::on_actionOpenFile_triggered);
-
-    actionSaveFile = makeAction(QStringLiteral("actionSaveFile"), QStringLiteral("datei-speichern.ico"));
-    actionSaveFile->setText(tr("Speichern"));
-    actionSaveFile->setToolTip(tr("Projekt speichern"));
-    actionSaveFile->setShortcut(QKeySequence::Save);
-    connect(actionSaveFile, &QAction::triggered, this, &KalMainWindow::on_actionSaveFile_triggered);
-
-    actionFileSaveAs = makeAction(QStringLiteral("actionFileSaveAs"), QStringLiteral("datei-speichern-als.ico"));
-    actionFileSaveAs->setText(tr("Speichern unter"));
-    actionFileSaveAs->setToolTip(tr("Projekt unter einem neuen Namen speichern"));
-    actionFileSaveAs->setShortcut(QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S));
-    connect(actionFileSaveAs, &QAction::triggered, this, &KalMainWindow::on_actionFileSaveAs_triggered);
-
-    actionFileRecentPlaceholder = makeAction(QStringLiteral("actionFileRecentPlaceholder"), QString());
-    actionFileRecentPlaceholder->setText(QStringLiteral("Placeholder"));
-
-    actionCompactDB = makeAction(QStringLiteral("actionCompactDB"), QStringLiteral("icon-datei-datenbank.ico"));
-    actionCompactDB->setText(tr("Datenbank bereinigen"));
-    actionCompactDB->setToolTip(tr("Datenbank bereinigen"));
-    connect(actionCompactDB, &QAction::triggered, this, &KalMainWindow::on_actionCompactDB_triggered);
-
-    actionAddDefect = makeAction(QStringLiteral("actionAddDefect"), QStringLiteral("icon-add-defect.ico"));
-    actionAddDefect->setText(tr("Mangel hinzufügen"));
-    actionAddDefect->setToolTip(tr("neue Mängel"));
-    connect(actionAddDefect, &QAction::triggered, this, &KalMainWindow::on_actionAddDefect_triggered);
-
-    // Commands whose dialogs are not part of the program yet stay visible but
-    // disabled, so nothing pretends to work.
-    auto later = [this](const QString &name, const QString &icon, const QString &text, const QString &toolTip) {
-        QAction *a = makeAction(name, icon);
-        a->setText(text);
-        a->setToolTip(toolTip.isEmpty() ? QString(text).replace(QLatin1Char('\n'), QLatin1Char(' ')).trimmed()
-                                        : toolTip);
-        a->setEnabled(false);
-        return a;
-    };
-
-    actionEditPlanTable = later(QStringLiteral("actionEditPlanTable"), QStringLiteral("icon-plaene.ico"), tr("Pläne"),
-                                tr("Planverwaltung öffnen"));
-    actionEditStatusTable = makeAction(QStringLiteral("actionEditStatusTable"), QStringLiteral("icon-status.ico"));
-    actionEditStatusTable->setText(tr("Status"));
-    actionEditStatusTable->setIconText(tr("Statusverwaltung öffnen"));
-    actionEditStatusTable->setToolTip(tr("Statusverwaltung öffnen"));
-    connect(actionEditStatusTable, &QAction::triggered, this, &KalMainWindow::on_actionEditStatusTable_triggered);
-
-    actionEditProjectData =
-        makeAction(QStringLiteral("actionEditProjectData"), QStringLiteral("icon-projektdaten.ico"));
-    actionEditProjectData->setText(tr("Projektdaten bearbeiten"));
-    actionEditProjectData->setToolTip(tr("Projektdaten bearbeiten"));
-    connect(actionEditProjectData, &QAction::triggered, this, &KalMainWindow::on_actionEditProjectData_triggered);
-    actionEditCompanyTable = makeAction(QStringLiteral("actionEditCompanyTable"), QStringLiteral("icon-firmen.ico"));
-    actionEditCompanyTable->setText(tr("Firmenliste bearbeiten"));
-    actionEditCompanyTable->setToolTip(tr("Firmenliste bearbeiten"));
-    connect(actionEditCompanyTable, &QAction::triggered, this, &KalMainWindow::on_actionEditCompanyTable_triggered);
-    actionEditCompanyFormat =
-        makeAction(QStringLiteral("actionEditCompanyFormat"), QStringLiteral("icon-firmen-format.ico"));
-    actionEditCompanyFormat->setText(tr("Firmendaten Ausgabeformat"));
-    actionEditCompanyFormat->setToolTip(tr("Firmendaten Ausgabeformat"));
-    connect(actionEditCompanyFormat, &QAction::triggered, this, &KalMainWindow::on_actionEditCompanyFormat_triggered);
-    actionEditLogos = later(QStringLiteral("actionEditLogos"), QStringLiteral("icon-logo.ico"),
-                            tr("Logo hinzufügen / bearbeiten"), QString());
-
-    actionPrintDefectListShort =
-        later(QStringLiteral("actionPrintDefectListShort"), QStringLiteral("icon-drucken-kompakt.ico"),
-              tr("Mängelliste kompakt"), QString());
-    actionPrintDefectListLong =
-        later(QStringLiteral("actionPrintDefectListLong"), QStringLiteral("icon-drucken-detailliert.ico"),
-              tr("Mängelliste detailliert"), QString());
-    actionPrintPreview = later(QStringLiteral("actionPrintPreview"), QStringLiteral("icon-druckvorschau.ico"),
-                               tr("Druckvorschau"), QString());
-
-    actionInitialDataImport = later(QStringLiteral("actionInitialDataImport"), QStringLiteral("icon-datenimport.ico"),
-                                    tr("Mängel und Firmen aus einem Bautagebuch importieren"), QString());
-    actionUpdateDataImport =
-        later(QStringLiteral("actionUpdateDataImport"), QStringLiteral("icon-datenimport-aktualisieren.ico"),
-              tr("Mängel und Firmen aus dem Bautagebuch aktualisieren"), QString());
-    actionAutomaticNewRecordsImport =
-        later(QStringLiteral("actionAutomaticNewRecordsImport"), QStringLiteral("icon-datenimport-automatisch-ein.ico"),
-              tr("Automatischen Import neuer Mängel und Firmen einschalten"), QString());
-    actionAutomaticUpdateImport =
-        later(QStringLiteral("actionAutomaticUpdateImport"), QStringLiteral("icon-datenimport-automatisch-ein.ico"),
-              tr("Automatischen Import und Aktualisierung vorhandener Mängel und Firmen einschalten"), QString());
-    actionImportFromApp =
-        later(QStringLiteral("actionImportFromApp"), QStringLiteral("icon-datenimport-app.ico"),
-              tr("Mängel und Firmen aus der Quellor App importieren\n"), tr("Importiert Mängel aus der Quellor App"));
-    actionImportDefectManagerCompanies =
-        makeAction(QStringLiteral("actionImportDefectManagerCompanies"), QStringLiteral("icon-firmen-import.ico"));
-    actionImportDefectManagerCompanies->setText(tr("Import von Firmen aus anderer Pellwick-Datei"));
-    actionImportDefectManagerCompanies->setToolTip(tr("Import von Firmen aus anderer Pellwick-Datei"));
-    connect(actionImportDefectManagerCompanies, &QAction::triggered, this,
-            &KalMainWindow::on_actionImportDefectManagerCompanies_triggered);
-    actionImportSiteJournalCompanies =
-        makeAction(QStringLiteral("actionImportSiteJournalCompanies"), QStringLiteral("icon-firmen-import.ico"));
-    actionImportSiteJournalCompanies->setText(tr("Import von Firmen aus Quellor Bautagebuch"));
-    actionImportSiteJournalCompanies->setToolTip(tr("Import von Firmen aus Quellor Bautagebuch"));
-    connect(actionImportSiteJournalCompanies, &QAction::triggered, this,
-            &KalMainWindow::on_actionImportSiteJournalCompanies_triggered);
-    actionImportCSVCompanies =
-        makeAction(QStringLiteral("actionImportCSVCompanies"), QStringLiteral("icon-firmen-import.ico"));
-    actionImportCSVCompanies->setText(tr("Import von Firmen aus externer Adress-Datei"));
-    actionImportCSVCompanies->setToolTip(tr("Import von Firmen aus externer Adress-Datei"));
-    connect(actionImportCSVCompanies, &QAction::triggered, this, &KalMainWindow::on_actionImportCSVCompanies_triggered);
-
-    actionSettingsLanguage = makeAction(QStringLiteral("actionSettingsLanguage"), QStringLiteral("icon-sprache.ico"));
-    actionSettingsLanguage->setText(tr("Sprache wählen"));
-    actionSettingsLanguage->setToolTip(tr("Sprache wählen"));
-    connect(actionSettingsLanguage, &QAction::triggered, this, &KalMainWindow::on_actionSettingsLanguage_triggered);
-
-    actionSettingsCompleter = makeAction(QStringLiteral("actionSettingsCompleter"), QStringLiteral("icon-texte.ico"));
-    actionSettingsCompleter->setText(tr("Texte ändern - Eingabe"));
-    actionSettingsCompleter->setToolTip(tr("Texte ändern - Eingabe"));
-    connect(actionSettingsCompleter, &QAction::triggered, this, &KalMainWindow::on_actionSettingsCompleter_triggered);
-    actionStartSpellChecking =
-        makeAction(QStringLiteral("actionStartSpellChecking"), QStringLiteral("icon-rechtschreibung.ico"));
-    connect(actionStartSpellChecking, &QAction::triggered, this, &KalMainWindow::on_actionStartSpellChecking_triggered);
-    actionSettingsPlanSize = later(QStringLiteral("actionSettingsPlanSize"), QStringLiteral("icon-plangroesse.ico"),
-                                   tr("Plangröße"), QString());
-    actionSettingsImageSize = later(QStringLiteral("actionSettingsImageSize"), QStringLiteral("icon-fotogroesse.ico"),
-                                    tr("Fotogröße"), QString());
-    actionStandardMarker = later(QStringLiteral("actionStandardMarker"), QStringLiteral("icon-marker.ico"),
-                                 tr("Standardmarker"), QString());
-    actionStandardMarkerText = later(QStringLiteral("actionStandardMarkerText"), QStringLiteral("icon-marker-text.ico"),
-                                     tr("Mängeltexte im Plan"), QString());
-
-    actionTooltipHelp = makeAction(QStringLiteral("actionTooltipHelp"), QStringLiteral("icon-help.ico"));
-    connect(actionTooltipHelp, &QAction::triggered, this, &KalMainWindow::on_actionTooltipHelp_triggered);
-
-    actionShortHelpImportFromSiteJournal =
-        makeAction(QStringLiteral("actionShortHelpImportFromSiteJournal"), QStringLiteral("icon-help.ico"));
-    actionShortHelpImportFromSiteJournal->setText(tr("Wie übernehme ich Mängel und\nFirmen aus einem Bautagebuch?"));
-    connect(actionShortHelpImportFromSiteJournal, &QAction::triggered, this,
-            &KalMainWindow::on_actionShortHelpImportFromSiteJournal_triggered);
-
-    actionShortHelpImportFromMobile =
-        makeAction(QStringLiteral("actionShortHelpImportFromMobile"), QStringLiteral("icon-help.ico"));
-    actionShortHelpImportFromMobile->setText(tr("Wie übernehme ich Mängel und Firmen\nvon einem Mobilgerät?"));
-    connect(actionShortHelpImportFromMobile, &QAction::triggered, this,
-            &KalMainWindow::on_actionShortHelpImportFromMobile_triggered);
-
-    actionProgramInfoDialog = makeAction(QStringLiteral("actionProgramInfoDialog"), QStringLiteral("icon-info.ico"));
-    actionProgramInfoDialog->setText(tr("Info über Pellwick"));
-    connect(actionProgramInfoDialog, &QAction::triggered, this, &KalMainWindow::on_actionProgramInfoDialog_triggered);
-
-    actionUpdateTest = later(QStringLiteral("actionUpdateTest"), QStringLiteral("icon-update.ico"),
-                             tr("Auf Updates prüfen"), QString());
+void KalMainWindow::updateProjectActions(bool open)
+{
+    for (const ActionSpec &spec : actionTable()) {
+        if (spec.enabled == ActionSpec::WithProject)
+            action(spec.name)->setEnabled(open);
+    }
 }
 
 void KalMainWindow::createMenus()
@@ -315,92 +351,32 @@ void KalMainWindow::createMenus()
                                  "QMenu::item:disabled { color: rgb(150,150,150); }"
                                  "QMenu::separator { height: 1px; background: rgb(210,210,210); margin: 3px 6px; }"));
 
-    QMenuBar *bar = menuBar();
-    menuFile = bar->addMenu(tr("Datei"));
-    menuFile->setObjectName(QStringLiteral("menuFile"));
-    menuFile->addAction(actionCreateFile);
-    menuFile->addAction(actionOpenFile);
-    menuFile->addAction(actionSaveFile);
-    menuFile->addAction(actionFileSaveAs);
-    menuFile->addSeparator();
-    menuFileRecent = menuFile->addMenu(resourceIcon(QStringLiteral("datei-recent.ico")), tr("Vorherige Dateien..."));
-    menuFileRecent->setObjectName(QStringLiteral("menuFileRecent"));
-    menuFileRecent->addAction(actionFileRecentPlaceholder);
-    menuFile->addSeparator();
-    menuFile->addAction(actionCompactDB);
-
-    menuEdit = bar->addMenu(tr("Bearbeiten"));
-    menuEdit->setObjectName(QStringLiteral("menuEdit"));
-    menuEdit->addAction(actionAddDefect);
-    menuEdit->addAction(actionEditPlanTable);
-    menuEdit->addAction(actionEditStatusTable);
-
-    menuMasterData = bar->addMenu(tr("Stammdaten"));
-    menuMasterData->setObjectName(QStringLiteral("menuMasterData"));
-    menuMasterData->addAction(actionEditProjectData);
-    menuMasterData->addAction(actionEditCompanyTable);
-    menuMasterData->addAction(actionEditCompanyFormat);
-    menuMasterData->addAction(actionEditLogos);
-
-    menuPrint = bar->addMenu(tr("Drucken"));
-    menuPrint->setObjectName(QStringLiteral("menuPrint"));
-    menuPrint->addAction(actionPrintDefectListShort);
-    menuPrint->addAction(actionPrintDefectListLong);
-    menuPrint->addAction(actionPrintPreview);
-
-    menuDataImport = bar->addMenu(tr("Datenimport"));
-    menuDataImport->setObjectName(QStringLiteral("menuDataImport"));
-    menuDataImport->addAction(actionInitialDataImport);
-    menuDataImport->addAction(actionUpdateDataImport);
-    menuDataImport->addAction(actionAutomaticNewRecordsImport);
-    menuDataImport->addAction(actionAutomaticUpdateImport);
-    menuDataImport->addSeparator();
-    menuDataImport->addAction(actionImportFromApp);
-    menuDataImport->addSeparator();
-    menuDataImport->addAction(actionImportDefectManagerCompanies);
-    menuDataImport->addAction(actionImportSiteJournalCompanies);
-    menuDataImport->addAction(actionImportCSVCompanies);
-
-    menuSettings = bar->addMenu(tr("Einstellungen"));
-    menuSettings->setObjectName(QStringLiteral("menuSettings"));
-    menuSettings->addAction(actionSettingsLanguage);
-    menuSettings->addAction(actionSettingsCompleter);
-    menuSettings->addAction(actionStartSpellChecking);
-    menuSettings->addSeparator();
-    menuSettings->addAction(actionSettingsPlanSize);
-    menuSettings->addAction(actionSettingsImageSize);
-    menuSettings->addSeparator();
-    menuSettings->addAction(actionStandardMarker);
-    menuSettings->addAction(actionStandardMarkerText);
-
-    menuHelp = bar->addMenu(tr("Hilfe"));
-    menuHelp->setObjectName(QStringLiteral("menuHelp"));
-    menuHelp->addAction(actionTooltipHelp);
-    menuHelp->addSeparator();
-    menuHelp->addAction(actionShortHelpImportFromSiteJournal);
-    menuHelp->addAction(actionShortHelpImportFromMobile);
-    menuHelp->addSeparator();
-    menuHelp->addAction(actionProgramInfoDialog);
-    menuHelp->addAction(actionUpdateTest);
+    for (const MenuSpec &spec : menuTable()) {
+        QMenu *menu = menuBar()->addMenu(tr(spec.title));
+        menu->setObjectName(QLatin1String(spec.name));
+        for (const char *name : spec.actions) {
+            if (qstrcmp(name, "-") == 0) {
+                menu->addSeparator();
+            } else if (qstrcmp(name, "menuFileRecent") == 0) {
+                m_menuFileRecent =
+                    menu->addMenu(resourceIcon(QStringLiteral("datei-recent.ico")), tr("Vorherige Dateien..."));
+                m_menuFileRecent->setObjectName(QLatin1String(name));
+                m_menuFileRecent->addAction(action("actionFileRecentPlaceholder"));
+            } else {
+                menu->addAction(action(name));
+            }
+        }
+    }
 
     m_toolBar = addToolBar(tr("Symbolleiste"));
     m_toolBar->setObjectName(QStringLiteral("mainToolBar"));
     m_toolBar->setIconSize(QSize(24, 24));
-    m_toolBar->addAction(actionCreateFile);
-    m_toolBar->addAction(actionOpenFile);
-    m_toolBar->addAction(actionSaveFile);
-    m_toolBar->addAction(actionFileSaveAs);
-    m_toolBar->addSeparator();
-    m_toolBar->addAction(actionAddDefect);
-    m_toolBar->addAction(actionEditPlanTable);
-    m_toolBar->addAction(actionEditStatusTable);
-    m_toolBar->addSeparator();
-    m_toolBar->addAction(actionEditProjectData);
-    m_toolBar->addAction(actionEditCompanyTable);
-    m_toolBar->addSeparator();
-    m_toolBar->addAction(actionPrintDefectListShort);
-    m_toolBar->addAction(actionPrintDefectListLong);
-    m_toolBar->addAction(actionPrintPreview);
+    for (const char *name : toolBarActions()) {
+        if (qstrcmp(name, "-") == 0)
+            m_toolBar->addSeparator();
+        else
+            m_toolBar->addAction(action(name));
+    }
 }
 
 void KalMainWindow::createCentralWidget()
@@ -409,13 +385,13 @@ void KalMainWindow::createCentralWidget()
     auto *layout = new QVBoxLayout(central);
     layout->setContentsMargins(6, 4, 6, 6);
 
-    lblProjectHeader = new QLabel(central);
-    lblProjectHeader->setObjectName(QStringLiteral("lblProjectHeader"));
-    QFont headerFont = lblProjectHeader->font();
+    m_lblProjectHeader = new QLabel(central);
+    m_lblProjectHeader->setObjectName(QStringLiteral("lblProjectHeader"));
+    QFont headerFont = m_lblProjectHeader->font();
     headerFont.setPointSizeF(headerFont.pointSizeF() * 1.3);
     headerFont.setBold(true);
-    lblProjectHeader->setFont(headerFont);
-    layout->addWidget(lblProjectHeader);
+    m_lblProjectHeader->setFont(headerFont);
+    layout->addWidget(m_lblProjectHeader);
 
     m_splitter = new QSplitter(Qt::Horizontal, central);
     m_splitter->setObjectName(QStringLiteral("splitter"));
@@ -424,64 +400,42 @@ void KalMainWindow::createCentralWidget()
     auto *tablePane = new QWidget(m_splitter);
     auto *tableLayout = new QVBoxLayout(tablePane);
     tableLayout->setContentsMargins(0, 0, 0, 0);
-    tvDefects = new KalTableView(tablePane);
-    tvDefects->setObjectName(QStringLiteral("tvDefects"));
-    tvDefects->setSortingEnabled(true);
+    m_tvDefects = new KalTableView(tablePane);
+    m_tvDefects->setObjectName(QStringLiteral("tvDefects"));
+    m_tvDefects->setSortingEnabled(true);
     // A double click opens the defect editor; F2 still edits a cell in place.
-    tvDefects->setEditTriggers(QAbstractItemView::EditKeyPressed);
-    tvDefects->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
-    tvDefects->installEventFilter(this);
-    tvDefects->viewport()->installEventFilter(this);
-    tableLayout->addWidget(tvDefects, 1);
+    m_tvDefects->setEditTriggers(QAbstractItemView::EditKeyPressed);
+    m_tvDefects->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+    m_tvDefects->installEventFilter(this);
+    m_tvDefects->viewport()->installEventFilter(this);
+    tableLayout->addWidget(m_tvDefects, 1);
     auto *tableButtons = new QHBoxLayout;
-    pbDefectTableDisplayFormat = new QPushButton(tr("Alle Spalten anzeigen"), tablePane);
-    pbDefectTableDisplayFormat->setObjectName(QStringLiteral("pbDefectTableDisplayFormat"));
-    connect(pbDefectTableDisplayFormat, &QPushButton::clicked, this,
-            &KalMainWindow::on_pbDefectTableDisplayFormat_clicked);
-    tableButtons->addWidget(pbDefectTableDisplayFormat);
+    m_pbDefectTableDisplayFormat = new QPushButton(tr("Alle Spalten anzeigen"), tablePane);
+    m_pbDefectTableDisplayFormat->setObjectName(QStringLiteral("pbDefectTableDisplayFormat"));
+    connect(m_pbDefectTableDisplayFormat, &QPushButton::clicked, this, &KalMainWindow::slotDefectTableDisplayFormat);
+    tableButtons->addWidget(m_pbDefectTableDisplayFormat);
     tableButtons->addStretch(1);
     tableLayout->addLayout(tableButtons);
 
-    auto *planPane = new QWidget(m_splitter);
-    auto *planLayout = new QVBoxLayout(planPane);
-    planLayout->setContentsMargins(0, 0, 0, 0);
-    m_planScene = new QGraphicsScene(this);
-    gvPlan = new QGraphicsView(m_planScene, planPane);
-    gvPlan->setObjectName(QStringLiteral("gvPlan"));
-    gvPlan->setRenderHint(QPainter::SmoothPixmapTransform);
-    gvPlan->setDragMode(QGraphicsView::ScrollHandDrag);
-    gvPlan->installEventFilter(this);
-    gvPlan->viewport()->installEventFilter(this);
-    planLayout->addWidget(gvPlan, 1);
-    auto *planButtons = new QHBoxLayout;
-    pbShowTotalPlan = new QPushButton(tr("An Fenstergröße anpassen"), planPane);
-    pbShowTotalPlan->setObjectName(QStringLiteral("pbShowTotalPlan"));
-    connect(pbShowTotalPlan, &QPushButton::clicked, this, &KalMainWindow::on_pbShowTotalPlan_clicked);
-    pbZoomInfo = new QPushButton(planPane);
-    pbZoomInfo->setObjectName(QStringLiteral("pbZoomInfo"));
-    pbZoomInfo->setIcon(resourceIcon(QStringLiteral("icon-info.ico")));
-    pbZoomInfo->setToolTip(tr("Hinweise zum Zoomen"));
-    connect(pbZoomInfo, &QPushButton::clicked, this, &KalMainWindow::on_pbZoomInfo_clicked);
-    planButtons->addStretch(1);
-    planButtons->addWidget(pbShowTotalPlan);
-    planButtons->addWidget(pbZoomInfo);
-    planLayout->addLayout(planButtons);
+    m_planPanel = new KalPlanPanel(m_splitter);
+    connect(m_planPanel, &KalPlanPanel::planDoubleClicked, this, &KalMainWindow::slotPlanPanelDoubleClicked);
 
     m_splitter->addWidget(tablePane);
-    m_splitter->addWidget(planPane);
+    m_splitter->addWidget(m_planPanel);
     m_splitter->setStretchFactor(0, 2);
     m_splitter->setStretchFactor(1, 1);
     layout->addWidget(m_splitter, 1);
     setCentralWidget(central);
 
-    connect(tvDefects, &QAbstractItemView::doubleClicked, this, &KalMainWindow::slotOpenDefectEditor);
-    connect(tvDefects->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
+    connect(m_tvDefects, &QAbstractItemView::doubleClicked, this, &KalMainWindow::slotOpenDefectEditor);
+    connect(m_tvDefects->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
             &KalMainWindow::slotSaveSelectionBeforeSorting);
-    connect(tvDefects->horizontalHeader(), &QHeaderView::sectionClicked, this,
+    connect(m_tvDefects->horizontalHeader(), &QHeaderView::sectionClicked, this,
             &KalMainWindow::slotRestoreSelectionAfterSorting);
-    connect(tvDefects, &KalTableView::signalButtonAddClicked, this, &KalMainWindow::slotDefectTableAddButtonClicked);
-    connect(tvDefects, &KalTableView::signalButtonCopyClicked, this, &KalMainWindow::slotDefectTableCopyButtonClicked);
-    connect(tvDefects, &KalTableView::signalRowsDeleted, this, &KalMainWindow::slotDefectTableDeleteButtonClicked);
+    connect(m_tvDefects, &KalTableView::signalButtonAddClicked, this, &KalMainWindow::slotDefectTableAddButtonClicked);
+    connect(m_tvDefects, &KalTableView::signalButtonCopyClicked, this,
+            &KalMainWindow::slotDefectTableCopyButtonClicked);
+    connect(m_tvDefects, &KalTableView::signalRowsDeleted, this, &KalMainWindow::slotDefectTableDeleteButtonClicked);
 }
 
 QString KalMainWindow::windowTitleFor(bool open, const QString &projectPath)
@@ -506,7 +460,7 @@ void KalMainWindow::updateProjectHeader()
         if (column >= 0 && kal->rowCount() > 0)
             name = kal->data(kal->index(0, column)).toString();
     }
-    lblProjectHeader->setText(tr("Projekt:") + QLatin1Char(' ') + name);
+    m_lblProjectHeader->setText(tr("Projekt:") + QLatin1Char(' ') + name);
 }
 
 void KalMainWindow::updateImportMenuState()
@@ -519,28 +473,28 @@ void KalMainWindow::updateImportMenuState()
     }
     const int mode = m_project->isOpen() ? m_project->readAutomaticImportMode() : 0;
 
-    actionInitialDataImport->setVisible(!linked);
-    actionUpdateDataImport->setVisible(linked);
-    actionAutomaticNewRecordsImport->setVisible(linked && mode != 2);
-    actionAutomaticUpdateImport->setVisible(linked);
+    QAction *newRecords = action("actionAutomaticNewRecordsImport");
+    QAction *update = action("actionAutomaticUpdateImport");
+    action("actionInitialDataImport")->setVisible(!linked);
+    action("actionUpdateDataImport")->setVisible(linked);
+    newRecords->setVisible(linked && mode != 2);
+    update->setVisible(linked);
 
     const QString on = QStringLiteral("icon-datenimport-automatisch-ein.ico");
     const QString off = QStringLiteral("icon-datenimport-automatisch-aus.ico");
     if (mode == 1) {
-        actionAutomaticNewRecordsImport->setText(tr("Automatischen Import neuer Mängel und Firmen ausschalten"));
-        actionAutomaticNewRecordsImport->setIcon(resourceIcon(off));
+        newRecords->setText(tr("Automatischen Import neuer Mängel und Firmen ausschalten"));
+        newRecords->setIcon(resourceIcon(off));
     } else {
-        actionAutomaticNewRecordsImport->setText(tr("Automatischen Import neuer Mängel und Firmen einschalten"));
-        actionAutomaticNewRecordsImport->setIcon(resourceIcon(on));
+        newRecords->setText(tr("Automatischen Import neuer Mängel und Firmen einschalten"));
+        newRecords->setIcon(resourceIcon(on));
     }
     if (mode == 2) {
-        actionAutomaticUpdateImport->setText(
-            tr("Automatischen Import und Aktualisierung vorhandener Mängel und Firmen ausschalten"));
-        actionAutomaticUpdateImport->setIcon(resourceIcon(off));
+        update->setText(tr("Automatischen Import und Aktualisierung vorhandener Mängel und Firmen ausschalten"));
+        update->setIcon(resourceIcon(off));
     } else {
-        actionAutomaticUpdateImport->setText(
-            tr("Automatischen Import und Aktualisierung vorhandener Mängel und Firmen einschalten"));
-        actionAutomaticUpdateImport->setIcon(resourceIcon(on));
+        update->setText(tr("Automatischen Import und Aktualisierung vorhandener Mängel und Firmen einschalten"));
+        update->setIcon(resourceIcon(on));
     }
 }
 
@@ -551,6 +505,7 @@ bool KalMainWindow::tooltipHelpActive() const
 
 void KalMainWindow::updateTooltipHelpAction()
 {
+    QAction *actionTooltipHelp = action("actionTooltipHelp");
     if (tooltipHelpActive()) {
         actionTooltipHelp->setText(tr("Hilfetexte ausschalten"));
         actionTooltipHelp->setIcon(resourceIcon(QStringLiteral("icon-help-off.ico")));
@@ -559,10 +514,11 @@ void KalMainWindow::updateTooltipHelpAction()
         actionTooltipHelp->setIcon(resourceIcon(QStringLiteral("icon-help.ico")));
     }
     actionTooltipHelp->setToolTip(actionTooltipHelp->text());
+    m_planPanel->setHelpActive(tooltipHelpActive());
     rebuildRecentMenu();
 }
 
-void KalMainWindow::on_actionTooltipHelp_triggered()
+void KalMainWindow::slotTooltipHelp()
 {
     QSettings().setValue(QLatin1String(kTooltipHelpKey), !tooltipHelpActive());
     if (!tooltipHelpActive())
@@ -570,44 +526,42 @@ void KalMainWindow::on_actionTooltipHelp_triggered()
     updateTooltipHelpAction();
 }
 
+QStringList KalMainWindow::recentFiles() const
+{
+    return m_recentFiles->files();
+}
+
 void KalMainWindow::addRecentFile(const QString &path)
 {
-    if (path.isEmpty())
-        return;
-    const QString absolute = QFileInfo(path).absoluteFilePath();
-    m_recentFiles.removeAll(absolute);
-    m_recentFiles.prepend(absolute);
-    QSettings().setValue(QLatin1String(kRecentKey), m_recentFiles);
-    rebuildRecentMenu();
+    m_recentFiles->add(path);
 }
 
 void KalMainWindow::removeRecentFile(const QString &path)
 {
-    m_recentFiles.removeAll(QFileInfo(path).absoluteFilePath());
-    QSettings().setValue(QLatin1String(kRecentKey), m_recentFiles);
-    rebuildRecentMenu();
+    m_recentFiles->remove(path);
 }
 
 void KalMainWindow::rebuildRecentMenu()
 {
-    if (!menuFileRecent)
+    if (!m_menuFileRecent)
         return;
-    for (QAction *a : menuFileRecent->actions()) {
-        if (a != actionFileRecentPlaceholder)
+    for (QAction *a : m_menuFileRecent->actions()) {
+        if (a != action("actionFileRecentPlaceholder"))
             a->deleteLater();
     }
-    menuFileRecent->clear();
+    m_menuFileRecent->clear();
     const bool help = tooltipHelpActive();
-    for (const QString &path : qAsConst(m_recentFiles)) {
+    const QStringList files = m_recentFiles->files();
+    for (const QString &path : files) {
         QAction *a =
-            menuFileRecent->addAction(resourceIcon(QStringLiteral("datei-recent.ico")), QFileInfo(path).fileName());
+            m_menuFileRecent->addAction(resourceIcon(QStringLiteral("datei-recent.ico")), QFileInfo(path).fileName());
         a->setData(path);
         if (help)
             a->setToolTip(tr("Öffnet die Datei %1").arg(QDir::toNativeSeparators(path)));
         connect(a, &QAction::triggered, this, &KalMainWindow::slotOpenRecentFile);
     }
-    menuFileRecent->setToolTipsVisible(help);
-    menuFileRecent->setEnabled(!m_recentFiles.isEmpty());
+    m_menuFileRecent->setToolTipsVisible(help);
+    m_menuFileRecent->setEnabled(!files.isEmpty());
 }
 
 void KalMainWindow::slotOpenRecentFile()
@@ -619,8 +573,8 @@ void KalMainWindow::slotOpenRecentFile()
 
 void KalMainWindow::updateFormatButton()
 {
-    pbDefectTableDisplayFormat->setText(m_defectTableFormat == 2 ? tr("Spalten ausblenden")
-                                                                 : tr("Alle Spalten einblenden"));
+    m_pbDefectTableDisplayFormat->setText(m_defectTableFormat == 2 ? tr("Spalten ausblenden")
+                                                                   : tr("Alle Spalten einblenden"));
 }
 
 void KalMainWindow::setDefectTableFormat(int format)
@@ -635,7 +589,7 @@ void KalMainWindow::setDefectTableFormat(int format)
     applyDefectTableFormat();
 }
 
-void KalMainWindow::on_pbDefectTableDisplayFormat_clicked()
+void KalMainWindow::slotDefectTableDisplayFormat()
 {
     setDefectTableFormat(m_defectTableFormat == 2 ? 1 : 2);
 }
@@ -643,7 +597,7 @@ void KalMainWindow::on_pbDefectTableDisplayFormat_clicked()
 void KalMainWindow::storeColumnWidths()
 {
     if (defectModel())
-        tvDefects->saveColumnWidths();
+        m_tvDefects->saveColumnWidths();
 }
 
 int KalMainWindow::tableShare(int total) const
@@ -656,18 +610,18 @@ void KalMainWindow::applyDefectTableFormat()
     KalSqlTableModel *model = defectModel();
     if (!model)
         return;
-    QHeaderView *header = tvDefects->horizontalHeader();
+    QHeaderView *header = m_tvDefects->horizontalHeader();
     const QStringList &visible = m_defectTableFormat == 2 ? longColumns() : shortColumns();
     for (int column = 0; column < model->columnCount(); ++column)
-        tvDefects->setColumnHidden(column, true);
+        m_tvDefects->setColumnHidden(column, true);
     for (const QString &field : visible) {
         const int column = model->fieldIndex(field);
         if (column >= 0)
-            tvDefects->setColumnHidden(column, false);
+            m_tvDefects->setColumnHidden(column, false);
     }
 
-    if (!tvDefects->restoreColumnWidths()) {
-        const int charWidth = tvDefects->fontMetrics().averageCharWidth();
+    if (!m_tvDefects->restoreColumnWidths()) {
+        const int charWidth = m_tvDefects->fontMetrics().averageCharWidth();
         int used = 0;
         for (const QString &field : visible) {
             const int column = model->fieldIndex(field);
@@ -683,11 +637,11 @@ void KalMainWindow::applyDefectTableFormat()
         if (description >= 0) {
             // Before the window is shown the viewport has no size yet: estimate
             // the table's share of the window.
-            int available = tvDefects->viewport()->width();
-            if (!tvDefects->isVisible()) {
+            int available = m_tvDefects->viewport()->width();
+            if (!m_tvDefects->isVisible()) {
                 const int share = tableShare(width());
-                available = share - tvDefects->verticalHeader()->sizeHint().width() -
-                            tvDefects->verticalScrollBar()->sizeHint().width() - 16;
+                available = share - m_tvDefects->verticalHeader()->sizeHint().width() -
+                            m_tvDefects->verticalScrollBar()->sizeHint().width() - 16;
             }
             header->resizeSection(description, qMax(30 * charWidth, available - used));
         }
@@ -704,18 +658,18 @@ void KalMainWindow::applyDefectTableFormat()
 void KalMainWindow::bindDefectTable()
 {
     KalSqlTableModel *model = defectModel();
-    tvDefects->setModel(model);
+    m_tvDefects->setModel(model);
     if (!model)
         return;
     connect(model, &QAbstractItemModel::modelAboutToBeReset, this, &KalMainWindow::slotDefectModelAboutToReset,
             Qt::UniqueConnection);
     applyDefectTableFormat();
-    if (QItemSelectionModel *selection = tvDefects->selectionModel())
+    if (QItemSelectionModel *selection = m_tvDefects->selectionModel())
         connect(selection, &QItemSelectionModel::currentRowChanged, this, &KalMainWindow::defectRowChanged,
                 Qt::UniqueConnection);
     // The header keeps its sort indicator across models (a save rebuilds
     // them); the new model is sorted to match it.
-    QHeaderView *header = tvDefects->horizontalHeader();
+    QHeaderView *header = m_tvDefects->horizontalHeader();
     const int sortColumn = header->sortIndicatorSection();
     if (sortColumn >= 0 && sortColumn < model->columnCount())
         model->sort(sortColumn, header->sortIndicatorOrder());
@@ -732,19 +686,17 @@ void KalMainWindow::slotProjectOpened()
     updateProjectHeader();
     updateImportMenuState();
     bindDefectTable();
-    clearPlanPanel();
-    showPlanHint();
-    actionSaveFile->setEnabled(true);
-    actionFileSaveAs->setEnabled(true);
-    actionCompactDB->setEnabled(true);
-    actionAddDefect->setEnabled(true);
+    m_planPanel->showHint();
+    updateProjectActions(true);
 }
 
 void KalMainWindow::slotProjectClosed()
 {
     storeColumnWidths();
-    tvDefects->setModel(nullptr);
-    clearPlanPanel();
+    m_tvDefects->setModel(nullptr);
+    m_planPanel->clear();
+    // Called while the project is about to close: it still counts as open.
+    updateProjectActions(false);
 }
 
 void KalMainWindow::slotModifiedChanged(bool modified)
@@ -755,130 +707,45 @@ void KalMainWindow::slotModifiedChanged(bool modified)
 
 QString KalMainWindow::planPanelHint() const
 {
-    return tr("Dieser Mangel ist in keinem Plan verortet.\nMit einem Doppelklick in dieses Fenster können Sie dem "
-              "Mangel einen Plan zuordnen.\nMit einem Doppelklick auf einen Mangel können Sie diesen Mangel "
-              "bearbeiten.\n");
-}
-
-void KalMainWindow::clearPlanPanel()
-{
-    m_planScene->clear();
-    m_hintItem = nullptr;
-    m_planPixmap = QPixmap();
-    m_shownPlanId = -1;
-    pbShowTotalPlan->setEnabled(false);
-}
-
-void KalMainWindow::showPlanHint()
-{
-    clearPlanPanel();
-    m_hintItem = m_planScene->addText(planPanelHint());
-    m_hintItem->setDefaultTextColor(QColor(110, 110, 110));
-    gvPlan->resetTransform();
-    layoutPlanHint();
-}
-
-void KalMainWindow::layoutPlanHint()
-{
-    if (!m_hintItem)
-        return;
-    // The hint wraps to the panel and never needs scrolling.
-    const QSize area = gvPlan->viewport()->size();
-    m_hintItem->setTextWidth(qMax(120, area.width() - 24));
-    const QRectF text = m_hintItem->boundingRect();
-    m_planScene->setSceneRect(
-        QRectF(-12, 0, qMax<qreal>(text.width() + 24, area.width()), qMax<qreal>(text.height(), area.height() - 4)));
-    gvPlan->centerOn(m_hintItem);
+    return KalPlanPanel::hintText();
 }
 
 void KalMainWindow::defectRowChanged(const QModelIndex &prevIndex, const QModelIndex &actIndex)
 {
     Q_UNUSED(prevIndex)
-    // Plans cannot be assigned to defects yet; every defect shows the hint.
-    if (actIndex.isValid() || m_shownPlanId != -1 || m_planScene->items().isEmpty())
-        showPlanHint();
+    m_planPanel->showDefect(actIndex.isValid());
 }
 
-void KalMainWindow::fitPlan()
+void KalMainWindow::slotPlanPanelDoubleClicked()
 {
-    if (m_planScene->items().isEmpty())
-        return;
-    if (m_planPixmap.isNull()) {
-        showPlanHint();
-        return;
-    }
-    gvPlan->fitInView(m_planScene->itemsBoundingRect(), Qt::KeepAspectRatio);
-}
-
-void KalMainWindow::on_pbShowTotalPlan_clicked()
-{
-    fitPlan();
-}
-
-void KalMainWindow::on_pbZoomInfo_clicked()
-{
-    showHelpTip(pbZoomInfo, tr("Mit dem Mausrad vergrößern und verkleinern Sie den Plan.\n"
-                               "Mit gedrückter linker Maustaste verschieben Sie den Ausschnitt.\n"
-                               "\"An Fenstergröße anpassen\" zeigt den ganzen Plan."));
-}
-
-void KalMainWindow::showHelpTip(QWidget *widget, const QString &text)
-{
-    QToolTip::showText(widget->mapToGlobal(QPoint(widget->width() / 2, widget->height() / 2)), text, widget);
-}
-
-void KalMainWindow::resizeEvent(QResizeEvent *event)
-{
-    QMainWindow::resizeEvent(event);
-    layoutPlanHint();
+    // The plan library and editor are not part of the program yet; say so
+    // instead of silently ignoring the double click the hint invites.
+    if (m_tvDefects->currentIndex().isValid())
+        KalPrompt::information(tr("Pläne"),
+                               tr("Die Zuordnung von Plänen ist in dieser Programmversion noch nicht verfügbar."));
 }
 
 bool KalMainWindow::eventFilter(QObject *watched, QEvent *event)
 {
-    if (!gvPlan || !tvDefects || !m_planScene)
+    if (!m_tvDefects || (watched != m_tvDefects && watched != m_tvDefects->viewport()))
         return QMainWindow::eventFilter(watched, event);
-    const bool inPlan = watched == gvPlan || watched == gvPlan->viewport();
-    const bool inTable = watched == tvDefects || watched == tvDefects->viewport();
-    if (!inPlan && !inTable)
-        return QMainWindow::eventFilter(watched, event);
-
     switch (event->type()) {
-    case QEvent::Resize:
-        if (watched == gvPlan->viewport())
-            layoutPlanHint();
-        break;
-    case QEvent::MouseButtonDblClick:
-        // The plan library and editor are not part of the program yet; say
-        // so instead of silently ignoring the double click the hint invites.
-        if (inPlan && m_shownPlanId == -1 && tvDefects->currentIndex().isValid()) {
-            KalPrompt::information(tr("Pläne"), tr("Die Zuordnung von Plänen ist in dieser Programmversion noch "
-                                                   "nicht verfügbar."));
-            return true;
-        }
-        break;
-    case QEvent::ToolTip: {
+    case QEvent::ToolTip:
+        // The help text shows once per visit; the cells' own tool tips stay.
         if (!tooltipHelpActive()) {
             QToolTip::hideText();
-            return inPlan; // the table's own cell tool tips stay
-        }
-        bool &shown = inPlan ? m_planHelpShown : m_tableHelpShown;
-        if (!shown) {
-            shown = true;
-            QWidget *w = inPlan ? static_cast<QWidget *>(gvPlan) : static_cast<QWidget *>(tvDefects);
-            showHelpTip(w, inPlan ? tr("Plan des gewählten Mangels.\nMausrad: vergrößern und verkleinern.\n"
-                                       "Doppelklick: Plan zuordnen oder im Plan verorten.")
-                                  : tr("Liste der Mängel des Projekts.\nDoppelklick auf einen Mangel: bearbeiten.\n"
-                                       "Klick auf eine Spaltenüberschrift: sortieren.\n"
-                                       "Die Knöpfe unten links fügen Mängel hinzu, kopieren oder löschen sie."));
+        } else if (!m_tableHelpShown) {
+            m_tableHelpShown = true;
+            QToolTip::showText(m_tvDefects->mapToGlobal(m_tvDefects->rect().center()),
+                               tr("Liste der Mängel des Projekts.\nDoppelklick auf einen Mangel: bearbeiten.\n"
+                                  "Klick auf eine Spaltenüberschrift: sortieren.\n"
+                                  "Die Knöpfe unten links fügen Mängel hinzu, kopieren oder löschen sie."),
+                               m_tvDefects);
             return true;
         }
-        return inPlan;
-    }
+        break;
     case QEvent::Leave:
-        if (inPlan)
-            m_planHelpShown = false;
-        else
-            m_tableHelpShown = false;
+        m_tableHelpShown = false;
         break;
     default:
         break;

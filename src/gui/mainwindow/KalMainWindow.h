@@ -1,20 +1,22 @@
 #pragma once
 
+#include "gui/mainwindow/KalProjectFileCommands.h"
+
+#include <QHash>
 #include <QList>
 #include <QMainWindow>
 #include <QMap>
 #include <QModelIndex>
-#include <QPixmap>
 #include <QStringList>
 #include <QVariant>
+#include <QVector>
 
+class KalPlanPanel;
 class KalProject;
+class KalRecentFiles;
 class KalSqlTableModel;
 class KalTableView;
 class QAction;
-class QGraphicsScene;
-class QGraphicsTextItem;
-class QGraphicsView;
 class QLabel;
 class QMenu;
 class QPushButton;
@@ -29,13 +31,17 @@ class KalMainWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    enum MaybeSaveResult { GoOn = 0, Cancelled = 1, Failed = 2 };
+    enum MaybeSaveResult {
+        GoOn = KalProjectFileCommands::GoOn,
+        Cancelled = KalProjectFileCommands::Cancelled,
+        Failed = KalProjectFileCommands::Failed
+    };
 
     explicit KalMainWindow(QWidget *parent = nullptr);
     ~KalMainWindow() override;
 
     KalProject *project() const { return m_project; }
-    KalTableView *defectTable() const { return tvDefects; }
+    KalTableView *defectTable() const { return m_tvDefects; }
     KalSqlTableModel *defectModel() const;
 
     // Asks before the open project is given up; see MaybeSaveResult.
@@ -47,7 +53,7 @@ public:
     // Creates a project, saves it at once under `path`.
     bool createProjectAt(const QString &path);
 
-    QStringList recentFiles() const { return m_recentFiles; }
+    QStringList recentFiles() const;
     void addRecentFile(const QString &path);
     void removeRecentFile(const QString &path);
 
@@ -56,8 +62,9 @@ public:
 
     // Adds a defect with its defaults and selects it; its id or -1.
     qint64 addDefect();
-    // Runs the defect editor on a defect and selects it again afterwards.
-    void openDefectEditor(qint64 id);
+    // Runs the defect editor on a defect and selects it again afterwards;
+    // true when the editor was left with OK.
+    bool openDefectEditor(qint64 id);
     // Copies the given defects; the ids of the copies.
     QList<qint64> copyDefects(const QList<qint64> &ids);
     QList<qint64> selectedDefectIds() const;
@@ -85,33 +92,30 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
-    void resizeEvent(QResizeEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private slots:
-    void on_actionCreateFile_triggered();
-    void on_actionOpenFile_triggered();
-    void on_actionSaveFile_triggered();
-    void on_actionFileSaveAs_triggered();
-    void on_actionCompactDB_triggered();
-    void on_actionAddDefect_triggered();
-    void on_actionEditStatusTable_triggered();
-    void on_actionEditProjectData_triggered();
-    void on_actionEditCompanyTable_triggered();
-    void on_actionEditCompanyFormat_triggered();
-    void on_actionImportDefectManagerCompanies_triggered();
-    void on_actionImportSiteJournalCompanies_triggered();
-    void on_actionImportCSVCompanies_triggered();
-    void on_actionSettingsLanguage_triggered();
-    void on_actionStartSpellChecking_triggered();
-    void on_actionSettingsCompleter_triggered();
-    void on_actionTooltipHelp_triggered();
-    void on_actionShortHelpImportFromSiteJournal_triggered();
-    void on_actionShortHelpImportFromMobile_triggered();
-    void on_actionProgramInfoDialog_triggered();
-    void on_pbDefectTableDisplayFormat_clicked();
-    void on_pbShowTotalPlan_clicked();
-    void on_pbZoomInfo_clicked();
+    void slotCreateFile();
+    void slotOpenFile();
+    void slotSaveFile();
+    void slotFileSaveAs();
+    void slotCompactDB();
+    void slotAddDefect();
+    void slotEditStatusTable();
+    void slotEditProjectData();
+    void slotEditCompanyTable();
+    void slotEditCompanyFormat();
+    void slotImportDefectManagerCompanies();
+    void slotImportSiteJournalCompanies();
+    void slotImportCSVCompanies();
+    void slotSettingsLanguage();
+    void slotStartSpellChecking();
+    void slotSettingsCompleter();
+    void slotTooltipHelp();
+    void slotShortHelpImportFromSiteJournal();
+    void slotShortHelpImportFromMobile();
+    void slotProgramInfoDialog();
+    void slotDefectTableDisplayFormat();
     void slotOpenRecentFile();
     void slotDefectTableAddButtonClicked();
     void slotDefectTableCopyButtonClicked();
@@ -124,8 +128,12 @@ private slots:
     void slotSaveSelectionBeforeSorting(int logicalIndex, Qt::SortOrder order);
     void slotRestoreSelectionAfterSorting(int logicalIndex);
     void slotDefectModelAboutToReset();
+    void slotPlanPanelDoubleClicked();
 
 private:
+    struct ActionSpec;
+    static const QVector<ActionSpec> &actionTable();
+
     int highestDefectNumber() const;
     void openMasterData(int page);
     void importCompanies(int source);
@@ -133,7 +141,8 @@ private:
     void createActions();
     void createMenus();
     void createCentralWidget();
-    QAction *makeAction(const QString &name, const QString &icon);
+    QAction *action(const char *name) const;
+    void updateProjectActions(bool open);
     void updateWindowTitle();
     void updateProjectHeader();
     void updateImportMenuState();
@@ -144,81 +153,24 @@ private:
     void applyDefectTableFormat();
     int tableShare(int total) const;
     void storeColumnWidths();
-    void showPlanHint();
-    void layoutPlanHint();
-    void clearPlanPanel();
-    void fitPlan();
-    int saveCurrent(bool saveAs);
-    bool projectIsReadOnly() const;
-    QString askSaveFileName(const QString &title);
     bool tooltipHelpActive() const;
-    void showHelpTip(QWidget *widget, const QString &text);
 
     KalProject *m_project = nullptr;
+    KalRecentFiles *m_recentFiles = nullptr;
+    KalProjectFileCommands *m_fileCommands = nullptr;
 
-    KalTableView *tvDefects = nullptr;
-    QGraphicsView *gvPlan = nullptr;
-    QGraphicsScene *m_planScene = nullptr;
-    QGraphicsTextItem *m_hintItem = nullptr;
-    QPixmap m_planPixmap;
-    qint64 m_shownPlanId = -1;
-    QLabel *lblProjectHeader = nullptr;
-    QPushButton *pbDefectTableDisplayFormat = nullptr;
-    QPushButton *pbShowTotalPlan = nullptr;
-    QPushButton *pbZoomInfo = nullptr;
+    KalTableView *m_tvDefects = nullptr;
+    KalPlanPanel *m_planPanel = nullptr;
+    QLabel *m_lblProjectHeader = nullptr;
+    QPushButton *m_pbDefectTableDisplayFormat = nullptr;
     QSplitter *m_splitter = nullptr;
     QToolBar *m_toolBar = nullptr;
+    QMenu *m_menuFileRecent = nullptr;
+    QHash<QString, QAction *> m_actions;
 
-    QStringList m_recentFiles;
     int m_defectTableFormat = 1;
-    bool m_planHelpShown = false;
     bool m_tableHelpShown = false;
     QList<qint64> m_idsBeforeSorting;
     QList<qint64> m_idsBeforeReset;
-
-    QMenu *menuFile = nullptr;
-    QMenu *menuFileRecent = nullptr;
-    QMenu *menuEdit = nullptr;
-    QMenu *menuMasterData = nullptr;
-    QMenu *menuPrint = nullptr;
-    QMenu *menuDataImport = nullptr;
-    QMenu *menuSettings = nullptr;
-    QMenu *menuHelp = nullptr;
-
-    QAction *actionCreateFile = nullptr;
-    QAction *actionOpenFile = nullptr;
-    QAction *actionSaveFile = nullptr;
-    QAction *actionFileSaveAs = nullptr;
-    QAction *actionFileRecentPlaceholder = nullptr;
-    QAction *actionCompactDB = nullptr;
-    QAction *actionAddDefect = nullptr;
-    QAction *actionEditPlanTable = nullptr;
-    QAction *actionEditStatusTable = nullptr;
-    QAction *actionEditProjectData = nullptr;
-    QAction *actionEditCompanyTable = nullptr;
-    QAction *actionEditCompanyFormat = nullptr;
-    QAction *actionEditLogos = nullptr;
-    QAction *actionPrintDefectListShort = nullptr;
-    QAction *actionPrintDefectListLong = nullptr;
-    QAction *actionPrintPreview = nullptr;
-    QAction *actionInitialDataImport = nullptr;
-    QAction *actionUpdateDataImport = nullptr;
-    QAction *actionAutomaticNewRecordsImport = nullptr;
-    QAction *actionAutomaticUpdateImport = nullptr;
-    QAction *actionImportFromApp = nullptr;
-    QAction *actionImportDefectManagerCompanies = nullptr;
-    QAction *actionImportSiteJournalCompanies = nullptr;
-    QAction *actionImportCSVCompanies = nullptr;
-    QAction *actionSettingsLanguage = nullptr;
-    QAction *actionSettingsCompleter = nullptr;
-    QAction *actionStartSpellChecking = nullptr;
-    QAction *actionSettingsPlanSize = nullptr;
-    QAction *actionSettingsImageSize = nullptr;
-    QAction *actionStandardMarker = nullptr;
-    QAction *actionStandardMarkerText = nullptr;
-    QAction *actionTooltipHelp = nullptr;
-    QAction *actionShortHelpImportFromSiteJournal = nullptr;
-    QAction *actionShortHelpImportFromMobile = nullptr;
-    QAction *actionProgramInfoDialog = nullptr;
-    QAction *actionUpdateTest = nullptr;
+    QList<qint64> m_idsBeforeRebuild;
 };

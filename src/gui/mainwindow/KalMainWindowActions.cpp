@@ -5,6 +5,7 @@
 #include "core/project/KalEnvironment.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
+#include "core/project/KalRecentFiles.h"
 #include "core/project/KalSettings.h"
 #include "core/project/KalSqlError.h"
 #include "core/project/KalSqlTableModel.h"
@@ -32,19 +33,6 @@
 #include <QSqlRecord>
 
 namespace {
-QString projectFilter()
-{
-    return KalMainWindow::tr("Pellwick Projekt (*.pwp)");
-}
-
-// A name typed without extension gets the project extension.
-QString withProjectSuffix(const QString &path)
-{
-    if (path.isEmpty() || !QFileInfo(path).suffix().isEmpty())
-        return path;
-    return path + QStringLiteral(".pwp");
-}
-
 // Fields a copy takes over from its source; number, plan, position, photos
 // and everything the site-journal import owns stay behind on purpose.
 const QStringList &copiedFields()
@@ -68,254 +56,54 @@ const QStringList &copiedFields()
 }
 } // namespace
 
-bool KalMainWindow::projectIsReadOnly() const
-{
-    const QString path = m_project->projectPath();
-    if (path.isEmpty())
-        return false;
-    const QFileInfo info(path);
-    return info.exists() && !info.isWritable();
-}
-
-QString KalMainWindow::askSaveFileName(const QString &title)
-{
-    QString proposed;
-    if (!m_project->projectPath().isEmpty())
-        proposed = QFileInfo(m_project->projectPath()).fileName();
-    return withProjectSuffix(
-        KalFileDialog::getSaveFileName(this, KalSettings::ProjectSave, title, projectFilter(), proposed));
-}
-
-int KalMainWindow::maybeSave(bool saveAs, bool explicitRequest)
-{
-    if (!m_project || !m_project->isOpen())
-        return GoOn;
-
-    const bool readOnly = projectIsReadOnly();
-    const QString nativePath = QDir::toNativeSeparators(m_project->projectPath());
-    const KalPrompt::Button saveAsButton{KalPrompt::AcceptCustom, tr("Speichern unter")};
-    const KalPrompt::Button cancelButton{KalPrompt::RejectCustom, tr("Abbrechen")};
-
-    if (explicitRequest) {
-        if (readOnly) {
-            KalPrompt::Message m;
-            m.icon = KalPrompt::Question;
-            m.title = tr("Projekt speichern");
-            m.text = tr("Das Projekt kann nicht gespeichert werden, da die Datei\n%1\nschreibgeschützt ist.\n\n"
-                        "Möchten Sie die Änderungen in einer neuen Datei speichern?")
-                         .arg(nativePath);
-            m.buttons = {saveAsButton, cancelButton};
-            if (KalPrompt::ask(m) != 0)
-                return Cancelled;
-        }
-    } else {
-        if (!m_project->isModified())
-            return GoOn;
-        KalPrompt::Message m;
-        m.icon = KalPrompt::Question;
-        m.title = tr("Projekt geändert");
-        if (!readOnly) {
-            m.text = tr("Das Projekt wurde geändert. Möchten Sie die Änderungen speichern?");
-            m.buttons = {{KalPrompt::Save, QString()}, {KalPrompt::Discard, QString()}, {KalPrompt::Cancel, QString()}};
-            m.defaultButton = -1;
-            const int answer = KalPrompt::ask(m);
-            if (answer == 1) {
-                m_project->setModified(false);
-                return GoOn;
-            }
-            if (answer != 0)
-                return Cancelled;
-        } else {
-            m.text = tr("Das Projekt wurde geändert.\nDie Datei \n%1\nist jedoch schreibgeschützt.\n\n"
-                        "Möchten Sie die Änderungen in einer neuen Datei speichern?")
-                         .arg(nativePath);
-            m.buttons = {saveAsButton, cancelButton};
-            if (KalPrompt::ask(m) != 0)
-                return Cancelled;
-        }
-    }
-    return saveCurrent(saveAs || readOnly || m_project->projectPath().isEmpty());
-}
-
-int KalMainWindow::saveCurrent(bool askForName)
-{
-    QString target;
-    if (askForName) {
-        target = askSaveFileName(tr("Datei speichern"));
-        if (target.isEmpty())
-            return Cancelled;
-        // Saving under the current name is an ordinary save.
-        if (QFileInfo(target).absoluteFilePath() == QFileInfo(m_project->projectPath()).absoluteFilePath())
-            target.clear();
-    }
-    // Saving reopens the working copy and rebuilds the models: keep the
-    // user's place in the list.
-    const QList<qint64> selected = selectedDefectIds();
-    const int result = m_project->saveProject(target);
-    selectDefects(selected);
-    if (result == KalProject::NotSaved)
-        return Cancelled;
-    if (result != KalProject::Saved) {
-        KalPrompt::critical(tr("Fehler"), tr("Beim Speichern des Projekts ist ein Fehler aufgetreten!"));
-        updateWindowTitle();
-        return Failed;
-    }
-    addRecentFile(m_project->projectPath());
-    m_project->setModified(false);
-    updateWindowTitle();
-    return GoOn;
-}
-
-bool KalMainWindow::newProject()
-{
-    if (maybeSave(false, false) != GoOn)
-        return false;
-    if (m_project->isOpen() && !closeProject(false))
-        return false;
-    const bool ok = m_project->newProject();
-    if (!ok)
-        KalPrompt::critical(tr("Fehler"), tr("Beim Erstellen eines neuen Projekts ist ein Fehler aufgetreten!"));
-    updateWindowTitle();
-    return ok;
-}
-
-bool KalMainWindow::closeProject(bool ask)
-{
-    if (!m_project->isOpen())
-        return true;
-    if (ask && maybeSave(false, false) != GoOn)
-        return false;
-    const bool ok = m_project->closeProject();
-    updateWindowTitle();
-    if (!ok) {
-        KalPrompt::critical(tr("Fehler"), tr("Beim Schließen des Projekts ist ein Fehler aufgetreten!"));
-        return false;
-    }
-    return true;
-}
-
-bool KalMainWindow::openProject(const QString &path)
-{
-    if (path.isEmpty())
-        return false;
-    if (maybeSave(false, false) != GoOn)
-        return false;
-    // A file that is gone is reported before the open project is given up.
-    if (!QFileInfo::exists(path)) {
-        KalPrompt::critical(tr("Dateifehler"),
-                            tr("Die Datei\n%1\nexistiert nicht.").arg(QDir::toNativeSeparators(path)));
-        removeRecentFile(path);
-        return false;
-    }
-    if (m_project->isOpen() && !closeProject(false))
-        return false;
-
-    if (!m_project->openProject(path)) {
-        KalPrompt::critical(tr("Fehler"), tr("Beim Öffnen des gewählten Projekts ist ein Fehler aufgetreten!"));
-        if (!QFileInfo::exists(path))
-            removeRecentFile(path);
-        // The window always works on a project.
-        if (!m_project->isOpen() && !m_project->newProject())
-            KalPrompt::critical(tr("Fehler"), tr("Beim Erstellen eines neuen Projekts ist ein Fehler aufgetreten!"));
-        updateWindowTitle();
-        return false;
-    }
-    addRecentFile(m_project->projectPath());
-    updateWindowTitle();
-    return true;
-}
-
-bool KalMainWindow::createProjectAt(const QString &path)
-{
-    if (!newProject())
-        return false;
-    const int result = m_project->saveProject(QFileInfo(path).absoluteFilePath());
-    if (result != KalProject::Saved) {
-        if (result == KalProject::SaveFailed)
-            KalPrompt::critical(tr("Fehler"), tr("Beim Speichern des Projekts ist ein Fehler aufgetreten!"));
-        updateWindowTitle();
-        return false;
-    }
-    addRecentFile(m_project->projectPath());
-    m_project->setModified(false);
-    updateWindowTitle();
-    return true;
-}
-
-void KalMainWindow::on_actionCreateFile_triggered()
+void KalMainWindow::slotCreateFile()
 {
     newProject();
 }
 
-void KalMainWindow::on_actionOpenFile_triggered()
+void KalMainWindow::slotOpenFile()
 {
-    const QString path =
-        KalFileDialog::getOpenFileName(this, KalSettings::ProjectOpen, tr("Projekt öffnen"), projectFilter());
-    if (!path.isEmpty())
-        openProject(path);
+    m_fileCommands->openChosenProject();
 }
 
-void KalMainWindow::on_actionSaveFile_triggered()
+void KalMainWindow::slotSaveFile()
 {
     maybeSave(false, true);
 }
 
-void KalMainWindow::on_actionFileSaveAs_triggered()
+void KalMainWindow::slotFileSaveAs()
 {
     maybeSave(true, true);
 }
 
-void KalMainWindow::on_actionCompactDB_triggered()
+void KalMainWindow::slotCompactDB()
 {
-    const QString title = tr("Datenbank bereinigen");
-    KalPrompt::Message intro;
-    intro.icon = KalPrompt::Information;
-    intro.title = title;
-    intro.text = tr("Verringern der Datenbankgröße durch Bereinigung der Datenbank\n\n"
-                    "Beim Löschen von Daten wird die Datenbank-Datei fragmentiert: Der frei gewordene Platz bleibt "
-                    "in der Datei erhalten. Die Bereinigung ordnet die Daten der Tabellen zusammenhängend an und "
-                    "organisiert die Datei neu.\n\n"
-                    "Dadurch kann die Datei erheblich kleiner werden, vor allem nachdem Fotos gelöscht wurden.");
-    intro.buttons = {{KalPrompt::AcceptCustom, tr("Datenbank bereinigen")}, {KalPrompt::Cancel, QString()}};
-    if (KalPrompt::ask(intro) != 0)
-        return;
+    m_fileCommands->compactDatabase();
+}
 
-    if (m_project->projectPath().isEmpty()) {
-        KalPrompt::information(title, tr("Das Projekt wurde noch nicht gespeichert.\nSie müssen das Projekt vor der "
-                                         "Bereinigung der Datenbank speichern."));
-        const QString target = askSaveFileName(tr("Neues Projekt"));
-        if (target.isEmpty())
-            return;
-        const int result = m_project->saveProject(target);
-        if (result == KalProject::SaveFailed)
-            KalPrompt::critical(title, tr("Beim Speichern des Projekts ist ein Fehler aufgetreten!\nDie Datenbank "
-                                          "konnte nicht bereinigt werden.\n"));
-        if (result != KalProject::Saved) {
-            updateWindowTitle();
-            return;
-        }
-        addRecentFile(m_project->projectPath());
-        updateWindowTitle();
-    } else if (m_project->isModified()) {
-        KalPrompt::Message m;
-        m.icon = KalPrompt::Information;
-        m.title = title;
-        m.text = tr("Das Projekt wurde geändert.\nVor dem Bereinigen der Datenbank werden die Änderungen "
-                    "gespeichert.\n");
-        m.buttons = {{KalPrompt::AcceptCustom, tr("Speichern und Bereinigen der Datenbank")},
-                     {KalPrompt::Cancel, QString()}};
-        if (KalPrompt::ask(m) != 0)
-            return;
-        const int result = m_project->saveProject();
-        if (result == KalProject::SaveFailed)
-            KalPrompt::critical(title, tr("Beim Speichern des Projekts ist ein Fehler aufgetreten!\nDie Datenbank "
-                                          "konnte nicht bereinigt werden.\n"));
-        if (result != KalProject::Saved)
-            return;
-    }
-    const QList<qint64> selected = selectedDefectIds();
-    m_project->vacuumDatabase(false);
-    selectDefects(selected);
+int KalMainWindow::maybeSave(bool saveAs, bool explicitRequest)
+{
+    return m_fileCommands->maybeSave(saveAs, explicitRequest);
+}
+
+bool KalMainWindow::newProject()
+{
+    return m_fileCommands->newProject();
+}
+
+bool KalMainWindow::closeProject(bool ask)
+{
+    return m_fileCommands->closeProject(ask);
+}
+
+bool KalMainWindow::openProject(const QString &path)
+{
+    return m_fileCommands->openProject(path);
+}
+
+bool KalMainWindow::createProjectAt(const QString &path)
+{
+    return m_fileCommands->createProjectAt(path);
 }
 
 // --- defects ---
@@ -418,18 +206,18 @@ QList<qint64> KalMainWindow::copyDefects(const QList<qint64> &ids)
 
 QList<qint64> KalMainWindow::selectedDefectIds() const
 {
-    return defectModel() ? tvDefects->selectedIds() : QList<qint64>();
+    return defectModel() ? m_tvDefects->selectedIds() : QList<qint64>();
 }
 
 void KalMainWindow::selectDefects(const QList<qint64> &ids)
 {
     if (!defectModel() || ids.isEmpty())
         return;
-    if (tvDefects->selectIds(ids) > 0)
-        tvDefects->scrollTo(tvDefects->currentIndex(), QAbstractItemView::PositionAtCenter);
+    if (m_tvDefects->selectIds(ids) > 0)
+        m_tvDefects->scrollTo(m_tvDefects->currentIndex(), QAbstractItemView::PositionAtCenter);
 }
 
-void KalMainWindow::on_actionAddDefect_triggered()
+void KalMainWindow::slotAddDefect()
 {
     slotDefectTableAddButtonClicked();
 }
@@ -437,29 +225,37 @@ void KalMainWindow::on_actionAddDefect_triggered()
 void KalMainWindow::slotDefectTableAddButtonClicked()
 {
     const qint64 id = addDefect();
-    if (id > 0)
-        openDefectEditor(id);
+    if (id <= 0 || openDefectEditor(id))
+        return;
+    // Cancelling the editor of a new defect takes the defect back; its id
+    // stays used.
+    if (KalSqlTableModel *model = defectModel()) {
+        model->removeRowsById({id});
+        defectRowChanged(QModelIndex(), m_tvDefects->currentIndex());
+    }
 }
 
-void KalMainWindow::openDefectEditor(qint64 id)
+bool KalMainWindow::openDefectEditor(qint64 id)
 {
     KalSqlTableModel *model = defectModel();
     if (!model)
-        return;
+        return false;
     const int row = model->findRowById(id);
     if (row < 0)
-        return;
+        return false;
+    bool accepted;
     {
         KalDefectEditor editor(m_project, row, this);
-        editor.exec();
+        accepted = editor.exec() == QDialog::Accepted;
     }
     // Sorting or the edit may have moved the row: find it again by id.
-    tvDefects->doItemsLayout();
+    m_tvDefects->doItemsLayout();
     model = defectModel();
     if (model && model->findRowById(id) >= 0) {
-        tvDefects->selectId(id, QAbstractItemView::PositionAtCenter);
-        defectRowChanged(QModelIndex(), tvDefects->currentIndex());
+        m_tvDefects->selectId(id, QAbstractItemView::PositionAtCenter);
+        defectRowChanged(QModelIndex(), m_tvDefects->currentIndex());
     }
+    return accepted;
 }
 
 void KalMainWindow::slotDefectTableCopyButtonClicked()
@@ -471,7 +267,7 @@ void KalMainWindow::slotDefectTableDeleteButtonClicked()
 {
     // The grid asked and removed the rows; the plan panel follows the new
     // current defect.
-    defectRowChanged(QModelIndex(), tvDefects->currentIndex());
+    defectRowChanged(QModelIndex(), m_tvDefects->currentIndex());
 }
 
 void KalMainWindow::slotOpenDefectEditor(const QModelIndex &index)
@@ -498,21 +294,21 @@ void KalMainWindow::openMasterData(int page)
     updateProjectHeader();
     if (KalSqlTableModel *model = defectModel())
         model->invalidateLookups();
-    tvDefects->viewport()->update();
+    m_tvDefects->viewport()->update();
     selectDefects(selected);
 }
 
-void KalMainWindow::on_actionEditProjectData_triggered()
+void KalMainWindow::slotEditProjectData()
 {
     openMasterData(KalMasterDataDialog::ProjectPage);
 }
 
-void KalMainWindow::on_actionEditCompanyTable_triggered()
+void KalMainWindow::slotEditCompanyTable()
 {
     openMasterData(KalMasterDataDialog::CompanyPage);
 }
 
-void KalMainWindow::on_actionEditCompanyFormat_triggered()
+void KalMainWindow::slotEditCompanyFormat()
 {
     openMasterData(KalMasterDataDialog::CompanyFormatPage);
 }
@@ -524,25 +320,25 @@ void KalMainWindow::importCompanies(int source)
     KalCompanyImportSelectDialog::importFrom(m_project, KalCompanyImportSelectDialog::Source(source), this);
     if (KalSqlTableModel *model = defectModel())
         model->invalidateLookups();
-    tvDefects->viewport()->update();
+    m_tvDefects->viewport()->update();
 }
 
-void KalMainWindow::on_actionImportDefectManagerCompanies_triggered()
+void KalMainWindow::slotImportDefectManagerCompanies()
 {
     importCompanies(KalCompanyImportSelectDialog::ProjectFile);
 }
 
-void KalMainWindow::on_actionImportSiteJournalCompanies_triggered()
+void KalMainWindow::slotImportSiteJournalCompanies()
 {
     importCompanies(KalCompanyImportSelectDialog::SiteJournal);
 }
 
-void KalMainWindow::on_actionImportCSVCompanies_triggered()
+void KalMainWindow::slotImportCSVCompanies()
 {
     importCompanies(KalCompanyImportSelectDialog::AddressFile);
 }
 
-void KalMainWindow::on_actionEditStatusTable_triggered()
+void KalMainWindow::slotEditStatusTable()
 {
     if (!m_project->isOpen())
         return;
@@ -572,6 +368,7 @@ void KalMainWindow::slotRestoreSelectionAfterSorting(int logicalIndex)
 
 void KalMainWindow::updateSpellCheckingAction()
 {
+    QAction *actionStartSpellChecking = action("actionStartSpellChecking");
     KalSpellChecker *checker = KalSpellChecker::instance();
     const bool active = checker && checker->isValid() && checker->isActive();
     actionStartSpellChecking->setEnabled(checker != nullptr);
@@ -579,13 +376,13 @@ void KalMainWindow::updateSpellCheckingAction()
     actionStartSpellChecking->setToolTip(actionStartSpellChecking->text());
 }
 
-void KalMainWindow::on_actionSettingsCompleter_triggered()
+void KalMainWindow::slotSettingsCompleter()
 {
     KalCompleterDialog dialog(this);
     dialog.exec();
 }
 
-void KalMainWindow::on_actionStartSpellChecking_triggered()
+void KalMainWindow::slotStartSpellChecking()
 {
     KalSpellChecker *checker = KalSpellChecker::instance();
     const bool active = checker && checker->isValid() && checker->isActive();
@@ -613,7 +410,7 @@ bool KalMainWindow::linkSiteJournal(const QString &siteJournalPath)
     return true;
 }
 
-void KalMainWindow::on_actionSettingsLanguage_triggered()
+void KalMainWindow::slotSettingsLanguage()
 {
     KalLanguageDialog dialog(true, this);
     if (dialog.exec() == QDialog::Accepted && dialog.restartRequested())
@@ -638,19 +435,19 @@ bool KalMainWindow::restartApplication()
     return true;
 }
 
-void KalMainWindow::on_actionShortHelpImportFromSiteJournal_triggered()
+void KalMainWindow::slotShortHelpImportFromSiteJournal()
 {
     KalShortHelpDialog dialog(KalShortHelpDialog::ImportFromSiteJournal, this);
     dialog.exec();
 }
 
-void KalMainWindow::on_actionShortHelpImportFromMobile_triggered()
+void KalMainWindow::slotShortHelpImportFromMobile()
 {
     KalShortHelpDialog dialog(KalShortHelpDialog::ImportFromMobile, this);
     dialog.exec();
 }
 
-void KalMainWindow::on_actionProgramInfoDialog_triggered()
+void KalMainWindow::slotProgramInfoDialog()
 {
     KalPrompt::information(tr("Info"), QStringLiteral("Quellor Pellwick\n") +
                                            tr("Version %1").arg(QStringLiteral(PELLWICK_VERSION)));

@@ -1,4 +1,5 @@
 #include "KalCompleterDialog.h"
+#include "ui_KalCompleterDialog.h"
 
 #include "core/project/KalPrompt.h"
 #include "core/textaids/KalCompleterModel.h"
@@ -6,93 +7,35 @@
 #include "gui/textaids/KalCompleter.h"
 
 #include <QDialogButtonBox>
-#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QListView>
 #include <QPushButton>
 #include <QSettings>
 #include <QTableView>
-#include <QVBoxLayout>
-
-namespace {
-QPushButton *makeButton(QWidget *parent, const QString &name, const QString &text)
-{
-    auto *button = new QPushButton(text, parent);
-    button->setObjectName(name);
-    button->setAutoDefault(false);
-    return button;
-}
-} // namespace
 
 KalCompleterDialog::KalCompleterDialog(QWidget *parent)
     : QDialog(parent)
+    , m_ui(std::make_unique<Ui::KalCompleterDialog>())
 {
-    setObjectName(QStringLiteral("KalCompleterDialog"));
-    setWindowTitle(tr("Autovervollständigen bearbeiten"));
+    m_ui->setupUi(this);
 
     m_completers = new KalCompleterModel(this);
     m_values = new KalCompleterStringListModel(this);
+    m_ui->tvCompleters->setModel(m_completers);
+    m_ui->tvCompleters->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
+    m_ui->tvCompleters->horizontalHeader()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    m_ui->lvValues->setModel(m_values);
 
-    m_tvCompleters = new QTableView(this);
-    m_tvCompleters->setObjectName(QStringLiteral("tvCompleters"));
-    m_tvCompleters->setModel(m_completers);
-    m_tvCompleters->setSelectionBehavior(QAbstractItemView::SelectRows);
-    m_tvCompleters->setSelectionMode(QAbstractItemView::SingleSelection);
-    m_tvCompleters->verticalHeader()->hide();
-    m_tvCompleters->horizontalHeader()->setSectionResizeMode(0, QHeaderView::Stretch);
-    m_tvCompleters->horizontalHeader()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
+    connect(m_ui->pbAll, &QPushButton::clicked, this, &KalCompleterDialog::slotAllClicked);
+    connect(m_ui->pbNone, &QPushButton::clicked, this, &KalCompleterDialog::slotNoneClicked);
+    connect(m_ui->pbAddEntry, &QPushButton::clicked, this, &KalCompleterDialog::slotAddEntryClicked);
+    connect(m_ui->pbDeleteEntry, &QPushButton::clicked, this, &KalCompleterDialog::slotDeleteEntryClicked);
+    connect(m_ui->pbDeleteAll, &QPushButton::clicked, this, &KalCompleterDialog::slotDeleteAllClicked);
+    connect(m_ui->pbReset, &QPushButton::clicked, this, &KalCompleterDialog::slotResetClicked);
+    connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &KalCompleterDialog::accept);
+    connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &KalCompleterDialog::reject);
 
-    m_lvValues = new QListView(this);
-    m_lvValues->setObjectName(QStringLiteral("lvValues"));
-    m_lvValues->setModel(m_values);
-    m_lvValues->setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |
-                                QAbstractItemView::SelectedClicked);
-
-    auto *listButtons = new QHBoxLayout;
-    QPushButton *all = makeButton(this, QStringLiteral("pbAll"), tr("Alle"));
-    QPushButton *none = makeButton(this, QStringLiteral("pbNone"), tr("Keine"));
-    listButtons->addWidget(all);
-    listButtons->addWidget(none);
-    listButtons->addStretch();
-
-    auto *valueButtons = new QHBoxLayout;
-    QPushButton *add = makeButton(this, QStringLiteral("pbAddEntry"), tr("Eintrag hinzufügen"));
-    QPushButton *remove = makeButton(this, QStringLiteral("pbDeleteEntry"), tr("Eintrag löschen"));
-    QPushButton *removeAll = makeButton(this, QStringLiteral("pbDeleteAll"), tr("Alles löschen"));
-    valueButtons->addWidget(add);
-    valueButtons->addWidget(remove);
-    valueButtons->addWidget(removeAll);
-    valueButtons->addStretch();
-
-    auto *left = new QVBoxLayout;
-    left->addWidget(m_tvCompleters);
-    left->addLayout(listButtons);
-    auto *right = new QVBoxLayout;
-    right->addWidget(m_lvValues);
-    right->addLayout(valueButtons);
-    auto *lists = new QHBoxLayout;
-    lists->addLayout(left, 1);
-    lists->addLayout(right, 1);
-
-    auto *box = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    box->setObjectName(QStringLiteral("buttonBox"));
-    QPushButton *reset = makeButton(this, QStringLiteral("pbReset"), tr("Zurücksetzen"));
-    box->addButton(reset, QDialogButtonBox::ResetRole);
-
-    auto *layout = new QVBoxLayout(this);
-    layout->addLayout(lists);
-    layout->addWidget(box);
-
-    connect(all, &QPushButton::clicked, this, &KalCompleterDialog::on_pbAll_clicked);
-    connect(none, &QPushButton::clicked, this, &KalCompleterDialog::on_pbNone_clicked);
-    connect(add, &QPushButton::clicked, this, &KalCompleterDialog::on_pbAddEntry_clicked);
-    connect(remove, &QPushButton::clicked, this, &KalCompleterDialog::on_pbDeleteEntry_clicked);
-    connect(removeAll, &QPushButton::clicked, this, &KalCompleterDialog::on_pbDeleteAll_clicked);
-    connect(reset, &QPushButton::clicked, this, &KalCompleterDialog::on_pbReset_clicked);
-    connect(box, &QDialogButtonBox::accepted, this, &KalCompleterDialog::accept);
-    connect(box, &QDialogButtonBox::rejected, this, &KalCompleterDialog::reject);
-
-    connect(m_tvCompleters->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
+    connect(m_ui->tvCompleters->selectionModel(), &QItemSelectionModel::currentRowChanged, this,
             [this](const QModelIndex &current) { showValuesOf(current.isValid() ? current.row() : -1); });
     connect(m_values, &QAbstractItemModel::dataChanged, this, &KalCompleterDialog::storeValues);
     connect(m_values, &QAbstractItemModel::rowsInserted, this, &KalCompleterDialog::storeValues);
@@ -100,11 +43,23 @@ KalCompleterDialog::KalCompleterDialog(QWidget *parent)
 
     QSettings settings;
     restoreGeometry(settings.value(QStringLiteral("CompleterDialog/Geometry")).toByteArray());
-    m_tvCompleters->horizontalHeader()->restoreState(
+    m_ui->tvCompleters->horizontalHeader()->restoreState(
         settings.value(QStringLiteral("CompleterDialog/HeaderFieldsV")).toByteArray());
 
     if (m_completers->rowCount() > 0)
-        m_tvCompleters->selectRow(0);
+        m_ui->tvCompleters->selectRow(0);
+}
+
+KalCompleterDialog::~KalCompleterDialog() = default;
+
+QTableView *KalCompleterDialog::completerView() const
+{
+    return m_ui->tvCompleters;
+}
+
+QListView *KalCompleterDialog::valuesView() const
+{
+    return m_ui->lvValues;
 }
 
 bool KalCompleterDialog::selectCompleter(const QString &tableId, const QString &columnId)
@@ -112,7 +67,7 @@ bool KalCompleterDialog::selectCompleter(const QString &tableId, const QString &
     const int row = m_completers->rowOf(tableId, columnId);
     if (row < 0)
         return false;
-    m_tvCompleters->selectRow(row);
+    m_ui->tvCompleters->selectRow(row);
     showValuesOf(row);
     return true;
 }
@@ -137,17 +92,17 @@ void KalCompleterDialog::storeValues()
     m_completers->setValues(m_currentRow, m_values->stringList());
 }
 
-void KalCompleterDialog::on_pbAll_clicked()
+void KalCompleterDialog::slotAllClicked()
 {
     m_completers->setAllEnabled(true);
 }
 
-void KalCompleterDialog::on_pbNone_clicked()
+void KalCompleterDialog::slotNoneClicked()
 {
     m_completers->setAllEnabled(false);
 }
 
-void KalCompleterDialog::on_pbAddEntry_clicked()
+void KalCompleterDialog::slotAddEntryClicked()
 {
     if (m_currentRow < 0)
         return;
@@ -155,25 +110,25 @@ void KalCompleterDialog::on_pbAddEntry_clicked()
     m_values->insertRows(row, 1);
     const QModelIndex index = m_values->index(row);
     m_values->setData(index, tr("<Neuer Eintrag>"));
-    m_lvValues->setCurrentIndex(index);
-    if (m_lvValues->isVisible())
-        m_lvValues->edit(index);
+    m_ui->lvValues->setCurrentIndex(index);
+    if (m_ui->lvValues->isVisible())
+        m_ui->lvValues->edit(index);
 }
 
-void KalCompleterDialog::on_pbDeleteEntry_clicked()
+void KalCompleterDialog::slotDeleteEntryClicked()
 {
-    const QModelIndex index = m_lvValues->currentIndex();
+    const QModelIndex index = m_ui->lvValues->currentIndex();
     if (index.isValid())
         m_values->removeRows(index.row(), 1);
 }
 
-void KalCompleterDialog::on_pbDeleteAll_clicked()
+void KalCompleterDialog::slotDeleteAllClicked()
 {
     if (m_values->rowCount() > 0)
         m_values->removeRows(0, m_values->rowCount());
 }
 
-void KalCompleterDialog::on_pbReset_clicked()
+void KalCompleterDialog::slotResetClicked()
 {
     KalPrompt::Message message;
     message.icon = KalPrompt::Question;
@@ -190,7 +145,7 @@ void KalCompleterDialog::on_pbReset_clicked()
     m_completers->load();
     KalCompleter::reloadAll();
     if (row >= 0 && row < m_completers->rowCount()) {
-        m_tvCompleters->selectRow(row);
+        m_ui->tvCompleters->selectRow(row);
         showValuesOf(row);
     } else {
         showValuesOf(-1);
@@ -216,6 +171,7 @@ void KalCompleterDialog::done(int result)
 {
     QSettings settings;
     settings.setValue(QStringLiteral("CompleterDialog/Geometry"), saveGeometry());
-    settings.setValue(QStringLiteral("CompleterDialog/HeaderFieldsV"), m_tvCompleters->horizontalHeader()->saveState());
+    settings.setValue(QStringLiteral("CompleterDialog/HeaderFieldsV"),
+                      m_ui->tvCompleters->horizontalHeader()->saveState());
     QDialog::done(result);
 }

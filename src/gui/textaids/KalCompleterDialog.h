@@ -2,10 +2,16 @@
 
 #include <QDialog>
 
+#include <memory>
+
 class KalCompleterModel;
 class KalCompleterStringListModel;
 class QListView;
 class QTableView;
+
+namespace Ui {
+class KalCompleterDialog;
+}
 
 // Edits every auto-text list: which fields offer their texts and what is in
 // each list. Changes are written on OK.
@@ -14,22 +20,23 @@ class KalCompleterDialog : public QDialog
     Q_OBJECT
 public:
     explicit KalCompleterDialog(QWidget *parent = nullptr);
+    ~KalCompleterDialog() override;
 
     KalCompleterModel *completerModel() const { return m_completers; }
     KalCompleterStringListModel *valuesModel() const { return m_values; }
-    QTableView *completerView() const { return m_tvCompleters; }
-    QListView *valuesView() const { return m_lvValues; }
+    QTableView *completerView() const;
+    QListView *valuesView() const;
     // Selects the list of a field; false when it is not listed.
     bool selectCompleter(const QString &tableId, const QString &columnId);
     bool isModified() const;
 
 public slots:
-    void on_pbAll_clicked();
-    void on_pbNone_clicked();
-    void on_pbAddEntry_clicked();
-    void on_pbDeleteEntry_clicked();
-    void on_pbDeleteAll_clicked();
-    void on_pbReset_clicked();
+    void slotAllClicked();
+    void slotNoneClicked();
+    void slotAddEntryClicked();
+    void slotDeleteEntryClicked();
+    void slotDeleteAllClicked();
+    void slotResetClicked();
     void accept() override;
     void reject() override;
 
@@ -42,8 +49,7 @@ private:
 
     KalCompleterModel *m_completers;
     KalCompleterStringListModel *m_values;
-    QTableView *m_tvCompleters;
-    QListView *m_lvValues;
+    std::unique_ptr<Ui::KalCompleterDialog> m_ui;
     int m_currentRow = -1;
     bool m_loadingValues = false;
 };

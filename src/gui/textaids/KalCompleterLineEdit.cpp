@@ -15,6 +15,11 @@ KalCompleterLineEdit::KalCompleterLineEdit(QWidget *parent)
 KalCompleterLineEdit::KalCompleterLineEdit(const QString &tableId, const QString &columnId, QWidget *parent)
     : QLineEdit(parent)
 {
+    setField(tableId, columnId);
+}
+
+void KalCompleterLineEdit::setField(const QString &tableId, const QString &columnId)
+{
     const KalCompleterStore::Info info = KalCompleterStore::info(tableId, columnId);
     setKalCompleter(
         new KalCompleter(info.tableId, KalCompleterStore::LineEditKind, info.columnId, info.columnNumber, this));

@@ -24,6 +24,11 @@ KalCompleterTextEdit::KalCompleterTextEdit(QWidget *parent)
 KalCompleterTextEdit::KalCompleterTextEdit(const QString &tableId, const QString &columnId, QWidget *parent)
     : KalCompleterTextEdit(parent)
 {
+    setField(tableId, columnId);
+}
+
+void KalCompleterTextEdit::setField(const QString &tableId, const QString &columnId)
+{
     const KalCompleterStore::Info info = KalCompleterStore::info(tableId, columnId);
     setKalCompleter(
         new KalCompleter(info.tableId, KalCompleterStore::TextEditKind, info.columnId, info.columnNumber, this));

@@ -21,6 +21,9 @@ public:
     // With the completer of a known field (e.g. "defect", "description").
     KalCompleterTextEdit(const QString &tableId, const QString &columnId, QWidget *parent = nullptr);
 
+    // Gives the field the completer of a known field (a form creates the
+    // widget first).
+    void setField(const QString &tableId, const QString &columnId);
     // Takes ownership; null removes the completer.
     void setKalCompleter(KalCompleter *completer);
     KalCompleter *kalCompleter() const { return m_completer; }

@@ -19,7 +19,7 @@ KalDateEdit::KalDateEdit(QWidget *parent)
     button->setObjectName(QStringLiteral("toolButtonPopup"));
     m_button = button;
     setStyleSheet(QStringLiteral("QLineEdit { padding-right: %1px; }").arg(button->reservedWidth()));
-    connect(m_button, &QToolButton::clicked, this, &KalDateEdit::on_toolButtonPopup_clicked);
+    connect(m_button, &QToolButton::clicked, this, &KalDateEdit::slotPopupButtonClicked);
 }
 
 QString KalDateEdit::calendarTitle() const
@@ -77,7 +77,7 @@ void KalDateEdit::showFormatWarning()
     KalPrompt::warning(tr("Format-Fehler"), formatWarningText());
 }
 
-void KalDateEdit::on_toolButtonPopup_clicked()
+void KalDateEdit::slotPopupButtonClicked()
 {
     if (!m_calendar) {
         m_calendar = new QCalendarWidget(this);
@@ -85,8 +85,8 @@ void KalDateEdit::on_toolButtonPopup_clicked()
         m_calendar->setWindowFlags(Qt::Window | Qt::Tool | Qt::WindowStaysOnTopHint);
         m_calendar->setGridVisible(true);
         m_calendar->setLocale(QLocale());
-        connect(m_calendar, &QCalendarWidget::clicked, this, &KalDateEdit::on_calendarWidget_clicked);
-        connect(m_calendar, &QCalendarWidget::activated, this, &KalDateEdit::on_calendarWidget_clicked);
+        connect(m_calendar, &QCalendarWidget::clicked, this, &KalDateEdit::slotCalendarClicked);
+        connect(m_calendar, &QCalendarWidget::activated, this, &KalDateEdit::slotCalendarClicked);
         m_calendar->installEventFilter(this);
     }
     m_calendar->setWindowTitle(calendarTitle());
@@ -106,7 +106,7 @@ void KalDateEdit::on_toolButtonPopup_clicked()
     m_calendar->activateWindow();
 }
 
-void KalDateEdit::on_calendarWidget_clicked(const QDate &date)
+void KalDateEdit::slotCalendarClicked(const QDate &date)
 {
     setDate(date);
     if (m_calendar)

@@ -29,8 +29,8 @@ public:
     static QString formatWarningText();
 
 public slots:
-    void on_toolButtonPopup_clicked();
-    void on_calendarWidget_clicked(const QDate &date);
+    void slotPopupButtonClicked();
+    void slotCalendarClicked(const QDate &date);
     void showFormatWarning();
 
 protected:

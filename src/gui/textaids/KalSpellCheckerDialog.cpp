@@ -60,11 +60,11 @@ KalSpellCheckerDialog::KalSpellCheckerDialog(KalSpellChecker *checker, QTextEdit
     QPushButton *cancel = addButton(this, buttons, QStringLiteral("pbCancel"), tr("Abbrechen"));
     grid->addLayout(buttons, 0, 1, 6, 1);
 
-    connect(ignore, &QPushButton::clicked, this, &KalSpellCheckerDialog::on_pbIgnore_clicked);
-    connect(ignoreAll, &QPushButton::clicked, this, &KalSpellCheckerDialog::on_pbIgnoreAll_clicked);
-    connect(change, &QPushButton::clicked, this, &KalSpellCheckerDialog::on_pbChange_clicked);
-    connect(changeAll, &QPushButton::clicked, this, &KalSpellCheckerDialog::on_pbChangeAll_clicked);
-    connect(add, &QPushButton::clicked, this, &KalSpellCheckerDialog::on_pbAddToDict_clicked);
+    connect(ignore, &QPushButton::clicked, this, &KalSpellCheckerDialog::slotIgnoreClicked);
+    connect(ignoreAll, &QPushButton::clicked, this, &KalSpellCheckerDialog::slotIgnoreAllClicked);
+    connect(change, &QPushButton::clicked, this, &KalSpellCheckerDialog::slotChangeClicked);
+    connect(changeAll, &QPushButton::clicked, this, &KalSpellCheckerDialog::slotChangeAllClicked);
+    connect(add, &QPushButton::clicked, this, &KalSpellCheckerDialog::slotAddToDictClicked);
     connect(cancel, &QPushButton::clicked, this, &KalSpellCheckerDialog::reject);
 }
 
@@ -153,14 +153,14 @@ bool KalSpellCheckerDialog::fieldGone()
     return true;
 }
 
-void KalSpellCheckerDialog::on_pbIgnore_clicked()
+void KalSpellCheckerDialog::slotIgnoreClicked()
 {
     if (fieldGone())
         return;
     goOn(m_wordStart + m_word.size());
 }
 
-void KalSpellCheckerDialog::on_pbIgnoreAll_clicked()
+void KalSpellCheckerDialog::slotIgnoreAllClicked()
 {
     if (fieldGone())
         return;
@@ -168,7 +168,7 @@ void KalSpellCheckerDialog::on_pbIgnoreAll_clicked()
     goOn(m_wordStart + m_word.size());
 }
 
-void KalSpellCheckerDialog::on_pbChange_clicked()
+void KalSpellCheckerDialog::slotChangeClicked()
 {
     if (fieldGone())
         return;
@@ -180,7 +180,7 @@ void KalSpellCheckerDialog::on_pbChange_clicked()
     goOn(m_wordStart + replacement.size());
 }
 
-void KalSpellCheckerDialog::on_pbChangeAll_clicked()
+void KalSpellCheckerDialog::slotChangeAllClicked()
 {
     if (fieldGone())
         return;
@@ -207,7 +207,7 @@ void KalSpellCheckerDialog::on_pbChangeAll_clicked()
     goOn(m_wordStart + shiftBefore + replacement.size());
 }
 
-void KalSpellCheckerDialog::on_pbAddToDict_clicked()
+void KalSpellCheckerDialog::slotAddToDictClicked()
 {
     if (fieldGone())
         return;

@@ -29,11 +29,11 @@ public:
     int foundCount() const { return m_found; }
 
 public slots:
-    void on_pbIgnore_clicked();
-    void on_pbIgnoreAll_clicked();
-    void on_pbChange_clicked();
-    void on_pbChangeAll_clicked();
-    void on_pbAddToDict_clicked();
+    void slotIgnoreClicked();
+    void slotIgnoreAllClicked();
+    void slotChangeClicked();
+    void slotChangeAllClicked();
+    void slotAddToDictClicked();
     void reject() override;
 
 protected:

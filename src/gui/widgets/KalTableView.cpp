@@ -335,13 +335,25 @@ bool KalTableView::deleteSelectedRows()
     if (rows.isEmpty())
         return false;
 
+    // Every selected row goes, so the question names how many when there
+    // are several.
+    const bool several = rows.size() > 1;
     bool yes;
-    if (m_sqlModel->tableName() == QLatin1String("status"))
-        yes = KalPrompt::yesNo(tr("Status löschen"),
-                               tr("Wenn Sie einen Status löschen, der bereits Mängeln zugeordnet ist, verlieren diese "
-                                  "Mängel ihren Status!\nSoll der gewählte Status tatsächlich gelöscht werden?"));
-    else
+    const int n = rows.size();
+    if (m_sqlModel->tableName() == QLatin1String("status")) {
+        yes = KalPrompt::yesNo(
+            tr("Status löschen"),
+            several ? tr("Wenn Sie einen Status löschen, der bereits Mängeln zugeordnet ist, verlieren diese Mängel "
+                         "ihren Status!\nSollen die %1 gewählten Status tatsächlich gelöscht werden?")
+                          .arg(n)
+                    : tr("Wenn Sie einen Status löschen, der bereits Mängeln zugeordnet ist, verlieren diese Mängel "
+                         "ihren Status!\nSoll der gewählte Status tatsächlich gelöscht werden?"));
+    } else if (several) {
+        yes = KalPrompt::yesNo(tr("Einträge entfernen"),
+                               tr("Sollen die %1 gewählten Einträge tatsächlich entfernt werden?").arg(n));
+    } else {
         yes = KalPrompt::yesNo(tr("Eintrag entfernen"), tr("Soll der gewählte Eintrag tatsächlich entfernt werden?"));
+    }
     if (!yes)
         return false;
 

@@ -94,7 +94,7 @@ void TstMasterData::projectDataModified()
         KalMasterDataDialog dialog(m_fx.project());
         if (!field.isEmpty())
             dialog.findChild<QLineEdit *>(field)->setText(text);
-        dialog.on_pbOk_clicked();
+        dialog.slotOkClicked();
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
     }
     QCOMPARE(m_fx.scalar(QStringLiteral("SELECT project_data_modified FROM kal")).toInt(), flag);
@@ -116,7 +116,7 @@ void TstMasterData::cancelReverts()
         companies->setData(companies->index(row, companies->fieldIndex(QStringLiteral("company"))),
                            QStringLiteral("Umbenannt"));
         QCOMPARE(companies->rowCount(), 2);
-        dialog.on_pbCancel_clicked();
+        dialog.slotCancelClicked();
         QCOMPARE(dialog.result(), int(QDialog::Rejected));
     }
     QCOMPARE(companies->rowCount(), 1);
@@ -192,7 +192,7 @@ void TstMasterData::headerReminder()
         emit headerLeft->editingFinished();
         QCOMPARE(m_prompt->shown().size(), 1);
     }
-    dialog.on_pbCancel_clicked();
+    dialog.slotCancelClicked();
 }
 
 void TstMasterData::addCompany()
@@ -209,7 +209,7 @@ void TstMasterData::addCompany()
         QCOMPARE(dialog.companyView()->selectedIds(), QList<qint64>{counter + 1});
         // Not written before OK.
         QCOMPARE(m_fx.scalar(QStringLiteral("SELECT COUNT(*) FROM company")).toInt(), 1);
-        dialog.on_pbOk_clicked();
+        dialog.slotOkClicked();
     }
     QSqlQuery q(m_fx.project()->database());
     QVERIFY(q.exec(QStringLiteral("SELECT id, pos, modified, company, type, email FROM company ORDER BY pos")));
@@ -252,14 +252,14 @@ void TstMasterData::outputFormat()
                  m_fx.model(QStringLiteral("company"))->record(m_fx.model(QStringLiteral("company"))->findRowById(id))),
              QStringLiteral("Beta Elektro"));
 
-    dialog.on_pbCompaniesOutputFormatDefaults_clicked();
+    dialog.slotCompaniesOutputFormatDefaultsClicked();
     QCOMPARE(field1->currentIndex(), 0);
     QVERIFY(brackets3->isChecked());
     QCOMPARE(example->text(), QStringLiteral("Mustermann & Söhne  (Architekt)"));
     QCOMPARE(KalSqlTableModel::companyText(
                  m_fx.model(QStringLiteral("company"))->record(m_fx.model(QStringLiteral("company"))->findRowById(id))),
              QStringLiteral("Beta Elektro  (Elektriker)"));
-    dialog.on_pbCancel_clicked();
+    dialog.slotCancelClicked();
 }
 
 void TstMasterData::quickCompanyDialog()

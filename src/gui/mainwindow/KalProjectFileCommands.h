@@ -1,0 +1,49 @@
+#pragma once
+
+#include <QObject>
+
+class KalProject;
+class KalRecentFiles;
+class QWidget;
+
+// The commands on the project file the main window offers: the question
+// before a project is given up, save, save as, new, open, close and
+// compacting. Every message and file dialog has the window as parent.
+class KalProjectFileCommands : public QObject
+{
+    Q_OBJECT
+
+public:
+    enum MaybeSaveResult { GoOn = 0, Cancelled = 1, Failed = 2 };
+
+    KalProjectFileCommands(KalProject *project, KalRecentFiles *recentFiles, QWidget *dialogParent);
+
+    // Asks before the open project is given up; see MaybeSaveResult.
+    int maybeSave(bool saveAs, bool explicitRequest);
+    bool newProject();
+    // Closes the open project (with the save question) and opens `path`.
+    bool openProject(const QString &path);
+    // Asks for a project file and opens it.
+    void openChosenProject();
+    bool closeProject(bool ask);
+    // Creates a project, saves it at once under `path`.
+    bool createProjectAt(const QString &path);
+    // Saves first where needed, then compacts the project file.
+    void compactDatabase();
+
+signals:
+    // The project's file or open state may have changed (window title).
+    void projectStateChanged();
+    // Saving and compacting rebuild the models; views keep their place.
+    void modelsAboutToBeRebuilt();
+    void modelsRebuilt();
+
+private:
+    int saveCurrent(bool askForName);
+    bool projectIsReadOnly() const;
+    QString askSaveFileName(const QString &title);
+
+    KalProject *m_project;
+    KalRecentFiles *m_recentFiles;
+    QWidget *m_dialogParent;
+};
