@@ -10,118 +10,28 @@ namespace {
 
 using R = KalCompanyRecord;
 
+QSet<QString> wordSet(const char *words)
+{
+    const QStringList list = QString::fromLatin1(words).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+    return QSet<QString>(list.begin(), list.end());
+}
+
 // Words that make a column something the company list has no field for
 // (a title, a country, a birthday, a display name, a pager ...), whatever
 // else its caption says.
 const QSet<QString> &ignoredWords()
 {
-    static const QSet<QString> words = {"anrede",
-                                        "titel",
-                                        "title",
-                                        "jobtitle",
-                                        "position",
-                                        "suffix",
-                                        "prefix",
-                                        "initials",
-                                        "initialen",
-                                        "abteilung",
-                                        "department",
-                                        "display",
-                                        "displayname",
-                                        "angezeigter",
-                                        "anzeigename",
-                                        "screen",
-                                        "nick",
-                                        "nickname",
-                                        "spitzname",
-                                        "short",
-                                        "maiden",
-                                        "yomi",
-                                        "phonetic",
-                                        "middlename",
-                                        "typ",
-                                        "type",
-                                        "label",
-                                        "formatted",
-                                        "country",
-                                        "land",
-                                        "region",
-                                        "state",
-                                        "bundesland",
-                                        "kanton",
-                                        "province",
-                                        "provinz",
-                                        "pobox",
-                                        "postfach",
-                                        "pager",
-                                        "web",
-                                        "webseite",
-                                        "webpage",
-                                        "website",
-                                        "homepage",
-                                        "url",
-                                        "internet",
-                                        "im",
-                                        "messenger",
-                                        "birthday",
-                                        "geburtstag",
-                                        "geburtsjahr",
-                                        "geburtsmonat",
-                                        "anniversary",
-                                        "jahrestag",
-                                        "gender",
-                                        "geschlecht",
-                                        "notes",
-                                        "notizen",
-                                        "assistant",
-                                        "assistants",
-                                        "assistent",
-                                        "assistentin",
-                                        "manager",
-                                        "managers",
-                                        "vorgesetzten",
-                                        "spouse",
-                                        "partner",
-                                        "children",
-                                        "kinder",
-                                        "callback",
-                                        "rueckmeldung",
-                                        "tty",
-                                        "tdd",
-                                        "radio",
-                                        "telex",
-                                        "isdn",
-                                        "account",
-                                        "konto",
-                                        "billing",
-                                        "user",
-                                        "benutzer",
-                                        "benutzerdef",
-                                        "custom",
-                                        "language",
-                                        "sprache",
-                                        "priority",
-                                        "prioritaet",
-                                        "sensitivity",
-                                        "vertraulichkeit",
-                                        "photo",
-                                        "group",
-                                        "membership",
-                                        "symbol",
-                                        "job",
-                                        "description",
-                                        "relation",
-                                        "event",
-                                        "location",
-                                        "referred",
-                                        "hoerbehinderte",
-                                        "id",
-                                        "directory",
-                                        "mileage",
-                                        "hobby",
-                                        "subject",
-                                        "occupation",
-                                        "arbeitstitel"};
+    static const QSet<QString> words =
+        wordSet("anrede titel title jobtitle position suffix prefix initials initialen abteilung department display "
+                "displayname angezeigter anzeigename screen nick nickname spitzname short maiden yomi phonetic "
+                "middlename typ type label formatted country land region state bundesland kanton province provinz "
+                "pobox postfach pager web webseite webpage website homepage url internet im messenger birthday "
+                "geburtstag geburtsjahr geburtsmonat anniversary jahrestag gender geschlecht notes notizen assistant "
+                "assistants assistent assistentin manager managers vorgesetzten spouse partner children kinder "
+                "callback rueckmeldung tty tdd radio telex isdn account konto billing user benutzer benutzerdef "
+                "custom language sprache priority prioritaet sensitivity vertraulichkeit photo group membership "
+                "symbol job description relation event location referred hoerbehinderte id directory mileage hobby "
+                "subject occupation arbeitstitel");
     return words;
 }
 
@@ -132,29 +42,26 @@ const QHash<QString, int> &kindWords()
 {
     static const QHash<QString, int> table = [] {
         QHash<QString, int> t;
-        const auto add = [&t](int kind, std::initializer_list<const char *> words) {
-            for (const char *word : words)
-                t.insert(QLatin1String(word), kind);
+        const auto add = [&t](int kind, const char *words) {
+            for (const QString &word : wordSet(words))
+                t.insert(word, kind);
         };
-        add(R::Email, {"email", "mail", "emailadresse", "mailadresse", "eml"});
-        add(R::Mobile, {"mobil", "mobile", "mobiltelefon", "mobilnummer", "mobilfunk", "handy", "handynummer", "cell",
-                        "cellphone", "natel"});
-        add(R::Telefax, {"fax", "telefax", "faxnummer", "faxnr", "telefaxnummer"});
-        add(R::Telephone, {"telefon", "tel", "telnr", "telefonnummer", "fon", "festnetz", "phone", "telephone",
-                           "haupttelefon", "rufnummer"});
-        add(R::City, {"ort", "stadt", "city", "town", "wohnort", "ortschaft", "gemeinde", "plzort"});
-        add(R::Plz, {"plz", "postleitzahl", "zip", "zipcode", "postalcode", "postcode"});
-        add(R::Street, {"strasse", "str", "street", "anschrift", "adresse", "address", "hausanschrift", "streetaddress",
-                        "adresszusatz"});
-        add(KalAddressCaption::HouseNumber, {"hausnummer", "hausnr", "hnr", "housenumber"});
-        add(R::Type, {"gewerk", "gewerke", "gewerkbezeichnung", "branche", "beruf", "taetigkeit", "fachgebiet",
-                      "leistung", "kategorie", "trade", "category", "industry", "profession"});
-        add(R::FirstName, {"vorname", "vname", "rufname", "firstname", "givenname", "forename"});
-        add(R::LastName, {"nachname", "nname", "familienname", "zuname", "lastname", "surname", "familyname"});
-        add(R::Company, {"firma", "firmenname", "firmierung", "unternehmen", "betrieb", "company", "companyname",
-                         "organisation", "organization", "organisationsname", "name1"});
+        add(R::Email, "email mail emailadresse mailadresse eml");
+        add(R::Mobile, "mobil mobile mobiltelefon mobilnummer mobilfunk handy handynummer cell cellphone natel");
+        add(R::Telefax, "fax telefax faxnummer faxnr telefaxnummer");
+        add(R::Telephone, "telefon tel telnr telefonnummer fon festnetz phone telephone haupttelefon rufnummer");
+        add(R::City, "ort stadt city town wohnort ortschaft gemeinde plzort");
+        add(R::Plz, "plz postleitzahl zip zipcode postalcode postcode");
+        add(R::Street, "strasse str street anschrift adresse address hausanschrift streetaddress adresszusatz");
+        add(KalAddressCaption::HouseNumber, "hausnummer hausnr hnr housenumber");
+        add(R::Type, "gewerk gewerke gewerkbezeichnung branche beruf taetigkeit fachgebiet leistung kategorie trade "
+                     "category industry profession");
+        add(R::FirstName, "vorname vname rufname firstname givenname forename");
+        add(R::LastName, "nachname nname familienname zuname lastname surname familyname");
+        add(R::Company, "firma firmenname firmierung unternehmen betrieb company companyname organisation organization "
+                        "organisationsname name1");
         add(KalAddressCaption::FullName,
-            {"fullname", "ansprechpartner", "kontaktperson", "kontakt", "contact", "contactperson", "kontaktname"});
+            "fullname ansprechpartner kontaktperson kontakt contact contactperson kontaktname");
         return t;
     }();
     return table;
@@ -180,27 +87,27 @@ const QVector<int> &kindOrder()
 
 const QSet<QString> &businessWords()
 {
-    static const QSet<QString> words = {"geschaeftlich", "dienstlich", "business",  "work",     "buero",
-                                        "arbeit",        "office",     "beruflich", "geschaeft"};
+    static const QSet<QString> words =
+        wordSet("geschaeftlich dienstlich business work buero arbeit office beruflich geschaeft");
     return words;
 }
 
 const QSet<QString> &companyWords()
 {
-    static const QSet<QString> words = {"firma", "company", "organisation", "organization", "unternehmen"};
+    static const QSet<QString> words = wordSet("firma company organisation organization unternehmen");
     return words;
 }
 
 const QSet<QString> &privateWords()
 {
-    static const QSet<QString> words = {"privat", "private", "home", "personal", "persoenlich", "heim", "zuhause"};
+    static const QSet<QString> words = wordSet("privat private home personal persoenlich heim zuhause");
     return words;
 }
 
 const QSet<QString> &otherWords()
 {
-    static const QSet<QString> words = {"weitere",   "weiterer",   "weiteres", "other", "andere",     "anderer",
-                                        "secondary", "sekundaere", "car",      "auto",  "alternative"};
+    static const QSet<QString> words =
+        wordSet("weitere weiterer weiteres other andere anderer secondary sekundaere car auto alternative");
     return words;
 }
 
@@ -222,30 +129,23 @@ int rankOf(const QStringList &words, bool companyMeansBusiness)
 // Pairs of words that name one thing together.
 const QHash<QString, QString> &compounds()
 {
-    static const QHash<QString, QString> table = {{"e mail", "email"},
-                                                  {"zip code", "zipcode"},
-                                                  {"postal code", "postalcode"},
-                                                  {"post code", "postcode"},
-                                                  {"first name", "firstname"},
-                                                  {"given name", "givenname"},
-                                                  {"last name", "lastname"},
-                                                  {"family name", "familyname"},
-                                                  {"middle name", "middlename"},
-                                                  {"additional name", "middlename"},
-                                                  {"weitere vornamen", "middlename"},
-                                                  {"zweiter vorname", "middlename"},
-                                                  {"display name", "displayname"},
-                                                  {"full name", "fullname"},
-                                                  {"house number", "housenumber"},
-                                                  {"po box", "pobox"},
-                                                  {"web page", "webpage"},
-                                                  {"job title", "jobtitle"},
-                                                  {"company name", "companyname"},
-                                                  {"contact person", "contactperson"},
-                                                  {"street address", "streetaddress"},
-                                                  {"extended address", "adresszusatz"},
-                                                  {"plz ort", "plzort"},
-                                                  {"vollstaendiger name", "fullname"}};
+    // "first name>firstname": the two words, then the one word they make.
+    static const QHash<QString, QString> table = [] {
+        QHash<QString, QString> t;
+        const QStringList pairs =
+            QString::fromLatin1(
+                "e mail>email|zip code>zipcode|postal code>postalcode|post code>postcode|first name>firstname|"
+                "given name>givenname|last name>lastname|family name>familyname|middle name>middlename|"
+                "additional name>middlename|weitere vornamen>middlename|zweiter vorname>middlename|"
+                "display name>displayname|full name>fullname|house number>housenumber|po box>pobox|web page>webpage|"
+                "job title>jobtitle|company name>companyname|contact person>contactperson|"
+                "street address>streetaddress|extended address>adresszusatz|plz ort>plzort|"
+                "vollstaendiger name>fullname")
+                .split(QLatin1Char('|'));
+        for (const QString &pair : pairs)
+            t.insert(pair.section(QLatin1Char('>'), 0, 0), pair.section(QLatin1Char('>'), 1));
+        return t;
+    }();
     return table;
 }
 

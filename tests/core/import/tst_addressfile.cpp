@@ -1,12 +1,11 @@
 // Address files as mail programs and web address books export them: which
-// column fills which company field, what a row becomes, and files that are
-// not what they claim to be.
+// column fills which company field, what a row becomes, and awkward files
+// that can still be read. (Files that cannot are refused through
+// pellwick-cli in tst_cliimport.)
 #include "core/import/KalAddressFile.h"
 #include "support/KalTestSettings.h"
 
-#include <QFile>
 #include <QSettings>
-#include <QTemporaryDir>
 #include <QTextCodec>
 #include <QtTest>
 
@@ -46,7 +45,8 @@ QStringList describe(const KalCompanyRecord &record)
     return parts;
 }
 
-// A file with the captions and one row: `values` as "caption=value".
+// A file with the captions and one row: `values` as "caption=value", or
+// "x" in every column.
 QByteArray layoutFile(const QStringList &captions, const QStringList &values = {})
 {
     QStringList row;
@@ -61,295 +61,80 @@ QByteArray layoutFile(const QStringList &captions, const QStringList &values = {
     return csvLine(captions) + csvLine(row);
 }
 
-const QStringList outlookEnglish = {"Title",
-                                    "First Name",
-                                    "Middle Name",
-                                    "Last Name",
-                                    "Suffix",
-                                    "Company",
-                                    "Department",
-                                    "Job Title",
-                                    "Business Street",
-                                    "Business Street 2",
-                                    "Business Street 3",
-                                    "Business City",
-                                    "Business State",
-                                    "Business Postal Code",
-                                    "Business Country/Region",
-                                    "Home Street",
-                                    "Home Street 2",
-                                    "Home City",
-                                    "Home State",
-                                    "Home Postal Code",
-                                    "Home Country/Region",
-                                    "Other Street",
-                                    "Other City",
-                                    "Other Postal Code",
-                                    "Assistant's Phone",
-                                    "Business Fax",
-                                    "Business Phone",
-                                    "Business Phone 2",
-                                    "Callback",
-                                    "Car Phone",
-                                    "Company Main Phone",
-                                    "Home Fax",
-                                    "Home Phone",
-                                    "Home Phone 2",
-                                    "ISDN",
-                                    "Mobile Phone",
-                                    "Other Fax",
-                                    "Other Phone",
-                                    "Pager",
-                                    "Primary Phone",
-                                    "Radio Phone",
-                                    "TTY/TDD Phone",
-                                    "Telex",
-                                    "Account",
-                                    "Anniversary",
-                                    "Assistant's Name",
-                                    "Billing Information",
-                                    "Birthday",
-                                    "Business Address PO Box",
-                                    "Categories",
-                                    "Children",
-                                    "Directory Server",
-                                    "E-mail Address",
-                                    "E-mail Type",
-                                    "E-mail Display Name",
-                                    "E-mail 2 Address",
-                                    "E-mail 2 Type",
-                                    "E-mail 2 Display Name",
-                                    "Gender",
-                                    "Government ID Number",
-                                    "Hobby",
-                                    "Initials",
-                                    "Internet Free Busy",
-                                    "Keywords",
-                                    "Language",
-                                    "Location",
-                                    "Manager's Name",
-                                    "Mileage",
-                                    "Notes",
-                                    "Office Location",
-                                    "Organizational ID Number",
-                                    "Priority",
-                                    "Private",
-                                    "Profession",
-                                    "Referred By",
-                                    "Sensitivity",
-                                    "Spouse",
-                                    "User 1",
-                                    "Web Page"};
+// The same from a caption row as an exporter writes it.
+QByteArray layoutFile(const char *captionLine, const QStringList &values = {})
+{
+    return layoutFile(QString::fromUtf8(captionLine).split(','), values);
+}
 
-const QStringList outlookGerman = {"Anrede",
-                                   "Vorname",
-                                   "Weitere Vornamen",
-                                   "Nachname",
-                                   "Suffix",
-                                   "Firma",
-                                   "Abteilung",
-                                   "Position",
-                                   "Straße geschäftlich",
-                                   "Straße geschäftlich 2",
-                                   "Straße geschäftlich 3",
-                                   "Ort geschäftlich",
-                                   "Region geschäftlich",
-                                   "Postleitzahl geschäftlich",
-                                   "Land/Region geschäftlich",
-                                   "Straße privat",
-                                   "Straße privat 2",
-                                   "Ort privat",
-                                   "Bundesland/Kanton privat",
-                                   "Postleitzahl privat",
-                                   "Land/Region privat",
-                                   "Weitere Straße",
-                                   "Weiterer Ort",
-                                   "Weitere Postleitzahl",
-                                   "Telefon Assistent",
-                                   "Fax geschäftlich",
-                                   "Telefon geschäftlich",
-                                   "Telefon geschäftlich 2",
-                                   "Rückmeldung",
-                                   "Autotelefon",
-                                   "Telefon Firma",
-                                   "Fax privat",
-                                   "Telefon privat",
-                                   "Telefon privat 2",
-                                   "ISDN",
-                                   "Mobiltelefon",
-                                   "Weiteres Fax",
-                                   "Weiteres Telefon",
-                                   "Pager",
-                                   "Haupttelefon",
-                                   "Mobiltelefon 2",
-                                   "Telefon für Hörbehinderte",
-                                   "Telex",
-                                   "Abrechnungsinformation",
-                                   "Beruf",
-                                   "Büro",
-                                   "E-Mail-Adresse",
-                                   "E-Mail-Typ",
-                                   "E-Mail: Angezeigter Name",
-                                   "E-Mail 2: Adresse",
-                                   "E-Mail 2: Typ",
-                                   "Geburtstag",
-                                   "Geschlecht",
-                                   "Initialen",
-                                   "Internet-Frei/Gebucht",
-                                   "Kategorien",
-                                   "Kinder",
-                                   "Konto",
-                                   "Name Assistent",
-                                   "Name des/der Vorgesetzten",
-                                   "Notizen",
-                                   "Organisationsnr.",
-                                   "Ort",
-                                   "Partner",
-                                   "Postfach geschäftlich",
-                                   "Priorität",
-                                   "Privat",
-                                   "Reisekilometer",
-                                   "Sprache",
-                                   "Stichwörter",
-                                   "Vertraulichkeit",
-                                   "Webseite"};
+const char *const outlookEnglish =
+    "Title,First Name,Middle Name,Last Name,Suffix,Company,Department,Job Title,Business Street,"
+    "Business Street 2,Business Street 3,Business City,Business State,Business Postal Code,"
+    "Business Country/Region,Home Street,Home Street 2,Home City,Home State,Home Postal Code,"
+    "Home Country/Region,Other Street,Other City,Other Postal Code,Assistant's Phone,Business Fax,"
+    "Business Phone,Business Phone 2,Callback,Car Phone,Company Main Phone,Home Fax,Home Phone,"
+    "Home Phone 2,ISDN,Mobile Phone,Other Fax,Other Phone,Pager,Primary Phone,Radio Phone,"
+    "TTY/TDD Phone,Telex,Account,Anniversary,Assistant's Name,Billing Information,Birthday,"
+    "Business Address PO Box,Categories,Children,Directory Server,E-mail Address,E-mail Type,"
+    "E-mail Display Name,E-mail 2 Address,E-mail 2 Type,E-mail 2 Display Name,Gender,"
+    "Government ID Number,Hobby,Initials,Internet Free Busy,Keywords,Language,Location,"
+    "Manager's Name,Mileage,Notes,Office Location,Organizational ID Number,Priority,Private,"
+    "Profession,Referred By,Sensitivity,Spouse,User 1,Web Page";
 
-const QStringList thunderbirdEnglish = {
-    "First Name", "Last Name",    "Display Name", "Nickname",     "Primary Email", "Secondary Email", "Screen Name",
-    "Work Phone", "Home Phone",   "Fax Number",   "Pager Number", "Mobile Number", "Home Address",    "Home Address 2",
-    "Home City",  "Home State",   "Home ZipCode", "Home Country", "Work Address",  "Work Address 2",  "Work City",
-    "Work State", "Work ZipCode", "Work Country", "Job Title",    "Department",    "Organization",    "Web Page 1",
-    "Web Page 2", "Birth Year",   "Birth Month",  "Birth Day",    "Custom 1",      "Custom 2",        "Notes"};
+const char *const outlookGerman =
+    "Anrede,Vorname,Weitere Vornamen,Nachname,Suffix,Firma,Abteilung,Position,Straße geschäftlich,"
+    "Straße geschäftlich 2,Straße geschäftlich 3,Ort geschäftlich,Region geschäftlich,"
+    "Postleitzahl geschäftlich,Land/Region geschäftlich,Straße privat,Straße privat 2,Ort privat,"
+    "Bundesland/Kanton privat,Postleitzahl privat,Land/Region privat,Weitere Straße,Weiterer Ort,"
+    "Weitere Postleitzahl,Telefon Assistent,Fax geschäftlich,Telefon geschäftlich,"
+    "Telefon geschäftlich 2,Rückmeldung,Autotelefon,Telefon Firma,Fax privat,Telefon privat,"
+    "Telefon privat 2,ISDN,Mobiltelefon,Weiteres Fax,Weiteres Telefon,Pager,Haupttelefon,"
+    "Mobiltelefon 2,Telefon für Hörbehinderte,Telex,Abrechnungsinformation,Beruf,Büro,"
+    "E-Mail-Adresse,E-Mail-Typ,E-Mail: Angezeigter Name,E-Mail 2: Adresse,E-Mail 2: Typ,Geburtstag,"
+    "Geschlecht,Initialen,Internet-Frei/Gebucht,Kategorien,Kinder,Konto,Name Assistent,"
+    "Name des/der Vorgesetzten,Notizen,Organisationsnr.,Ort,Partner,Postfach geschäftlich,Priorität,"
+    "Privat,Reisekilometer,Sprache,Stichwörter,Vertraulichkeit,Webseite";
 
-const QStringList thunderbirdGerman = {"Vorname",
-                                       "Nachname",
-                                       "Anzeigename",
-                                       "Spitzname",
-                                       "Primäre E-Mail-Adresse",
-                                       "Sekundäre E-Mail-Adresse",
-                                       "Messenger-Name",
-                                       "Tel. dienstlich",
-                                       "Tel. privat",
-                                       "Fax-Nummer",
-                                       "Pager-Nummer",
-                                       "Mobil-Tel.-Nr.",
-                                       "Privat: Adresse",
-                                       "Privat: Adresse 2",
-                                       "Privat: Ort",
-                                       "Privat: Bundesland",
-                                       "Privat: PLZ",
-                                       "Privat: Land",
-                                       "Dienstlich: Adresse",
-                                       "Dienstlich: Adresse 2",
-                                       "Dienstlich: Ort",
-                                       "Dienstlich: Bundesland",
-                                       "Dienstlich: PLZ",
-                                       "Dienstlich: Land",
-                                       "Arbeitstitel",
-                                       "Abteilung",
-                                       "Organisation",
-                                       "Webseite 1",
-                                       "Webseite 2",
-                                       "Geburtsjahr",
-                                       "Geburtsmonat",
-                                       "Geburtstag",
-                                       "Benutzerdef. 1",
-                                       "Benutzerdef. 2",
-                                       "Notizen"};
+const char *const thunderbirdEnglish =
+    "First Name,Last Name,Display Name,Nickname,Primary Email,Secondary Email,Screen Name,"
+    "Work Phone,Home Phone,Fax Number,Pager Number,Mobile Number,Home Address,Home Address 2,"
+    "Home City,Home State,Home ZipCode,Home Country,Work Address,Work Address 2,Work City,"
+    "Work State,Work ZipCode,Work Country,Job Title,Department,Organization,Web Page 1,Web Page 2,"
+    "Birth Year,Birth Month,Birth Day,Custom 1,Custom 2,Notes";
 
-const QStringList googleContacts = {"Name",
-                                    "Given Name",
-                                    "Additional Name",
-                                    "Family Name",
-                                    "Yomi Name",
-                                    "Given Name Yomi",
-                                    "Name Prefix",
-                                    "Name Suffix",
-                                    "Initials",
-                                    "Nickname",
-                                    "Short Name",
-                                    "Maiden Name",
-                                    "Birthday",
-                                    "Gender",
-                                    "Location",
-                                    "Billing Information",
-                                    "Directory Server",
-                                    "Mileage",
-                                    "Occupation",
-                                    "Hobby",
-                                    "Sensitivity",
-                                    "Priority",
-                                    "Subject",
-                                    "Notes",
-                                    "Language",
-                                    "Photo",
-                                    "Group Membership",
-                                    "E-mail 1 - Type",
-                                    "E-mail 1 - Value",
-                                    "E-mail 2 - Type",
-                                    "E-mail 2 - Value",
-                                    "Phone 1 - Type",
-                                    "Phone 1 - Value",
-                                    "Phone 2 - Type",
-                                    "Phone 2 - Value",
-                                    "Address 1 - Type",
-                                    "Address 1 - Formatted",
-                                    "Address 1 - Street",
-                                    "Address 1 - City",
-                                    "Address 1 - PO Box",
-                                    "Address 1 - Region",
-                                    "Address 1 - Postal Code",
-                                    "Address 1 - Country",
-                                    "Address 1 - Extended Address",
-                                    "Organization 1 - Type",
-                                    "Organization 1 - Name",
-                                    "Organization 1 - Yomi Name",
-                                    "Organization 1 - Title",
-                                    "Organization 1 - Department",
-                                    "Organization 1 - Symbol",
-                                    "Organization 1 - Location",
-                                    "Organization 1 - Job Description",
-                                    "Website 1 - Type",
-                                    "Website 1 - Value"};
+const char *const thunderbirdGerman =
+    "Vorname,Nachname,Anzeigename,Spitzname,Primäre E-Mail-Adresse,Sekundäre E-Mail-Adresse,"
+    "Messenger-Name,Tel. dienstlich,Tel. privat,Fax-Nummer,Pager-Nummer,Mobil-Tel.-Nr.,"
+    "Privat: Adresse,Privat: Adresse 2,Privat: Ort,Privat: Bundesland,Privat: PLZ,Privat: Land,"
+    "Dienstlich: Adresse,Dienstlich: Adresse 2,Dienstlich: Ort,Dienstlich: Bundesland,"
+    "Dienstlich: PLZ,Dienstlich: Land,Arbeitstitel,Abteilung,Organisation,Webseite 1,Webseite 2,"
+    "Geburtsjahr,Geburtsmonat,Geburtstag,Benutzerdef. 1,Benutzerdef. 2,Notizen";
 
-const QStringList googleLabels = {"First Name",
-                                  "Middle Name",
-                                  "Last Name",
-                                  "Phonetic First Name",
-                                  "Nickname",
-                                  "File As",
-                                  "Organization Name",
-                                  "Organization Title",
-                                  "Organization Department",
-                                  "Birthday",
-                                  "Notes",
-                                  "Labels",
-                                  "E-mail 1 - Label",
-                                  "E-mail 1 - Value",
-                                  "Phone 1 - Label",
-                                  "Phone 1 - Value",
-                                  "Phone 2 - Label",
-                                  "Phone 2 - Value",
-                                  "Address 1 - Label",
-                                  "Address 1 - Formatted",
-                                  "Address 1 - Street",
-                                  "Address 1 - City",
-                                  "Address 1 - PO Box",
-                                  "Address 1 - Region",
-                                  "Address 1 - Postal Code",
-                                  "Address 1 - Country",
-                                  "Address 1 - Extended Address",
-                                  "Website 1 - Label",
-                                  "Website 1 - Value"};
+const char *const googleContacts =
+    "Name,Given Name,Additional Name,Family Name,Yomi Name,Given Name Yomi,Name Prefix,Name Suffix,"
+    "Initials,Nickname,Short Name,Maiden Name,Birthday,Gender,Location,Billing Information,"
+    "Directory Server,Mileage,Occupation,Hobby,Sensitivity,Priority,Subject,Notes,Language,Photo,"
+    "Group Membership,E-mail 1 - Type,E-mail 1 - Value,E-mail 2 - Type,E-mail 2 - Value,"
+    "Phone 1 - Type,Phone 1 - Value,Phone 2 - Type,Phone 2 - Value,Address 1 - Type,"
+    "Address 1 - Formatted,Address 1 - Street,Address 1 - City,Address 1 - PO Box,"
+    "Address 1 - Region,Address 1 - Postal Code,Address 1 - Country,Address 1 - Extended Address,"
+    "Organization 1 - Type,Organization 1 - Name,Organization 1 - Yomi Name,Organization 1 - Title,"
+    "Organization 1 - Department,Organization 1 - Symbol,Organization 1 - Location,"
+    "Organization 1 - Job Description,Website 1 - Type,Website 1 - Value";
+
+const char *const googleLabels =
+    "First Name,Middle Name,Last Name,Phonetic First Name,Nickname,File As,Organization Name,"
+    "Organization Title,Organization Department,Birthday,Notes,Labels,E-mail 1 - Label,"
+    "E-mail 1 - Value,Phone 1 - Label,Phone 1 - Value,Phone 2 - Label,Phone 2 - Value,"
+    "Address 1 - Label,Address 1 - Formatted,Address 1 - Street,Address 1 - City,Address 1 - PO Box,"
+    "Address 1 - Region,Address 1 - Postal Code,Address 1 - Country,Address 1 - Extended Address,"
+    "Website 1 - Label,Website 1 - Value";
 
 } // namespace
 
 class TstAddressFile : public QObject
 {
     Q_OBJECT
-
-private:
-    QTemporaryDir m_dir;
 
 private slots:
     void initTestCase() { KalTestSettings::isolate(); }
@@ -358,123 +143,83 @@ private slots:
     void columnsOfLayouts_data()
     {
         QTest::addColumn<QByteArray>("data");
-        QTest::addColumn<QStringList>("expected");
+        QTest::addColumn<QString>("expected");
         QTest::newRow("Outlook, English")
-            << layoutFile(outlookEnglish) << QStringList{"First Name=firstname",     "Last Name=lastname",
-                                                         "Company=company",          "Business Street=street",
-                                                         "Business Street 2=street", "Business Street 3=street",
-                                                         "Business City=city",       "Business Postal Code=plz",
-                                                         "Home Street=street",       "Home Street 2=street",
-                                                         "Home City=city",           "Home Postal Code=plz",
-                                                         "Other Street=street",      "Other City=city",
-                                                         "Other Postal Code=plz",    "Business Fax=telefax",
-                                                         "Business Phone=telephone", "Business Phone 2=telephone",
-                                                         "Car Phone=telephone",      "Company Main Phone=telephone",
-                                                         "Home Fax=telefax",         "Home Phone=telephone",
-                                                         "Home Phone 2=telephone",   "Mobile Phone=mobile",
-                                                         "Other Fax=telefax",        "Other Phone=telephone",
-                                                         "Primary Phone=telephone",  "E-mail Address=email",
-                                                         "E-mail 2 Address=email",   "Profession=type"};
-        QTest::newRow("Outlook, German") << layoutFile(outlookGerman)
-                                         << QStringList{"Vorname=firstname",
-                                                        "Nachname=lastname",
-                                                        "Firma=company",
-                                                        "Straße geschäftlich=street",
-                                                        "Straße geschäftlich 2=street",
-                                                        "Straße geschäftlich 3=street",
-                                                        "Ort geschäftlich=city",
-                                                        "Postleitzahl geschäftlich=plz",
-                                                        "Straße privat=street",
-                                                        "Straße privat 2=street",
-                                                        "Ort privat=city",
-                                                        "Postleitzahl privat=plz",
-                                                        "Weitere Straße=street",
-                                                        "Weiterer Ort=city",
-                                                        "Weitere Postleitzahl=plz",
-                                                        "Fax geschäftlich=telefax",
-                                                        "Telefon geschäftlich=telephone",
-                                                        "Telefon geschäftlich 2=telephone",
-                                                        "Telefon Firma=telephone",
-                                                        "Fax privat=telefax",
-                                                        "Telefon privat=telephone",
-                                                        "Telefon privat 2=telephone",
-                                                        "Mobiltelefon=mobile",
-                                                        "Weiteres Fax=telefax",
-                                                        "Weiteres Telefon=telephone",
-                                                        "Haupttelefon=telephone",
-                                                        "Mobiltelefon 2=mobile",
-                                                        "Beruf=type",
-                                                        "E-Mail-Adresse=email",
-                                                        "E-Mail 2: Adresse=email",
-                                                        "Ort=city"};
+            << layoutFile(outlookEnglish)
+            << QString("First Name=firstname | Last Name=lastname | Company=company | Business Street=street | "
+                       "Business Street 2=street | Business Street 3=street | Business City=city | "
+                       "Business Postal Code=plz | Home Street=street | Home Street 2=street | Home City=city | "
+                       "Home Postal Code=plz | Other Street=street | Other City=city | Other Postal Code=plz | "
+                       "Business Fax=telefax | Business Phone=telephone | Business Phone 2=telephone | "
+                       "Car Phone=telephone | Company Main Phone=telephone | Home Fax=telefax | Home Phone=telephone | "
+                       "Home Phone 2=telephone | Mobile Phone=mobile | Other Fax=telefax | Other Phone=telephone | "
+                       "Primary Phone=telephone | E-mail Address=email | E-mail 2 Address=email | Profession=type");
+        QTest::newRow("Outlook, German")
+            << layoutFile(outlookGerman)
+            << QString(
+                   "Vorname=firstname | Nachname=lastname | Firma=company | Straße geschäftlich=street | "
+                   "Straße geschäftlich 2=street | Straße geschäftlich 3=street | Ort geschäftlich=city | "
+                   "Postleitzahl geschäftlich=plz | Straße privat=street | Straße privat 2=street | "
+                   "Ort privat=city | Postleitzahl privat=plz | Weitere Straße=street | Weiterer Ort=city | "
+                   "Weitere Postleitzahl=plz | Fax geschäftlich=telefax | Telefon geschäftlich=telephone | "
+                   "Telefon geschäftlich 2=telephone | Telefon Firma=telephone | Fax privat=telefax | "
+                   "Telefon privat=telephone | Telefon privat 2=telephone | Mobiltelefon=mobile | "
+                   "Weiteres Fax=telefax | Weiteres Telefon=telephone | Haupttelefon=telephone | "
+                   "Mobiltelefon 2=mobile | Beruf=type | E-Mail-Adresse=email | E-Mail 2: Adresse=email | Ort=city");
         QTest::newRow("Thunderbird, English")
             << layoutFile(thunderbirdEnglish)
-            << QStringList{"First Name=firstname",  "Last Name=lastname",    "Primary Email=email",
-                           "Secondary Email=email", "Work Phone=telephone",  "Home Phone=telephone",
-                           "Fax Number=telefax",    "Mobile Number=mobile",  "Home Address=street",
-                           "Home Address 2=street", "Home City=city",        "Home ZipCode=plz",
-                           "Work Address=street",   "Work Address 2=street", "Work City=city",
-                           "Work ZipCode=plz",      "Organization=company"};
-        QTest::newRow("Thunderbird, German") << layoutFile(thunderbirdGerman)
-                                             << QStringList{"Vorname=firstname",
-                                                            "Nachname=lastname",
-                                                            "Primäre E-Mail-Adresse=email",
-                                                            "Sekundäre E-Mail-Adresse=email",
-                                                            "Tel. dienstlich=telephone",
-                                                            "Tel. privat=telephone",
-                                                            "Fax-Nummer=telefax",
-                                                            "Mobil-Tel.-Nr.=mobile",
-                                                            "Privat: Adresse=street",
-                                                            "Privat: Adresse 2=street",
-                                                            "Privat: Ort=city",
-                                                            "Privat: PLZ=plz",
-                                                            "Dienstlich: Adresse=street",
-                                                            "Dienstlich: Adresse 2=street",
-                                                            "Dienstlich: Ort=city",
-                                                            "Dienstlich: PLZ=plz",
-                                                            "Organisation=company"};
+            << QString("First Name=firstname | Last Name=lastname | Primary Email=email | Secondary Email=email | "
+                       "Work Phone=telephone | Home Phone=telephone | Fax Number=telefax | Mobile Number=mobile | "
+                       "Home Address=street | Home Address 2=street | Home City=city | Home ZipCode=plz | "
+                       "Work Address=street | Work Address 2=street | Work City=city | Work ZipCode=plz | "
+                       "Organization=company");
+        QTest::newRow("Thunderbird, German")
+            << layoutFile(thunderbirdGerman)
+            << QString("Vorname=firstname | Nachname=lastname | Primäre E-Mail-Adresse=email | "
+                       "Sekundäre E-Mail-Adresse=email | Tel. dienstlich=telephone | Tel. privat=telephone | "
+                       "Fax-Nummer=telefax | Mobil-Tel.-Nr.=mobile | Privat: Adresse=street | "
+                       "Privat: Adresse 2=street | Privat: Ort=city | Privat: PLZ=plz | Dienstlich: Adresse=street | "
+                       "Dienstlich: Adresse 2=street | Dienstlich: Ort=city | Dienstlich: PLZ=plz | "
+                       "Organisation=company");
         QTest::newRow("web address book, types")
             << layoutFile(googleContacts)
-            << QStringList{"Given Name=firstname",         "Family Name=lastname",
-                           "E-mail 1 - Value=email",       "E-mail 2 - Value=email",
-                           "Phone 1 - Value=telephone",    "Phone 2 - Value=telephone",
-                           "Address 1 - Street=street",    "Address 1 - City=city",
-                           "Address 1 - Postal Code=plz",  "Address 1 - Extended Address=street",
-                           "Organization 1 - Name=company"};
+            << QString("Given Name=firstname | Family Name=lastname | E-mail 1 - Value=email | "
+                       "E-mail 2 - Value=email | Phone 1 - Value=telephone | Phone 2 - Value=telephone | "
+                       "Address 1 - Street=street | Address 1 - City=city | Address 1 - Postal Code=plz | "
+                       "Address 1 - Extended Address=street | Organization 1 - Name=company");
         QTest::newRow("web address book, labels")
             << layoutFile(googleLabels)
-            << QStringList{"First Name=firstname",        "Last Name=lastname",
-                           "Organization Name=company",   "E-mail 1 - Value=email",
-                           "Phone 1 - Value=telephone",   "Phone 2 - Value=telephone",
-                           "Address 1 - Street=street",   "Address 1 - City=city",
-                           "Address 1 - Postal Code=plz", "Address 1 - Extended Address=street"};
+            << QString("First Name=firstname | Last Name=lastname | Organization Name=company | "
+                       "E-mail 1 - Value=email | Phone 1 - Value=telephone | Phone 2 - Value=telephone | "
+                       "Address 1 - Street=street | Address 1 - City=city | Address 1 - Postal Code=plz | "
+                       "Address 1 - Extended Address=street");
         QTest::newRow("web address book, full name only")
             << layoutFile({"Name", "E-mail 1 - Type", "E-mail 1 - Value", "Phone 1 - Type", "Phone 1 - Value"})
-            << QStringList{"Name=fullname", "E-mail 1 - Value=email", "Phone 1 - Value=telephone"};
+            << QString("Name=fullname | E-mail 1 - Value=email | Phone 1 - Value=telephone");
         QTest::newRow("hand-made spreadsheet")
             << QString(
                    "Firma;Gewerk;Straße;PLZ;Ort;Telefon;Fax;Mobil;E-Mail\nRoth;Maler;Weg 1;53111;Bonn;1;2;3;a@b.de\n")
                    .toUtf8()
-            << QStringList{"Firma=company",     "Gewerk=type", "Straße=street", "PLZ=plz",     "Ort=city",
-                           "Telefon=telephone", "Fax=telefax", "Mobil=mobile",  "E-Mail=email"};
+            << QString("Firma=company | Gewerk=type | Straße=street | PLZ=plz | Ort=city | Telefon=telephone | "
+                       "Fax=telefax | Mobil=mobile | E-Mail=email");
         QTest::newRow("spreadsheet, first name beside name")
             << QByteArray("Vorname;Name;Strasse;Hausnummer\nKarl;Berg;Lindenweg;7\n")
-            << QStringList{"Vorname=firstname", "Name=lastname", "Strasse=street", "Hausnummer=street"};
+            << QString("Vorname=firstname | Name=lastname | Strasse=street | Hausnummer=street");
         QTest::newRow("no caption row")
             << QByteArray("Roth GmbH;Hauptstr. 12;53111;Bonn;0228 123456;0171 2345678;info@roth.de\n"
                           "Kaya Fliesen;Am Markt 3a;50667;K\xC3\xB6ln;0221 98765;0160 111222;kaya@example.org\n")
-            << QStringList{"Spalte 1=company",   "Spalte 2=street", "Spalte 3=plz",  "Spalte 4=city",
-                           "Spalte 5=telephone", "Spalte 6=mobile", "Spalte 7=email"};
+            << QString("Spalte 1=company | Spalte 2=street | Spalte 3=plz | Spalte 4=city | Spalte 5=telephone | "
+                       "Spalte 6=mobile | Spalte 7=email");
     }
 
     void columnsOfLayouts()
     {
         QFETCH(QByteArray, data);
-        QFETCH(QStringList, expected);
+        QFETCH(QString, expected);
         KalAddressFile file;
         QString error;
         QVERIFY2(file.loadData(data, &error), qPrintable(error));
-        QCOMPARE(mappingOf(file), expected);
+        QCOMPARE(mappingOf(file).join(" | "), expected);
     }
 
     void recordsOfLayouts_data()
@@ -572,42 +317,6 @@ private slots:
         KalAddressFile third;
         QVERIFY(third.loadData(first, &error));
         QCOMPARE(mappingOf(third), QStringList{"Ort=city"});
-    }
-
-    void hostileFiles_data()
-    {
-        QTest::addColumn<QByteArray>("data");
-        QTest::addColumn<QString>("reason");
-        QByteArray junk;
-        for (int i = 0; i < 4000; ++i)
-            junk += char((i * 7919 + 13) % 256);
-        QTest::newRow("caption row only") << QByteArray("Firma;Ort;Telefon\r\n") << "nur Spaltenüberschriften";
-        QTest::newRow("binary") << junk << "keine Textdatei";
-        QTest::newRow("quote never closed")
-            << QByteArray("Firma;Ort\nRoth;Bonn\n\"Kaya;K\xC3\xB6ln\nBerg;Trier\n") << "Zeile 3";
-    }
-
-    void hostileFiles()
-    {
-        QFETCH(QByteArray, data);
-        QFETCH(QString, reason);
-        KalAddressFile file;
-        QString error;
-        QVERIFY(!file.loadData(data, &error));
-        QVERIFY2(error.contains(reason), qPrintable(error));
-    }
-
-    void oversizedFileIsRefusedUnread()
-    {
-        const QString path = m_dir.filePath("gross.csv");
-        QFile big(path);
-        QVERIFY(big.open(QIODevice::WriteOnly));
-        QVERIFY(big.resize(50 * 1024 * 1024));
-        big.close();
-        KalAddressFile file;
-        QString error;
-        QVERIFY(!file.load(path, &error));
-        QVERIFY2(error.contains("50 MB") && error.contains("gross.csv"), qPrintable(error));
     }
 
     void awkwardButReadable_data()
