@@ -8,6 +8,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QSet>
 #include <cstdio>
 
 namespace {
@@ -108,8 +109,10 @@ QString parse(const QStringList &args, Options *options)
     return QString();
 }
 
-void printPlan(const KalAddressFile &file, const QVector<KalCompanyRecord> &companies, const QVector<int> &duplicates)
+void printPlan(const KalAddressFile &file, const QVector<KalCompanyRecord> &companies,
+               const QVector<int> &duplicateList)
 {
+    const QSet<int> duplicates(duplicateList.begin(), duplicateList.end());
     out(QStringLiteral("Separator: %1").arg(separatorName(file.separator())));
     out(QStringLiteral("Encoding:  %1").arg(encodingName(file.encoding())));
     out(QStringLiteral("Header:    %1").arg(file.hasHeader() ? QStringLiteral("yes") : QStringLiteral("no")));

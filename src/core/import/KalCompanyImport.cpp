@@ -278,7 +278,9 @@ KalCompanyImport::Result KalCompanyImport::insertCompanies(KalProject &project,
     }
 
     QVector<KalCompanyRecord> toInsert;
-    QVector<int> duplicateIndexes = findDuplicates(project, companies);
+    const QVector<int> duplicateList = findDuplicates(project, companies);
+    // Address books run to tens of thousands of rows: look up, do not scan.
+    const QSet<int> duplicateIndexes(duplicateList.begin(), duplicateList.end());
     for (int i = 0; i < companies.size(); ++i) {
         const KalCompanyRecord &record = companies.at(i);
         if (record.isEmpty())

@@ -10,6 +10,7 @@
 #include <QDialogButtonBox>
 #include <QIcon>
 #include <QPushButton>
+#include <QSet>
 #include <QTableWidget>
 
 namespace {
@@ -225,10 +226,11 @@ void KalCompanyImportDialog::refreshCompanies()
 void KalCompanyImportDialog::fillCompanyList()
 {
     m_filling = true;
+    const QSet<int> duplicates(m_duplicates.begin(), m_duplicates.end());
     m_ui->twCompanies->setRowCount(m_companies.size());
     for (int r = 0; r < m_companies.size(); ++r) {
         const KalCompanyRecord &c = m_companies.at(r);
-        const bool duplicate = m_duplicates.contains(r);
+        const bool duplicate = duplicates.contains(r);
         auto *check = new QTableWidgetItem;
         check->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable | Qt::ItemIsSelectable);
         // Companies the project has already are offered but not chosen.
