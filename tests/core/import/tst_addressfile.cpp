@@ -237,6 +237,12 @@ private slots:
                    "firstname=Eva", "lastname=Roth",    "company=Roth Maler GmbH", "street=Hauptstr. 12, Hinterhaus",
                    "plz=53111",     "city=Bonn",        "telephone=0228 2",        "telefax=0228 3",
                    "mobile=0171 4", "email=eva@roth.de"};
+        QTest::newRow("business wins wherever it stands")
+            << layoutFile(
+                   {"Firma", "Telefon", "Telefon geschäftlich", "Fax", "Fax dienstlich", "E-Mail privat", "E-Mail"},
+                   {"Firma=Roth", "Telefon=1", "Telefon geschäftlich=2", "Fax=3", "Fax dienstlich=4",
+                    "E-Mail privat=b@roth.de", "E-Mail=a@roth.de"})
+            << QStringList{"company=Roth", "telephone=2", "telefax=4", "email=a@roth.de"};
         QTest::newRow("only a home address: taken whole")
             << layoutFile(outlookEnglish, {"Company=Kaya Fliesen", "Home Street=Am Markt 3", "Home City=Köln",
                                            "Home Postal Code=50667", "Other City=Trier", "Home Phone=0221 9"})
