@@ -46,20 +46,24 @@ const QHash<QString, int> &kindWords()
             for (const QString &word : wordSet(words))
                 t.insert(word, kind);
         };
-        add(R::Email, "email mail emailadresse mailadresse eml");
-        add(R::Mobile, "mobil mobile mobiltelefon mobilnummer mobilfunk handy handynummer cell cellphone natel");
+        add(R::Email, "email mail emailadresse mailadresse eml correo");
+        add(R::Mobile,
+            "mobil mobile mobiltelefon mobilnummer mobilfunk handy handynummer cell cellphone natel movil celular");
         add(R::Telefax, "fax telefax faxnummer faxnr telefaxnummer");
-        add(R::Telephone, "telefon tel telnr telefonnummer fon festnetz phone telephone haupttelefon rufnummer");
-        add(R::City, "ort stadt city town wohnort ortschaft gemeinde plzort");
-        add(R::Plz, "plz postleitzahl zip zipcode postalcode postcode");
-        add(R::Street, "strasse str street anschrift adresse address hausanschrift streetaddress adresszusatz");
+        add(R::Telephone,
+            "telefon tel telnr telefonnummer fon festnetz phone telephone haupttelefon rufnummer telefono");
+        add(R::City, "ort stadt city town wohnort ortschaft gemeinde plzort ciudad localidad poblacion");
+        add(R::Plz, "plz postleitzahl zip zipcode postalcode postcode codigopostal");
+        add(R::Street,
+            "strasse str street anschrift adresse address hausanschrift streetaddress adresszusatz calle direccion "
+            "domicilio");
         add(KalAddressCaption::HouseNumber, "hausnummer hausnr hnr housenumber");
         add(R::Type, "gewerk gewerke gewerkbezeichnung branche beruf taetigkeit fachgebiet leistung kategorie trade "
                      "category industry profession");
         add(R::FirstName, "vorname vname rufname firstname givenname forename");
-        add(R::LastName, "nachname nname familienname zuname lastname surname familyname");
+        add(R::LastName, "nachname nname familienname zuname lastname surname familyname apellido apellidos");
         add(R::Company, "firma firmenname firmierung unternehmen betrieb company companyname organisation organization "
-                        "organisationsname name1");
+                        "organisationsname name1 empresa compania organizacion");
         add(KalAddressCaption::FullName,
             "fullname ansprechpartner kontaktperson kontakt contact contactperson kontaktname");
         return t;
@@ -88,7 +92,7 @@ const QVector<int> &kindOrder()
 const QSet<QString> &businessWords()
 {
     static const QSet<QString> words =
-        wordSet("geschaeftlich dienstlich business work buero arbeit office beruflich geschaeft");
+        wordSet("geschaeftlich dienstlich business work buero arbeit office beruflich geschaeft trabajo");
     return words;
 }
 
@@ -100,7 +104,7 @@ const QSet<QString> &companyWords()
 
 const QSet<QString> &privateWords()
 {
-    static const QSet<QString> words = wordSet("privat private home personal persoenlich heim zuhause");
+    static const QSet<QString> words = wordSet("privat private home personal persoenlich heim zuhause particular casa");
     return words;
 }
 
@@ -137,7 +141,8 @@ const QHash<QString, QString> &compounds()
                 "e mail>email|zip code>zipcode|postal code>postalcode|post code>postcode|first name>firstname|"
                 "given name>givenname|last name>lastname|family name>familyname|middle name>middlename|"
                 "additional name>middlename|weitere vornamen>middlename|zweiter vorname>middlename|"
-                "display name>displayname|full name>fullname|house number>housenumber|po box>pobox|web page>webpage|"
+                "display name>displayname|codigo postal>codigopostal|full name>fullname|house number>housenumber|po "
+                "box>pobox|web page>webpage|"
                 "job title>jobtitle|company name>companyname|contact person>contactperson|"
                 "street address>streetaddress|extended address>adresszusatz|plz ort>plzort|"
                 "vollstaendiger name>fullname")
@@ -206,6 +211,13 @@ QStringList KalAddressCaption::words(const QString &text)
     folded.replace(QStringLiteral("ö"), QStringLiteral("oe"));
     folded.replace(QStringLiteral("ü"), QStringLiteral("ue"));
     folded.replace(QStringLiteral("ß"), QStringLiteral("ss"));
+    // "Téléphone" -> "telephone": other accents only mark the letter.
+    QString plain;
+    for (const QChar c : folded.normalized(QString::NormalizationForm_D)) {
+        if (c.category() != QChar::Mark_NonSpacing)
+            plain += c;
+    }
+    folded = plain;
     QStringList raw;
     QString word;
     const auto flush = [&] {

@@ -196,6 +196,12 @@ private slots:
         QTest::newRow("web address book, full name only")
             << layoutFile({"Name", "E-mail 1 - Type", "E-mail 1 - Value", "Phone 1 - Type", "Phone 1 - Value"})
             << QString("Name=fullname | E-mail 1 - Value=email | Phone 1 - Value=telephone");
+        QTest::newRow("spreadsheet, Spanish with accents")
+            << QString("Empresa;Teléfono;Teléfono móvil;Dirección;Código postal;Ciudad;Correo electrónico\n"
+                       "A;1;2;3;4;5;6\n")
+                   .toUtf8()
+            << QString("Empresa=company | Teléfono=telephone | Teléfono móvil=mobile | Dirección=street | "
+                       "Código postal=plz | Ciudad=city | Correo electrónico=email");
         QTest::newRow("hand-made spreadsheet")
             << QString(
                    "Firma;Gewerk;Straße;PLZ;Ort;Telefon;Fax;Mobil;E-Mail\nRoth;Maler;Weg 1;53111;Bonn;1;2;3;a@b.de\n")
