@@ -1,5 +1,6 @@
 // pellwick-cli: project files from scripts and headless machines.
 #include "cli/KalCliExport.h"
+#include "cli/KalCliImportCompanies.h"
 #include "core/project/KalDatabaseSchema.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
@@ -35,6 +36,10 @@ const char *const kUsage =
     "  vacuum FILE.pwp              compact the project and save it\n"
     "  export-defects FILE.pwp [--output OUT.csv] [--columns compact|all]\n"
     "                               defect list as CSV (UTF-8, \";\"), to stdout without --output (read-only)\n"
+    "  import-companies FILE.pwp ADDRESSES.csv [--dry-run] [--separator C]\n"
+    "             [--encoding utf-8|windows-1252|utf-16]\n"
+    "                               add the companies of an address file, skipping those the project has;\n"
+    "                               --dry-run shows the column mapping and the records and changes nothing\n"
     "\n"
     "Options:\n"
     "  --yes        answer questions with the recommended choice (default: the safe one)\n"
@@ -380,5 +385,7 @@ int main(int argc, char **argv)
     }
     if (command == QLatin1String("export-defects"))
         return kalCliExportDefects(QStringList{file} + rest);
+    if (command == QLatin1String("import-companies"))
+        return kalCliImportCompanies(QStringList{file} + rest);
     return usageError(QStringLiteral("unknown command '%1'").arg(command));
 }

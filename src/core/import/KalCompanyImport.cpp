@@ -50,7 +50,7 @@ int s_connectionCounter = 0;
 // Reads companies from a file through its own read-only connection.
 bool readCompanies(const QString &path, const QString &sql, const QString &notOurFileText,
                    QVector<KalCompanyRecord> *companies, QString *errorText,
-                   const std::function<bool(const QMap<QString, QString> &)> &isOurFile)
+                   const std::function<bool(const QMap<QString, QString> &)> &isOurFile, bool noneIsFine = false)
 {
     const QString nativePath = QDir::toNativeSeparators(path);
     const auto fail = [errorText](const QString &text) {
@@ -102,7 +102,7 @@ bool readCompanies(const QString &path, const QString &sql, const QString &notOu
         if (!record.isEmpty())
             nonEmpty << record;
     }
-    if (nonEmpty.isEmpty())
+    if (nonEmpty.isEmpty() && !noneIsFine)
         return fail(KalCompanyImport::tr("Die Datei\n%1\nenthält keine Firmen.").arg(nativePath));
     *companies = nonEmpty;
     return true;
@@ -191,7 +191,8 @@ QString KalCompanyRecord::caption(int field)
 
 // --- reading sources --------------------------------------------------------------
 
-bool KalCompanyImport::readProjectFile(const QString &path, QVector<KalCompanyRecord> *companies, QString *errorText)
+bool KalCompanyImport::readProjectFile(const QString &path, QVector<KalCompanyRecord> *companies, QString *errorText,
+                                       bool noneIsFine)
 {
     const QString notProject =
         tr("Die Datei\n%1\nist keine Pellwick-Projektdatei.").arg(QDir::toNativeSeparators(path));
@@ -199,10 +200,12 @@ bool KalCompanyImport::readProjectFile(const QString &path, QVector<KalCompanyRe
         path,
         QStringLiteral("SELECT type, firstname, lastname, company, street, plz, city, telephone, telefax, mobile, "
                        "email FROM company ORDER BY pos, id"),
-        notProject, companies, errorText, [](const QMap<QString, QString> &tables) {
+        notProject, companies, errorText,
+        [](const QMap<QString, QString> &tables) {
             return tables.contains(QStringLiteral("defect")) && tables.contains(QStringLiteral("kal")) &&
                    hasColumns(tables, QStringLiteral("company"), {QStringLiteral("pos"), QStringLiteral("email")});
-        });
+        },
+        noneIsFine);
 }
 
 bool KalCompanyImport::readSiteJournal(const QString &path, QVector<KalCompanyRecord> *companies, QString *errorText)
@@ -222,17 +225,26 @@ bool KalCompanyImport::readSiteJournal(const QString &path, QVector<KalCompanyRe
 
 QVector<int> KalCompanyImport::findDuplicates(KalProject &project, const QVector<KalCompanyRecord> &companies)
 {
-    QSet<QString> known;
+    QVector<KalCompanyRecord> existing;
     if (KalSqlTableModel *model = project.model(QStringLiteral("company"))) {
         for (int row = 0; row < model->rowCount(); ++row)
-            known.insert(duplicateKey(recordFrom(model->record(row))));
+            existing << recordFrom(model->record(row));
     } else {
         QSqlQuery query(project.database());
         if (query.exec(QStringLiteral("SELECT * FROM company"))) {
             while (query.next())
-                known.insert(duplicateKey(recordFrom(query.record())));
+                existing << recordFrom(query.record());
         }
     }
+    return findDuplicates(existing, companies);
+}
+
+QVector<int> KalCompanyImport::findDuplicates(const QVector<KalCompanyRecord> &existing,
+                                              const QVector<KalCompanyRecord> &companies)
+{
+    QSet<QString> known;
+    for (const KalCompanyRecord &record : existing)
+        known.insert(duplicateKey(record));
     QVector<int> duplicates;
     for (int i = 0; i < companies.size(); ++i) {
         const QString key = duplicateKey(companies.at(i));
@@ -266,7 +278,9 @@ KalCompanyImport::Result KalCompanyImport::insertCompanies(KalProject &project,
     }
 
     QVector<KalCompanyRecord> toInsert;
-    QVector<int> duplicateIndexes = findDuplicates(project, companies);
+    const QVector<int> duplicateList = findDuplicates(project, companies);
+    // Address books run to tens of thousands of rows: look up, do not scan.
+    const QSet<int> duplicateIndexes(duplicateList.begin(), duplicateList.end());
     for (int i = 0; i < companies.size(); ++i) {
         const KalCompanyRecord &record = companies.at(i);
         if (record.isEmpty())

@@ -52,8 +52,10 @@ class KalCompanyImport
 
 public:
     // Companies of another project file, opened read-only, in list order.
-    // False with a reason when the file cannot be read or is no project.
-    static bool readProjectFile(const QString &path, QVector<KalCompanyRecord> *companies, QString *errorText);
+    // False with a reason when the file cannot be read or is no project, and
+    // unless `noneIsFine`, when it has no companies.
+    static bool readProjectFile(const QString &path, QVector<KalCompanyRecord> *companies, QString *errorText,
+                                bool noneIsFine = false);
 
     // Trades/contractors (category "2") of a site-journal file, opened
     // read-only, in id order. False with a reason on failure.
@@ -72,6 +74,9 @@ public:
     // Indexes into `companies` of those that duplicate a project company or
     // an earlier entry of the list.
     static QVector<int> findDuplicates(KalProject &project, const QVector<KalCompanyRecord> &companies);
+    // The same against a list of companies the project has.
+    static QVector<int> findDuplicates(const QVector<KalCompanyRecord> &existing,
+                                       const QVector<KalCompanyRecord> &companies);
 
     // Appends the companies to the project's table `company` in one
     // transaction: new ids from the id allocator, `pos` after the last,

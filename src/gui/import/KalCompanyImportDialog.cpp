@@ -1,4 +1,5 @@
 #include "KalCompanyImportDialog.h"
+#include "ui_KalCompanyImportDialog.h"
 
 #include "core/import/KalAddressFile.h"
 #include "core/project/KalProject.h"
@@ -7,15 +8,10 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialogButtonBox>
-#include <QGridLayout>
-#include <QGroupBox>
-#include <QHBoxLayout>
-#include <QHeaderView>
 #include <QIcon>
-#include <QLabel>
 #include <QPushButton>
+#include <QSet>
 #include <QTableWidget>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -24,127 +20,61 @@ const int kPreviewRows = 50;
 const QColor kDuplicateColor(255, 200, 200);
 
 enum CompanyColumn { CheckColumn = 0, NameColumn, TypeColumn, PersonColumn, CityColumn, NoteColumn, ColumnCount };
+// Rows of the preview: the field chosen per column, how it is read, then data.
+enum PreviewRow { FieldRow = 0, NoteRow, FirstDataRow };
 
 } // namespace
 
 KalCompanyImportDialog::KalCompanyImportDialog(KalProject *project, QWidget *parent)
     : QDialog(parent)
+    , m_ui(new Ui::KalCompanyImportDialog)
     , m_project(project)
 {
-    setObjectName(QStringLiteral("KalCompanyImportDialog"));
-    setWindowTitle(tr("Firmen importieren"));
+    m_ui->setupUi(this);
     setWindowIcon(QIcon(QStringLiteral(":/KalMainWindow/Resources/icon-firmen-import.ico")));
 
-    lblSource = new QLabel(this);
-    lblSource->setObjectName(QStringLiteral("lblSource"));
-    lblSource->setTextFormat(Qt::PlainText);
-    lblSource->setWordWrap(true);
+    const struct
+    {
+        QChar separator;
+        const char *text;
+    } separators[] = {{QLatin1Char(';'), QT_TR_NOOP("; (Semikolon)")},
+                      {QLatin1Char(','), QT_TR_NOOP(", (Komma)")},
+                      {QLatin1Char('\t'), QT_TR_NOOP("Tabulator")},
+                      {QLatin1Char('|'), QT_TR_NOOP("| (senkrechter Strich)")}};
+    for (const auto &separator : separators)
+        m_ui->cbxSeparator->addItem(tr(separator.text), QVariant(separator.separator));
+    m_ui->cbxEncoding->addItem(QStringLiteral("UTF-8"), int(KalAddressFile::Utf8));
+    m_ui->cbxEncoding->addItem(QStringLiteral("Windows-1252"), int(KalAddressFile::Windows1252));
+    m_ui->cbxEncoding->addItem(QStringLiteral("UTF-16"), int(KalAddressFile::Utf16));
 
-    gbAddressFile = new QGroupBox(tr("Adressdatei"), this);
-    gbAddressFile->setObjectName(QStringLiteral("gbAddressFile"));
-    cbxSeparator = new QComboBox(gbAddressFile);
-    cbxSeparator->setObjectName(QStringLiteral("cbxSeparator"));
-    for (QChar c : KalAddressFile::separators()) {
-        QString text;
-        if (c == QLatin1Char(';'))
-            text = tr("; (Semikolon)");
-        else if (c == QLatin1Char(','))
-            text = tr(", (Komma)");
-        else if (c == QLatin1Char('\t'))
-            text = tr("Tabulator");
-        else if (c == QLatin1Char('|'))
-            text = tr("| (senkrechter Strich)");
-        else
-            text = QString(c);
-        cbxSeparator->addItem(text, QVariant(c));
-    }
-    cbxEncoding = new QComboBox(gbAddressFile);
-    cbxEncoding->setObjectName(QStringLiteral("cbxEncoding"));
-    cbxEncoding->addItem(QStringLiteral("UTF-8"), int(KalAddressFile::Utf8));
-    cbxEncoding->addItem(QStringLiteral("Windows-1252"), int(KalAddressFile::Windows1252));
-    cbxEncoding->addItem(QStringLiteral("UTF-16"), int(KalAddressFile::Utf16));
-    cbHeader = new QCheckBox(tr("Erste Zeile enthält Spaltenüberschriften"), gbAddressFile);
-    cbHeader->setObjectName(QStringLiteral("cbHeader"));
-    twPreview = new QTableWidget(gbAddressFile);
-    twPreview->setObjectName(QStringLiteral("twPreview"));
-    twPreview->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    twPreview->setSelectionMode(QAbstractItemView::NoSelection);
-    auto *hint = new QLabel(tr("Ordnen Sie in der ersten Zeile jeder Spalte das passende Feld zu."), gbAddressFile);
-    hint->setWordWrap(true);
-
-    auto *fileGrid = new QGridLayout(gbAddressFile);
-    fileGrid->addWidget(new QLabel(tr("Trennzeichen:"), gbAddressFile), 0, 0);
-    fileGrid->addWidget(cbxSeparator, 0, 1);
-    fileGrid->addWidget(new QLabel(tr("Zeichensatz:"), gbAddressFile), 0, 2);
-    fileGrid->addWidget(cbxEncoding, 0, 3);
-    fileGrid->addWidget(cbHeader, 0, 4);
-    fileGrid->setColumnStretch(5, 1);
-    fileGrid->addWidget(hint, 1, 0, 1, 6);
-    fileGrid->addWidget(twPreview, 2, 0, 1, 6);
-
-    auto *listGroup = new QGroupBox(tr("Zu importierende Firmen"), this);
-    listGroup->setObjectName(QStringLiteral("gbCompanies"));
-    twCompanies = new QTableWidget(0, ColumnCount, listGroup);
-    twCompanies->setObjectName(QStringLiteral("twCompanies"));
-    twCompanies->setHorizontalHeaderLabels(
+    m_ui->twCompanies->setColumnCount(ColumnCount);
+    m_ui->twCompanies->setHorizontalHeaderLabels(
         {QString(), tr("Firma"), tr("Gewerk"), tr("Name"), tr("Stadt"), tr("Hinweis")});
-    twCompanies->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    twCompanies->setSelectionBehavior(QAbstractItemView::SelectRows);
-    twCompanies->verticalHeader()->hide();
-    twCompanies->horizontalHeader()->setStretchLastSection(true);
-    twCompanies->setColumnWidth(CheckColumn, 28);
-    twCompanies->setColumnWidth(NameColumn, 200);
-    twCompanies->setColumnWidth(TypeColumn, 140);
-    twCompanies->setColumnWidth(PersonColumn, 160);
-    twCompanies->setColumnWidth(CityColumn, 120);
-    lblDuplicates = new QLabel(listGroup);
-    lblDuplicates->setObjectName(QStringLiteral("lblDuplicates"));
-    lblDuplicates->setWordWrap(true);
-    pbCheckAll = new QPushButton(tr("Alle auswählen"), listGroup);
-    pbCheckAll->setObjectName(QStringLiteral("pbCheckAll"));
-    pbCheckNone = new QPushButton(tr("Keine auswählen"), listGroup);
-    pbCheckNone->setObjectName(QStringLiteral("pbCheckNone"));
-    for (QPushButton *b : {pbCheckAll, pbCheckNone})
-        b->setAutoDefault(false);
-    auto *checkButtons = new QHBoxLayout;
-    checkButtons->addWidget(pbCheckAll);
-    checkButtons->addWidget(pbCheckNone);
-    checkButtons->addStretch(1);
-    auto *listLayout = new QVBoxLayout(listGroup);
-    listLayout->addWidget(twCompanies, 1);
-    listLayout->addWidget(lblDuplicates);
-    listLayout->addLayout(checkButtons);
+    const int widths[] = {28, 200, 140, 160, 120};
+    for (int column = CheckColumn; column < NoteColumn; ++column)
+        m_ui->twCompanies->setColumnWidth(column, widths[column]);
 
-    auto *buttons = new QDialogButtonBox(this);
-    pbImport = buttons->addButton(tr("Importieren"), QDialogButtonBox::AcceptRole);
-    pbImport->setObjectName(QStringLiteral("pbImport"));
-    pbImport->setIcon(QIcon(QStringLiteral(":/KalMainWindow/Resources/icon-allgemein-ok.png")));
-    pbCancel = buttons->addButton(QDialogButtonBox::Cancel);
-    pbCancel->setObjectName(QStringLiteral("pbCancel"));
-    pbCancel->setIcon(QIcon(QStringLiteral(":/KalMainWindow/Resources/icon-allgemein-cancel.png")));
+    m_pbImport = m_ui->buttonBox->addButton(tr("Importieren"), QDialogButtonBox::AcceptRole);
+    m_pbImport->setObjectName(QStringLiteral("pbImport"));
+    m_pbImport->setIcon(QIcon(QStringLiteral(":/KalMainWindow/Resources/icon-allgemein-ok.png")));
+    QPushButton *cancel = m_ui->buttonBox->button(QDialogButtonBox::Cancel);
+    cancel->setObjectName(QStringLiteral("pbCancel"));
+    cancel->setIcon(QIcon(QStringLiteral(":/KalMainWindow/Resources/icon-allgemein-cancel.png")));
+    m_ui->gbAddressFile->hide();
 
-    auto *layout = new QVBoxLayout(this);
-    layout->addWidget(lblSource);
-    layout->addWidget(gbAddressFile, 1);
-    layout->addWidget(listGroup, 1);
-    layout->addWidget(buttons);
-    gbAddressFile->hide();
-
-    connect(cbxSeparator, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+    connect(m_ui->cbxSeparator, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &KalCompanyImportDialog::slotSeparatorChanged);
-    connect(cbxEncoding, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
+    connect(m_ui->cbxEncoding, QOverload<int>::of(&QComboBox::currentIndexChanged), this,
             &KalCompanyImportDialog::slotEncodingChanged);
-    connect(cbHeader, &QCheckBox::toggled, this, &KalCompanyImportDialog::slotHeaderToggled);
-    connect(pbCheckAll, &QPushButton::clicked, this, &KalCompanyImportDialog::slotCheckAll);
-    connect(pbCheckNone, &QPushButton::clicked, this, &KalCompanyImportDialog::slotCheckNone);
-    connect(buttons, &QDialogButtonBox::accepted, this, &KalCompanyImportDialog::slotImport);
-    connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
-    connect(twCompanies, &QTableWidget::itemChanged, this, [this] {
+    connect(m_ui->cbHeader, &QCheckBox::toggled, this, &KalCompanyImportDialog::slotHeaderToggled);
+    connect(m_ui->pbCheckAll, &QPushButton::clicked, this, &KalCompanyImportDialog::slotCheckAll);
+    connect(m_ui->pbCheckNone, &QPushButton::clicked, this, &KalCompanyImportDialog::slotCheckNone);
+    connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &KalCompanyImportDialog::slotImport);
+    connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &QDialog::reject);
+    connect(m_ui->twCompanies, &QTableWidget::itemChanged, this, [this] {
         if (!m_filling)
             updateImportButton();
     });
-
-    resize(860, 620);
 }
 
 KalCompanyImportDialog::~KalCompanyImportDialog() = default;
@@ -152,13 +82,13 @@ KalCompanyImportDialog::~KalCompanyImportDialog() = default;
 void KalCompanyImportDialog::setAddressFile(std::shared_ptr<KalAddressFile> file, const QString &displayPath)
 {
     m_file = std::move(file);
-    lblSource->setText(tr("Quelle: %1").arg(displayPath));
-    gbAddressFile->show();
+    m_ui->lblSource->setText(tr("Quelle: %1").arg(displayPath));
+    m_ui->gbAddressFile->show();
     m_filling = true;
-    const int separator = cbxSeparator->findData(QVariant(m_file->separator()));
-    cbxSeparator->setCurrentIndex(qMax(0, separator));
-    cbxEncoding->setCurrentIndex(qMax(0, cbxEncoding->findData(int(m_file->encoding()))));
-    cbHeader->setChecked(m_file->hasHeader());
+    const int separator = m_ui->cbxSeparator->findData(QVariant(m_file->separator()));
+    m_ui->cbxSeparator->setCurrentIndex(qMax(0, separator));
+    m_ui->cbxEncoding->setCurrentIndex(qMax(0, m_ui->cbxEncoding->findData(int(m_file->encoding()))));
+    m_ui->cbHeader->setChecked(m_file->hasHeader());
     m_filling = false;
     fillPreview();
     refreshCompanies();
@@ -167,8 +97,8 @@ void KalCompanyImportDialog::setAddressFile(std::shared_ptr<KalAddressFile> file
 void KalCompanyImportDialog::setCompanies(const QVector<KalCompanyRecord> &companies, const QString &displayPath)
 {
     m_file.reset();
-    gbAddressFile->hide();
-    lblSource->setText(tr("Quelle: %1").arg(displayPath));
+    m_ui->gbAddressFile->hide();
+    m_ui->lblSource->setText(tr("Quelle: %1").arg(displayPath));
     m_companies = companies;
     m_duplicates = KalCompanyImport::findDuplicates(*m_project, m_companies);
     fillCompanyList();
@@ -178,7 +108,7 @@ void KalCompanyImportDialog::slotSeparatorChanged(int index)
 {
     if (m_filling || !m_file || index < 0)
         return;
-    m_file->setSeparator(cbxSeparator->itemData(index).toChar());
+    m_file->setSeparator(m_ui->cbxSeparator->itemData(index).toChar());
     fillPreview();
     refreshCompanies();
 }
@@ -187,7 +117,7 @@ void KalCompanyImportDialog::slotEncodingChanged(int index)
 {
     if (m_filling || !m_file || index < 0)
         return;
-    m_file->setEncoding(KalAddressFile::Encoding(cbxEncoding->itemData(index).toInt()));
+    m_file->setEncoding(KalAddressFile::Encoding(m_ui->cbxEncoding->itemData(index).toInt()));
     fillPreview();
     refreshCompanies();
 }
@@ -216,39 +146,74 @@ void KalCompanyImportDialog::fillPreview()
         return;
     m_filling = true;
     const int columns = m_file->columnCount();
-    const QVector<QStringList> &rows = m_file->rows();
-    const int shown = qMin(rows.size(), kPreviewRows);
-    twPreview->clear();
-    twPreview->setColumnCount(columns);
-    twPreview->setRowCount(shown + 1);
-    twPreview->setHorizontalHeaderLabels(m_file->columnCaptions());
-    QStringList rowLabels{tr("Feld")};
+    const int shown = qMin(m_file->rows().size(), kPreviewRows);
+    QTableWidget *preview = m_ui->twPreview;
+    preview->clear();
+    preview->setColumnCount(columns);
+    preview->setRowCount(shown + FirstDataRow);
+    preview->setHorizontalHeaderLabels(m_file->columnCaptions());
+    QStringList rowLabels{tr("Feld"), tr("Hinweis")};
     for (int r = 1; r <= shown; ++r)
         rowLabels << QString::number(r);
-    twPreview->setVerticalHeaderLabels(rowLabels);
-
-    const QVector<int> mapping = m_file->mapping();
-    for (int c = 0; c < columns; ++c) {
-        auto *combo = new QComboBox(twPreview);
-        combo->setObjectName(QStringLiteral("cbxMapping%1").arg(c));
-        combo->addItem(tr("- ignorieren -"), -1);
-        for (int f = 0; f < KalCompanyRecord::FieldCount; ++f)
-            combo->addItem(KalCompanyRecord::caption(f), f);
-        combo->setCurrentIndex(qMax(0, combo->findData(c < mapping.size() ? mapping.at(c) : -1)));
-        connect(combo, QOverload<int>::of(&QComboBox::activated), this, [this, c, combo](int index) {
-            // Rebuilding the preview deletes this combo box: do it afterwards.
-            const int field = combo->itemData(index).toInt();
-            QMetaObject::invokeMethod(
-                this, [this, c, field] { setColumnMapping(c, field); }, Qt::QueuedConnection);
-        });
-        twPreview->setCellWidget(0, c, combo);
-        for (int r = 0; r < shown; ++r)
-            twPreview->setItem(r + 1, c, new QTableWidgetItem(rows.at(r).value(c)));
-    }
-    twPreview->resizeColumnsToContents();
+    preview->setVerticalHeaderLabels(rowLabels);
     for (int c = 0; c < columns; ++c)
-        twPreview->setColumnWidth(c, qBound(110, twPreview->columnWidth(c), 260));
+        fillPreviewColumn(c);
+    preview->resizeColumnsToContents();
+    for (int c = 0; c < columns; ++c)
+        preview->setColumnWidth(c, qBound(110, preview->columnWidth(c), 260));
+    showUnmapped();
     m_filling = false;
+}
+
+void KalCompanyImportDialog::fillPreviewColumn(int c)
+{
+    QTableWidget *preview = m_ui->twPreview;
+    auto *combo = new QComboBox(preview);
+    combo->setObjectName(QStringLiteral("cbxMapping%1").arg(c));
+    combo->addItem(KalAddressFile::fieldCaption(-1), -1);
+    for (int f = 0; f <= KalAddressFile::FullName; ++f)
+        combo->addItem(KalAddressFile::fieldCaption(f), f);
+    const QVector<int> mapping = m_file->mapping();
+    combo->setCurrentIndex(qMax(0, combo->findData(c < mapping.size() ? mapping.at(c) : -1)));
+    connect(combo, QOverload<int>::of(&QComboBox::activated), this, [this, c, combo](int index) {
+        // Rebuilding the preview deletes this combo box: do it afterwards.
+        const int field = combo->itemData(index).toInt();
+        QMetaObject::invokeMethod(
+            this, [this, c, field] { setColumnMapping(c, field); }, Qt::QueuedConnection);
+    });
+    preview->setCellWidget(FieldRow, c, combo);
+
+    // How the column is read: given way to a business column, decided by a
+    // type column, split, appended, or not taken over at all.
+    auto *note = new QTableWidgetItem(m_file->columnNote(c));
+    note->setToolTip(note->text());
+    note->setForeground(palette().color(QPalette::Disabled, QPalette::Text));
+    QFont italic = note->font();
+    italic.setItalic(true);
+    note->setFont(italic);
+    preview->setItem(NoteRow, c, note);
+    const QVector<QStringList> &rows = m_file->rows();
+    for (int r = 0; r + FirstDataRow < preview->rowCount(); ++r)
+        preview->setItem(r + FirstDataRow, c, new QTableWidgetItem(rows.at(r).value(c)));
+}
+
+void KalCompanyImportDialog::showUnmapped()
+{
+    QStringList lines;
+    const QStringList unmapped = m_file->unmappedCaptions();
+    if (unmapped.isEmpty())
+        lines << tr("Alle Spalten mit Inhalt werden übernommen.");
+    else
+        lines << tr("Nicht übernommen werden die Spalten: %1").arg(unmapped.join(QStringLiteral(", ")));
+    if (m_file->longRows() > 0)
+        lines << tr("%n Zeile(n) haben mehr Felder als die Überschriftenzeile; die zusätzlichen Felder stehen in "
+                    "eigenen Spalten.",
+                    nullptr, m_file->longRows());
+    const QString problem = m_file->problem();
+    if (!problem.isEmpty())
+        lines << problem;
+    m_ui->lblUnmapped->setStyleSheet(problem.isEmpty() ? QString() : QStringLiteral("color: #b00000;"));
+    m_ui->lblUnmapped->setText(lines.join(QLatin1Char('\n')));
 }
 
 void KalCompanyImportDialog::refreshCompanies()
@@ -261,15 +226,16 @@ void KalCompanyImportDialog::refreshCompanies()
 void KalCompanyImportDialog::fillCompanyList()
 {
     m_filling = true;
-    twCompanies->setRowCount(m_companies.size());
+    const QSet<int> duplicates(m_duplicates.begin(), m_duplicates.end());
+    m_ui->twCompanies->setRowCount(m_companies.size());
     for (int r = 0; r < m_companies.size(); ++r) {
         const KalCompanyRecord &c = m_companies.at(r);
-        const bool duplicate = m_duplicates.contains(r);
+        const bool duplicate = duplicates.contains(r);
         auto *check = new QTableWidgetItem;
         check->setFlags(Qt::ItemIsEnabled | Qt::ItemIsUserCheckable | Qt::ItemIsSelectable);
         // Companies the project has already are offered but not chosen.
         check->setCheckState(duplicate || c.isEmpty() ? Qt::Unchecked : Qt::Checked);
-        twCompanies->setItem(r, CheckColumn, check);
+        m_ui->twCompanies->setItem(r, CheckColumn, check);
         const QString person = QStringList({c.value(KalCompanyRecord::FirstName), c.value(KalCompanyRecord::LastName)})
                                    .join(QLatin1Char(' '))
                                    .trimmed();
@@ -280,33 +246,33 @@ void KalCompanyImportDialog::fillCompanyList()
             item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
             if (duplicate)
                 item->setBackground(kDuplicateColor);
-            twCompanies->setItem(r, NameColumn + i, item);
+            m_ui->twCompanies->setItem(r, NameColumn + i, item);
         }
         if (duplicate)
             check->setBackground(kDuplicateColor);
     }
     if (m_duplicates.isEmpty())
-        lblDuplicates->clear();
+        m_ui->lblDuplicates->clear();
     else if (m_duplicates.size() == 1)
-        lblDuplicates->setText(tr("Eine Firma ist im Projekt bereits vorhanden (rot markiert) und wurde nicht "
-                                  "ausgewählt."));
+        m_ui->lblDuplicates->setText(tr("Eine Firma ist im Projekt bereits vorhanden (rot markiert) und wurde nicht "
+                                        "ausgewählt."));
     else
-        lblDuplicates->setText(tr("%1 Firmen sind im Projekt bereits vorhanden (rot markiert) und wurden nicht "
-                                  "ausgewählt.")
-                                   .arg(m_duplicates.size()));
+        m_ui->lblDuplicates->setText(tr("%1 Firmen sind im Projekt bereits vorhanden (rot markiert) und wurden nicht "
+                                        "ausgewählt.")
+                                         .arg(m_duplicates.size()));
     m_filling = false;
     updateImportButton();
 }
 
 bool KalCompanyImportDialog::isChecked(int row) const
 {
-    const QTableWidgetItem *item = twCompanies->item(row, CheckColumn);
+    const QTableWidgetItem *item = m_ui->twCompanies->item(row, CheckColumn);
     return item && item->checkState() == Qt::Checked;
 }
 
 void KalCompanyImportDialog::setChecked(int row, bool checked)
 {
-    if (QTableWidgetItem *item = twCompanies->item(row, CheckColumn))
+    if (QTableWidgetItem *item = m_ui->twCompanies->item(row, CheckColumn))
         item->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
 }
 
@@ -322,22 +288,22 @@ QVector<KalCompanyRecord> KalCompanyImportDialog::checkedCompanies() const
 
 void KalCompanyImportDialog::slotCheckAll()
 {
-    for (int r = 0; r < twCompanies->rowCount(); ++r)
+    for (int r = 0; r < m_ui->twCompanies->rowCount(); ++r)
         setChecked(r, true);
 }
 
 void KalCompanyImportDialog::slotCheckNone()
 {
-    for (int r = 0; r < twCompanies->rowCount(); ++r)
+    for (int r = 0; r < m_ui->twCompanies->rowCount(); ++r)
         setChecked(r, false);
 }
 
 void KalCompanyImportDialog::updateImportButton()
 {
     bool any = false;
-    for (int r = 0; r < twCompanies->rowCount() && !any; ++r)
+    for (int r = 0; r < m_ui->twCompanies->rowCount() && !any; ++r)
         any = isChecked(r);
-    pbImport->setEnabled(any);
+    m_pbImport->setEnabled(any && (!m_file || m_file->problem().isEmpty()));
 }
 
 void KalCompanyImportDialog::slotImport()
@@ -353,6 +319,9 @@ void KalCompanyImportDialog::slotImport()
         return;
     }
     m_insertedIds = result.insertedIds;
+    // The next file with these captions needs no corrections.
+    if (m_file)
+        m_file->rememberMapping();
     KalPrompt::information(tr("Info"), m_insertedIds.size() == 1
                                            ? tr("Eine Firma wurde importiert.")
                                            : tr("%1 Firmen wurden importiert.").arg(m_insertedIds.size()));

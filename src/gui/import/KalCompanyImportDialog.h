@@ -8,17 +8,17 @@
 
 class KalAddressFile;
 class KalProject;
-class QCheckBox;
-class QComboBox;
-class QGroupBox;
-class QLabel;
 class QPushButton;
-class QTableWidget;
+
+namespace Ui {
+class KalCompanyImportDialog;
+}
 
 // Shows the companies a source offers, lets the user pick them and points
 // out those the project has already. For an address file it first shows a
 // preview whose separator, character set, caption row and column mapping
-// the user can correct.
+// the user can correct; it names the field each column fills, how it is
+// read, and the columns that are not taken over.
 class KalCompanyImportDialog : public QDialog
 {
     Q_OBJECT
@@ -55,27 +55,18 @@ private slots:
 
 private:
     void fillPreview();
+    void fillPreviewColumn(int column);
+    void showUnmapped();
     void refreshCompanies();
     void fillCompanyList();
     void updateImportButton();
 
+    std::unique_ptr<Ui::KalCompanyImportDialog> m_ui;
     KalProject *m_project;
     std::shared_ptr<KalAddressFile> m_file;
     QVector<KalCompanyRecord> m_companies;
     QVector<int> m_duplicates;
     QVector<qint64> m_insertedIds;
     bool m_filling = false;
-
-    QLabel *lblSource = nullptr;
-    QGroupBox *gbAddressFile = nullptr;
-    QComboBox *cbxSeparator = nullptr;
-    QComboBox *cbxEncoding = nullptr;
-    QCheckBox *cbHeader = nullptr;
-    QTableWidget *twPreview = nullptr;
-    QTableWidget *twCompanies = nullptr;
-    QLabel *lblDuplicates = nullptr;
-    QPushButton *pbCheckAll = nullptr;
-    QPushButton *pbCheckNone = nullptr;
-    QPushButton *pbImport = nullptr;
-    QPushButton *pbCancel = nullptr;
+    QPushButton *m_pbImport = nullptr;
 };

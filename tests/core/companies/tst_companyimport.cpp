@@ -118,9 +118,10 @@ private slots:
             << int(KalAddressFile::Utf8) << true << 1
             << QStringList{"firstname=Karl", "lastname=Berg", "company=Berg Sanitär", "street=Lindenweg 7"}
             << QStringList{"firstname=Karl", "lastname=Berg", "company=Berg Sanitär", "street=Lindenweg 7"};
-        QTest::newRow("name alone is the company, empty lines skipped")
+        QTest::newRow("name alone is the person, empty lines skipped")
             << QByteArray("NAME;ORT\n\nGlas Klar;Aachen\n;\n") << ";" << int(KalAddressFile::Utf8) << true << 1
-            << QStringList{"company=Glas Klar", "city=Aachen"} << QStringList{"company=Glas Klar", "city=Aachen"};
+            << QStringList{"firstname=Glas", "lastname=Klar", "company=Glas Klar", "city=Aachen"}
+            << QStringList{"firstname=Glas", "lastname=Klar", "company=Glas Klar", "city=Aachen"};
         QTest::newRow("semicolons win over commas in names")
             << QByteArray("Firma;Ort\nM\xC3\xBCller, Hans;Bonn\nSchmidt, Eva;K\xC3\xB6ln\n") << ";"
             << int(KalAddressFile::Utf8) << true << 2 << QStringList{"company=Müller, Hans", "city=Bonn"}
