@@ -1,6 +1,8 @@
 #include "KalDefectEditor.h"
 
+#include "core/project/KalDefects.h"
 #include "core/project/KalProject.h"
+#include "core/project/KalPrompt.h"
 #include "core/project/KalSqlTableModel.h"
 #include "gui/editors/KalCompanyDialog.h"
 #include "gui/textaids/KalCompleter.h"
@@ -194,7 +196,7 @@ void KalDefectEditor::buildUi()
     leUserId = new KalCompleterLineEdit(QStringLiteral("defect"), QStringLiteral("user_id"), this);
     leUserId->setObjectName(QStringLiteral("leUserId"));
     leUserId->setValidator(
-        new QRegularExpressionValidator(QRegularExpression(QStringLiteral("([a-z]|[A-Z]|){2}")), leUserId));
+        new QRegularExpressionValidator(QRegularExpression(KalDefects::authorInputPattern()), leUserId));
     leUserId->setMaximumWidth(90);
     pbUserIdInfo = new QPushButton(this);
     pbUserIdInfo->setObjectName(QStringLiteral("pbUserIdInfo"));
@@ -701,6 +703,15 @@ void KalDefectEditor::slotAccepted()
             return;
         }
     }
+    // The completer can put any text into the author field: only initials pass.
+    const QString author = leUserId->text().toUpper();
+    if (!KalDefects::isValidAuthor(author)) {
+        KalPrompt::warning(tr("Erfasst von"),
+                           tr("Als Autor können Sie nur Initialen eingeben: höchstens zwei Buchstaben."));
+        leUserId->setFocus();
+        return;
+    }
+    leUserId->setText(author);
     m_finished = true;
     // The mapper's values, written only where they differ, so an unchanged
     // field keeps its stored form (NULL stays NULL).
@@ -723,7 +734,12 @@ void KalDefectEditor::slotAccepted()
         }
     }
     if (changed) {
-        writeValue(QStringLiteral("site_journal_data_modified"), 1);
+        m_defects->markUserEdited(m_row);
+        // New defects start with the initials last entered here.
+        for (const auto &entry : qAsConst(m_openValues)) {
+            if (entry.first == QLatin1String("user_id") && !sameValue(entry.second, author))
+                KalDefects::rememberAuthor(author);
+        }
     } else {
         // Nothing differs from the opening state: drop the cache entries the
         // mapper wrote, so nothing reaches the file.

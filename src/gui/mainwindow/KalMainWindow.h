@@ -126,10 +126,8 @@ private slots:
     void slotDefectModelAboutToReset();
 
 private:
-    int highestDefectNumber() const;
     void openMasterData(int page);
     void importCompanies(int source);
-    qint64 insertDefectRow(const QMap<QString, QVariant> &values);
     void createActions();
     void createMenus();
     void createCentralWidget();

@@ -336,7 +336,9 @@ bool KalTableView::deleteSelectedRows()
         return false;
 
     bool yes;
-    if (m_sqlModel->tableName() == QLatin1String("status"))
+    if (m_deleteQuestion)
+        yes = m_deleteQuestion(selectedIds());
+    else if (m_sqlModel->tableName() == QLatin1String("status"))
         yes = KalPrompt::yesNo(tr("Status löschen"),
                                tr("Wenn Sie einen Status löschen, der bereits Mängeln zugeordnet ist, verlieren diese "
                                   "Mängel ihren Status!\nSoll der gewählte Status tatsächlich gelöscht werden?"));

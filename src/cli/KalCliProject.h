@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+
+class KalProject;
+class QSqlDatabase;
+
+// The pellwick-cli commands on a project file as a whole. Each takes the
+// file and the arguments after it and returns a KalCli::ExitCode.
+
+// "new": creates a project file; an existing file is refused.
+int kalCliNew(const QString &file, const QStringList &options);
+// "info [--json]": file version, integrity, rows per table, project name (read-only).
+int kalCliInfo(const QString &file, const QStringList &options);
+// "check": integrity of the file and of each backup; 0 only when the file is sound.
+int kalCliCheck(const QString &file, const QStringList &options);
+// "vacuum": compacts the project and saves it.
+int kalCliVacuum(const QString &file, const QStringList &options);
+
+// Read-only connection to a file this command did not write: info, check
+// and export never leave a working copy or change a byte.
+QSqlDatabase kalCliOpenReadOnly(const QString &connection, const QString &file);
+void kalCliCloseReadOnly(const QString &connection);
+// Opens through the whole lifecycle; false (reason shown) when it cannot be
+// opened or is write-protected and so cannot take changes.
+bool kalCliOpenForWriting(KalProject &project, const QString &file);
