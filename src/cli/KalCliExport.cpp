@@ -57,22 +57,17 @@ int kalCliExportDefects(const QString &file, const QStringList &options)
     // Dates in the notation the program uses.
     QLocale::setDefault(KalSettings::chosenLocale());
 
-    const QString connection = QStringLiteral("CLIEXPORT");
     QByteArray csv;
     QString error;
     bool read = false;
-    {
-        // Read-only: exporting never leaves a working copy or changes a byte.
-        QSqlDatabase db = kalCliOpenReadOnly(connection, file);
-        if (!db.isOpen()) {
+    kalCliReadOnly(file, [&](QSqlDatabase &db) {
+        if (!db.isOpen())
             error = tr("Die Datei\n%1\nkonnte nicht geöffnet werden:\n%2").arg(nativeFile, db.lastError().text());
-        } else if (!isProject(db)) {
+        else if (!isProject(db))
             error = tr("Die Datei\n%1\nist keine Pellwick-Projektdatei.").arg(nativeFile);
-        } else {
+        else
             read = KalDefectCsv::fromDatabase(db, columns, KalCompanyFormat::load(), &csv, &error);
-        }
-    }
-    kalCliCloseReadOnly(connection);
+    });
     if (!read) {
         KalPrompt::critical(tr("Dateifehler"), error);
         return Failed;

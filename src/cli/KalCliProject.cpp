@@ -29,13 +29,10 @@ bool noOptions(const QStringList &options, int *code)
 
 QString integrityOf(const QString &file)
 {
-    const QString connection = QStringLiteral("CLICHECK");
     QString result;
-    {
-        QSqlDatabase db = kalCliOpenReadOnly(connection, file);
-        result = db.isOpen() ? KalProject::checkIntegrity(connection) : db.lastError().text();
-    }
-    kalCliCloseReadOnly(connection);
+    kalCliReadOnly(file, [&](QSqlDatabase &db) {
+        result = db.isOpen() ? KalProject::checkIntegrity(db.connectionName()) : db.lastError().text();
+    });
     return result;
 }
 
@@ -50,49 +47,42 @@ struct FileInfo
 
 FileInfo readInfo(const QString &file)
 {
-    const QString connection = QStringLiteral("CLIINFO");
     FileInfo info;
-    {
-        QSqlDatabase db = kalCliOpenReadOnly(connection, file);
+    kalCliReadOnly(file, [&](QSqlDatabase &db) {
         info.opened = db.isOpen();
         if (!info.opened) {
             info.integrity = db.lastError().text();
-        } else {
-            info.integrity = KalProject::checkIntegrity(connection);
-            info.version = KalDatabaseSchema::fileVersion(db);
-            const QStringList tables = KalDatabaseSchema::tableMap(db).keys();
-            for (const QString &table : tables) {
-                if (table.startsWith(QLatin1String("sqlite_")))
-                    continue;
-                QSqlQuery q(db);
-                if (q.exec(QStringLiteral("SELECT COUNT(*) FROM \"%1\"").arg(table)) && q.next())
-                    info.counts.insert(table, q.value(0).toLongLong());
-            }
-            QSqlQuery q(db);
-            if (q.exec(QStringLiteral("SELECT projectname FROM kal ORDER BY id LIMIT 1")) && q.next())
-                info.name = q.value(0).toString();
+            return;
         }
-    }
-    kalCliCloseReadOnly(connection);
+        info.integrity = KalProject::checkIntegrity(db.connectionName());
+        info.version = KalDatabaseSchema::fileVersion(db);
+        const QStringList tables = KalDatabaseSchema::tableMap(db).keys();
+        for (const QString &table : tables) {
+            if (table.startsWith(QLatin1String("sqlite_")))
+                continue;
+            QSqlQuery q(db);
+            if (q.exec(QStringLiteral("SELECT COUNT(*) FROM \"%1\"").arg(table)) && q.next())
+                info.counts.insert(table, q.value(0).toLongLong());
+        }
+        QSqlQuery q(db);
+        if (q.exec(QStringLiteral("SELECT projectname FROM kal ORDER BY id LIMIT 1")) && q.next())
+            info.name = q.value(0).toString();
+    });
     return info;
 }
 
 } // namespace
 
-QSqlDatabase kalCliOpenReadOnly(const QString &connection, const QString &file)
+void kalCliReadOnly(const QString &file, const std::function<void(QSqlDatabase &db)> &read)
 {
-    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
-    db.setDatabaseName(file);
-    db.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=500"));
-    if (db.open())
-        KalDatabaseSchema::applySafetyPragmas(db);
-    return db;
-}
-
-void kalCliCloseReadOnly(const QString &connection)
-{
+    const QString connection = QStringLiteral("CLIREADONLY");
     {
-        QSqlDatabase db = QSqlDatabase::database(connection, false);
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
+        db.setDatabaseName(file);
+        db.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=500"));
+        if (db.open())
+            KalDatabaseSchema::applySafetyPragmas(db);
+        read(db);
         db.close();
     }
     QSqlDatabase::removeDatabase(connection);

@@ -2,6 +2,7 @@
 
 #include <QString>
 #include <QStringList>
+#include <functional>
 
 class KalProject;
 class QSqlDatabase;
@@ -18,10 +19,10 @@ int kalCliCheck(const QString &file, const QStringList &options);
 // "vacuum": compacts the project and saves it.
 int kalCliVacuum(const QString &file, const QStringList &options);
 
-// Read-only connection to a file this command did not write: info, check
-// and export never leave a working copy or change a byte.
-QSqlDatabase kalCliOpenReadOnly(const QString &connection, const QString &file);
-void kalCliCloseReadOnly(const QString &connection);
+// Runs `read` on a read-only connection to `file` (closed when it returns;
+// check isOpen()): info, check and export never leave a working copy or
+// change a byte.
+void kalCliReadOnly(const QString &file, const std::function<void(QSqlDatabase &db)> &read);
 // Opens through the whole lifecycle; false (reason shown) when it cannot be
 // opened or is write-protected and so cannot take changes.
 bool kalCliOpenForWriting(KalProject &project, const QString &file);

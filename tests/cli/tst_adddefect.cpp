@@ -2,12 +2,12 @@
 // file whose id counter lags behind its rows still takes new defects.
 #include "core/project/KalDefects.h"
 #include "core/project/KalProject.h"
+#include "support/KalCliRunner.h"
 #include "support/KalScriptedPrompt.h"
 #include "support/KalTestFiles.h"
 #include "support/KalTestSettings.h"
 
 #include <QFile>
-#include <QProcess>
 #include <QSettings>
 #include <QSqlQuery>
 #include <QSqlRecord>
@@ -18,28 +18,12 @@ using namespace KalTestFiles;
 
 namespace {
 
-struct Run
-{
-    int code = -1;
-    QString out;
-    QString err;
-};
-
 // The login name is set on purpose: it must never become the author.
 const char *const kLogin = "mueller";
 
-Run cli(const QStringList &args)
+KalCliResult cli(const QStringList &args)
 {
-    QProcess p;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert("USERNAME", kLogin);
-    p.setProcessEnvironment(env);
-    p.start(KalTestSettings::binDir() + "/pellwick-cli", args);
-    p.closeWriteChannel();
-    if (!p.waitForFinished(60000))
-        return Run{};
-    return Run{p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -2, QString::fromUtf8(p.readAllStandardOutput()),
-               QString::fromUtf8(p.readAllStandardError())};
+    return kalRunCli(args, kLogin);
 }
 
 // Every column of one defect, read from the saved file.
@@ -158,7 +142,7 @@ private slots:
             QVERIFY(project.closeProject());
         }
 
-        const Run run = cli(QStringList{"add-defect", path("cli.pwp")} + options);
+        const KalCliResult run = cli(QStringList{"add-defect", path("cli.pwp")} + options);
         QCOMPARE(run.code, 0);
         QCOMPARE(run.out.trimmed().toLongLong(), listId);
 
@@ -183,8 +167,12 @@ private slots:
         QTest::newRow("counter at the end of the range")
             << QStringList{"UPDATE id_generator SET id_counter = 9223372036854775807 WHERE id_table = 'defect'"}
             << QList<qint64>{};
-        QTest::newRow("a row at the end of the range")
-            << QStringList{"UPDATE defect SET id = 9223372036854775807 WHERE id = 3"} << QList<qint64>{};
+        QTest::newRow("a free id below a row at the end of the range")
+            << QStringList{"UPDATE defect SET id = 9223372036854775807 WHERE id = 3"} << QList<qint64>{4, 5};
+        QTest::newRow("counter behind, a row at the end of the range")
+            << QStringList{"UPDATE defect SET id = 9223372036854775807 WHERE id = 3",
+                           "UPDATE id_generator SET id_counter = 1 WHERE id_table = 'defect'"}
+            << QList<qint64>{};
     }
 
     void laggingIdCounter()
@@ -197,7 +185,7 @@ private slots:
         QVERIFY(execute(file, damage));
         const QByteArray before = fileHash(file);
         for (int attempt = 0; attempt < 2; ++attempt) {
-            const Run run = cli({"add-defect", file, "--description", "neu"});
+            const KalCliResult run = cli({"add-defect", file, "--description", "neu"});
             if (ids.isEmpty()) {
                 QCOMPARE(run.code, 1);
                 QVERIFY2(run.err.startsWith("Datenbankfehler: "), qPrintable(run.err));

@@ -185,9 +185,12 @@ qint64 KalDatabaseSchema::nextId(const QSqlDatabase &db, KalTransactions &transa
     qint64 last = known ? select.value(1).toLongLong() : 0;
     select.finish();
     // A file written elsewhere may hold ids beyond its counter: never hand
-    // out an id that is taken, or every insert fails on the same id.
-    last = qMax(last, highestId(db, table));
-    if (last >= std::numeric_limits<qint64>::max()) {
+    // out an id that is taken, or every insert fails on the same id. One
+    // jump past the highest id is enough, however far the counter lags.
+    constexpr qint64 lastPossible = std::numeric_limits<qint64>::max();
+    if (last < lastPossible && idTaken(db, table, last + 1))
+        last = highestId(db, table);
+    if (last >= lastPossible) {
         transactions.rollback();
         KalPrompt::critical(tr("Datenbankfehler"),
                             tr("Für die Tabelle \"%1\" kann keine neue Id mehr vergeben werden.").arg(table));
@@ -211,12 +214,20 @@ qint64 KalDatabaseSchema::nextId(const QSqlDatabase &db, KalTransactions &transa
     return newId;
 }
 
+bool KalDatabaseSchema::idTaken(const QSqlDatabase &db, const QString &table, qint64 id)
+{
+    // A counter without a table of its name finds nothing.
+    QSqlQuery query(db);
+    query.prepare(QStringLiteral("SELECT 1 FROM %1 WHERE id = :id")
+                      .arg(db.driver()->escapeIdentifier(table, QSqlDriver::TableName)));
+    query.bindValue(QStringLiteral(":id"), id);
+    return query.exec() && query.next();
+}
+
 qint64 KalDatabaseSchema::highestId(const QSqlDatabase &db, const QString &table)
 {
     QSqlQuery query(db);
     const QString name = db.driver()->escapeIdentifier(table, QSqlDriver::TableName);
-    // One indexed lookup on the primary key, however many ids are taken; a
-    // counter without a table of its name finds nothing.
     if (!query.exec(QStringLiteral("SELECT MAX(id) FROM %1").arg(name)) || !query.next())
         return 0;
     return query.value(0).toLongLong();

@@ -37,9 +37,9 @@ public:
     // Inserts the eight default statuses when the table is empty.
     static bool insertDefaultStatuses(const QSqlDatabase &db);
 
-    // Next id of a table without AUTOINCREMENT: one past the counter and
-    // past every id the table holds. -1 when the allocator fails or the ids
-    // are used up (the reason was shown).
+    // Next id of a table without AUTOINCREMENT: one past the counter, or
+    // past the highest id of the table when that one is taken. -1 when the
+    // allocator fails or the ids are used up (the reason was shown).
     static qint64 nextId(const QSqlDatabase &db, KalTransactions &transactions, const QString &table);
     static bool setIdCounter(const QSqlDatabase &db, KalTransactions &transactions, const QString &table, qint64 value);
 
@@ -64,6 +64,7 @@ public:
     static QString readSchemaScript(bool *ok);
 
 private:
+    static bool idTaken(const QSqlDatabase &db, const QString &table, qint64 id);
     // Largest id in `table`; 0 when empty or not there.
     static qint64 highestId(const QSqlDatabase &db, const QString &table);
 };
