@@ -198,29 +198,32 @@ QList<qint64> KalDefects::copy(const QList<qint64> &ids)
     return {};
 }
 
-bool KalDefects::remove(const QList<qint64> &ids)
-{
-    KalSqlTableModel *defects = model();
-    return defects && defects->removeRowsById(ids);
-}
-
 bool KalDefects::removeDependants(KalModelHost &host, const QSqlRecord &defect, QStringList *changedTables)
 {
     const QVariant defectId = defect.value(QStringLiteral("id"));
     const QVariant siteJournalId = defect.value(QStringLiteral("site_journal_id"));
 
+    // What belongs to the defect alone: its photos with their images, its
+    // markers and texts on the plan. Images first, while their photos still name them.
+    static const struct
+    {
+        const char *table;
+        const char *statement;
+    } dependants[] = {
+        {"image", "DELETE FROM image WHERE id IN (SELECT image_id FROM photo_info WHERE defect_id = :defect_id)"},
+        {"photo_info", "DELETE FROM photo_info WHERE defect_id = :defect_id"},
+        {"marker", "DELETE FROM marker WHERE defect_id = :defect_id"},
+        {"marker_text", "DELETE FROM marker_text WHERE defect_id = :defect_id"},
+    };
     QSqlQuery query(host.database());
-    query.prepare(QStringLiteral("DELETE FROM image WHERE id IN "
-                                 "(SELECT image_id FROM photo_info WHERE defect_id = :defect_id)"));
-    query.bindValue(QStringLiteral(":defect_id"), defectId);
-    if (!execLogged(query))
-        return false;
-    query.prepare(QStringLiteral("DELETE FROM photo_info WHERE defect_id = :defect_id"));
-    query.bindValue(QStringLiteral(":defect_id"), defectId);
-    if (!execLogged(query))
-        return false;
-    if (query.numRowsAffected() > 0)
-        changedTables->append(QStringLiteral("photo_info"));
+    for (const auto &dependant : dependants) {
+        query.prepare(QLatin1String(dependant.statement));
+        query.bindValue(QStringLiteral(":defect_id"), defectId);
+        if (!execLogged(query))
+            return false;
+        if (query.numRowsAffected() > 0)
+            changedTables->append(QLatin1String(dependant.table));
+    }
 
     // Only a defect from the site journal leaves a note that it was deleted here.
     if (siteJournalId.isNull() || siteJournalId.toLongLong() == -1)

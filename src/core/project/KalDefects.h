@@ -28,8 +28,6 @@ public:
     // A new defect per source, numbered on, with the copied fields of its
     // source; all or none. The ids of the copies.
     QList<qint64> copy(const QList<qint64> &ids);
-    // Removes the defects and what goes with them (removeDependants()).
-    bool remove(const QList<qint64> &ids);
 
     // Field -> value of a new defect: the next number, today's date, the
     // remembered author, priority "Normal", no plan, no photos, no status,
@@ -46,8 +44,9 @@ public:
     static const QStringList &copiedFields();
 
     // The removal rule of the defect model: removes the photos of `defect`
-    // and their images and, for a defect from the site journal, writes its
-    // tombstone. Adds the tables it changed to `changedTables`.
+    // with their images and its markers and texts on the plan and, for a
+    // defect from the site journal, writes its tombstone. Adds the tables it
+    // changed to `changedTables`.
     static bool removeDependants(KalModelHost &host, const QSqlRecord &defect, QStringList *changedTables);
 
     // Author initials: at most two capital letters, or none.
