@@ -20,7 +20,6 @@ struct Field
     int displayRole = KalSqlTableModel::NoDisplayRole;
 };
 
-constexpr QVariant::Type Bool = QVariant::Bool;
 constexpr QVariant::Type Int = QVariant::Int;
 constexpr QVariant::Type Double = QVariant::Double;
 constexpr QVariant::Type String = QVariant::String;

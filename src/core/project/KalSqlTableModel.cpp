@@ -359,8 +359,8 @@ bool KalSqlTableModel::select()
     if (ok)
         fetchAll();
     invalidateRowIndex();
-    // A submit that removed defects also removed photos and wrote
-    // tombstones with its own statements: show those tables anew.
+    // A removal rule changed other tables with statements of its own (the
+    // photos of a removed defect, its tombstone): show those tables anew.
     if (!m_changedTables.isEmpty())
         refreshDependentModels();
     return ok;
