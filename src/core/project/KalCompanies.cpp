@@ -105,7 +105,6 @@ qint64 KalCompanies::insert(const QVariantMap &texts, QString *error)
         *error = query.lastError().text();
         return -1;
     }
-    m_host.markModified();
     return id;
 }
 

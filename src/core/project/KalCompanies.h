@@ -32,7 +32,8 @@ public:
     // append() and write it at once. Its id, or -1.
     qint64 add(const QVariantMap &texts);
     // Writes a new company with a statement of its own, for imports that
-    // insert many inside their own transaction. Its id, or -1 with `error` set.
+    // insert many inside their own transaction; they commit and mark the
+    // project modified. Its id, or -1 with `error` set.
     qint64 insert(const QVariantMap &texts, QString *error);
 
     // How many defects name one of these companies.

@@ -1,5 +1,6 @@
 // The rules for defects and companies as every window, dialog and import
 // meets them: through the project's models and the core rule classes.
+#include "core/import/KalCompanyImport.h"
 #include "core/project/KalCompanies.h"
 #include "core/project/KalDefects.h"
 #include "core/project/KalProject.h"
@@ -187,8 +188,12 @@ private slots:
             first = companies.add(texts);
             second = companies.add(texts);
         } else {
-            first = companies.insert(texts, &error);
-            second = companies.insert(texts, &error);
+            KalCompanyRecord record;
+            record.setValue(KalCompanyRecord::Company, QStringLiteral("Neu"));
+            const auto result = KalCompanyImport::insertCompanies(*m_project, {record, record}, true);
+            error = result.errorText;
+            first = result.insertedIds.value(0, -1);
+            second = result.insertedIds.value(1, -1);
         }
         QVERIFY2(first > 0 && second > first, qPrintable(error));
         QVERIFY(q.exec(QStringLiteral("SELECT pos, modified, site_journal_id, delete_on_import, street IS NULL FROM "
