@@ -50,15 +50,6 @@ void KalStartup::setApplicationIdentity()
     QGuiApplication::setDesktopFileName(QStringLiteral("pellwick"));
 }
 
-QLocale KalStartup::chosenLocale()
-{
-    const QLocale system = QLocale::system();
-    QSettings settings;
-    const auto language = QLocale::Language(settings.value(QStringLiteral("Language"), int(system.language())).toInt());
-    const auto country = QLocale::Country(settings.value(QStringLiteral("Country"), int(system.country())).toInt());
-    return QLocale(language, country);
-}
-
 QString KalStartup::translationsFolder()
 {
     return QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../Translations"));

@@ -23,9 +23,6 @@ public:
     // where the settings live.
     static void setApplicationIdentity();
 
-    // "Language"/"Country" from the settings, defaults from the system.
-    static QLocale chosenLocale();
-
     // "../Translations" beside the program folder.
     static QString translationsFolder();
     // Loads Qt's base translation and the program's own for `locale`; a

@@ -4,6 +4,7 @@
 #include "core/project/KalCommandLine.h"
 
 #include "core/project/KalPrompt.h"
+#include "core/project/KalSettings.h"
 #include "core/textaids/KalSpellChecker.h"
 #include "gui/mainwindow/KalMainWindow.h"
 #include "gui/widgets/KalMessageBoxPrompt.h"
@@ -37,7 +38,7 @@ int main(int argc, char *argv[])
 
     QSettings().setValue(QStringLiteral("Messages/showFilterUncheckMsgOnce"), true);
 
-    const QLocale locale = KalStartup::chosenLocale();
+    const QLocale locale = KalSettings::chosenLocale();
     QLocale::setDefault(locale);
     KalStartup::installTranslations(&app, KalStartup::translationsFolder(), locale);
 

@@ -1,5 +1,6 @@
 #include "KalCliImportCompanies.h"
 
+#include "cli/KalCli.h"
 #include "core/import/KalAddressFile.h"
 #include "core/import/KalCompanyImport.h"
 #include "core/project/KalProject.h"
@@ -13,26 +14,12 @@
 
 namespace {
 
-enum ExitCode { Success = 0, Failed = 1, Usage = 2 };
-
-const char *const kUsage = "Usage: pellwick-cli import-companies FILE.pwp ADDRESSES.csv [--dry-run] [--separator C] "
-                           "[--encoding utf-8|windows-1252|utf-16]\n";
-
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("KalCli", text);
-}
-
-int usageError(const QString &text)
-{
-    std::fprintf(stderr, "pellwick-cli: %s\n\n%s", text.toLocal8Bit().constData(), kUsage);
-    return Usage;
-}
-
-void out(const QString &text)
-{
-    std::fprintf(stdout, "%s\n", text.toLocal8Bit().constData());
-}
+using KalCli::Failed;
+using KalCli::fileMissing;
+using KalCli::out;
+using KalCli::Success;
+using KalCli::tr;
+using KalCli::usageError;
 
 int fail(const QString &title, const QString &text)
 {
@@ -62,7 +49,7 @@ QString separatorName(QChar separator)
     return separator == QLatin1Char('\t') ? QStringLiteral("tab") : QStringLiteral("\"%1\"").arg(separator);
 }
 
-struct Options
+struct ImportOptions
 {
     QString project;
     QString addresses;
@@ -71,10 +58,10 @@ struct Options
     int encoding = -1;
 };
 
-// Empty on success, else the usage error.
-QString parse(const QStringList &args, Options *options)
+// Empty on success, else the usage error. `args` starts with the address file.
+QString parse(const QStringList &args, ImportOptions *options)
 {
-    QStringList positional;
+    QStringList positional{options->project};
     for (int i = 0; i < args.size(); ++i) {
         const QString &arg = args.at(i);
         if (arg == QLatin1String("--dry-run")) {
@@ -136,7 +123,7 @@ void printPlan(const KalAddressFile &file, const QVector<KalCompanyRecord> &comp
 }
 
 // Reads the address file with the user's overrides; false after a message.
-bool readAddresses(const Options &options, KalAddressFile *file)
+bool readAddresses(const ImportOptions &options, KalAddressFile *file)
 {
     QString error;
     if (!file->load(options.addresses, &error)) {
@@ -186,15 +173,15 @@ int importInto(const QString &projectFile, const QVector<KalCompanyRecord> &comp
 
 } // namespace
 
-int kalCliImportCompanies(const QStringList &args)
+int kalCliImportCompanies(const QString &projectFile, const QStringList &args)
 {
-    Options options;
+    ImportOptions options;
+    options.project = projectFile;
     const QString usage = parse(args, &options);
     if (!usage.isEmpty())
         return usageError(usage);
-    if (!QFileInfo(options.project).isFile())
-        return fail(tr("Dateifehler"),
-                    tr("Die Datei\n%1\nexistiert nicht.").arg(QDir::toNativeSeparators(options.project)));
+    if (fileMissing(options.project))
+        return Failed;
 
     KalAddressFile file;
     if (!readAddresses(options, &file))

@@ -1,5 +1,6 @@
 // pellwick-cli driven as a user's script would: real processes, real files.
 #include "core/project/KalProject.h"
+#include "support/KalCliRunner.h"
 #include "support/KalTestFiles.h"
 #include "support/KalTestSettings.h"
 
@@ -8,33 +9,16 @@
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
 using namespace KalTestFiles;
 
 namespace {
-struct Run
-{
-    int code = -1;
-    QString out;
-    QString err;
-};
-
+using Run = KalCliResult;
 Run cli(const QStringList &args, const QByteArray &user = "erika")
 {
-    QProcess p;
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert("USERNAME", QString::fromUtf8(user));
-    env.insert("COMPUTERNAME", "BAUBUERO");
-    p.setProcessEnvironment(env);
-    p.start(KalTestSettings::binDir() + "/pellwick-cli", args);
-    p.closeWriteChannel();
-    if (!p.waitForFinished(60000))
-        return Run{};
-    return Run{p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -2, QString::fromUtf8(p.readAllStandardOutput()),
-               QString::fromUtf8(p.readAllStandardError())};
+    return kalRunCli(args, user);
 }
 } // namespace
 

@@ -200,7 +200,7 @@ private slots:
         QFETCH(QStringList, args);
         const Run run = cli(args);
         QCOMPARE(run.code, 2);
-        QVERIFY(run.err.contains("Usage: pellwick-cli import-companies"));
+        QVERIFY(run.err.contains("import-companies FILE.pwp ADDRESSES.csv"));
     }
 };
 

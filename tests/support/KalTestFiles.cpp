@@ -1,5 +1,6 @@
 #include "KalTestFiles.h"
 
+#include "core/project/KalDefects.h"
 #include "core/project/KalProject.h"
 
 #include <QCryptographicHash>
@@ -24,7 +25,7 @@ bool createProject(const QString &path, int defects)
         QVariantMap values;
         values.insert(QStringLiteral("description"), QStringLiteral("defect %1").arg(i));
         values.insert(QStringLiteral("number"), QString::number(i));
-        if (project.insertDefect(values) < 0)
+        if (KalDefects(project).add(values) < 0)
             return false;
     }
     const bool ok = project.saveProject(path) == KalProject::Saved;

@@ -1,5 +1,6 @@
 #include "KalCompanyImport.h"
 
+#include "core/project/KalCompanies.h"
 #include "core/project/KalDatabaseSchema.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
@@ -308,36 +309,17 @@ KalCompanyImport::Result KalCompanyImport::insertCompanies(KalProject &project,
         result.errorText = tr("Die Firmen konnten nicht importiert werden:\n%1").arg(db.lastError().text());
         return result;
     }
-    qint64 pos = 0;
-    {
-        QSqlQuery query(db);
-        if (!query.exec(QStringLiteral("SELECT COALESCE(MAX(pos), 0) FROM company")) || !query.next())
-            return fail(query.lastError().text());
-        pos = query.value(0).toLongLong();
-    }
-    QSqlQuery insert(db);
-    if (!insert.prepare(QStringLiteral(
-            "INSERT INTO company (id, type, firstname, lastname, company, street, plz, city, telephone, telefax, "
-            "mobile, email, pos, modified) VALUES (:id, :type, :firstname, :lastname, :company, :street, :plz, "
-            ":city, :telephone, :telefax, :mobile, :email, :pos, 0)")))
-        return fail(insert.lastError().text());
+    KalCompanies rules(project);
     for (const KalCompanyRecord &record : qAsConst(toInsert)) {
-        const qint64 id = project.nextId(QStringLiteral("company"));
+        QVariantMap texts;
+        for (int field = 0; field < KalCompanyRecord::FieldCount; ++field)
+            texts.insert(QLatin1String(s_columns[field]), record.values[field].trimmed());
+        QString reason;
+        const qint64 id = rules.insert(texts, &reason);
         if (id < 0)
-            return fail(tr("Es konnte keine neue Id vergeben werden."));
-        insert.bindValue(QStringLiteral(":id"), id);
-        for (int field = 0; field < KalCompanyRecord::FieldCount; ++field) {
-            // The text columns are NOT NULL: a null QString would bind as NULL.
-            const QString value = record.values[field].trimmed();
-            insert.bindValue(QLatin1Char(':') + QLatin1String(s_columns[field]),
-                             value.isEmpty() ? QString(QLatin1String("")) : value);
-        }
-        insert.bindValue(QStringLiteral(":pos"), ++pos);
-        if (!insert.exec())
-            return fail(insert.lastError().text());
+            return fail(reason);
         result.insertedIds << id;
     }
-    insert.finish();
     if (!project.commitTransaction()) {
         // The outermost commit failed: nothing of the import may stay.
         QSqlQuery rollback(db);

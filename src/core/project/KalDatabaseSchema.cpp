@@ -4,9 +4,11 @@
 #include "core/project/KalTransactions.h"
 
 #include <QFile>
+#include <QSqlDriver>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QVariant>
+#include <limits>
 
 static void initCoreResources()
 {
@@ -179,17 +181,29 @@ qint64 KalDatabaseSchema::nextId(const QSqlDatabase &db, KalTransactions &transa
         transactions.rollback();
         return -1;
     }
-    qint64 newId = 1;
-    QSqlQuery write(db);
-    if (select.next()) {
-        newId = select.value(1).toLongLong() + 1;
-        write.prepare(QStringLiteral("UPDATE id_generator SET id_counter = :newid WHERE id_table = :tablename"));
-        write.bindValue(QStringLiteral(":newid"), newId);
-    } else {
-        write.prepare(QStringLiteral("INSERT INTO id_generator (id_table, id_counter) VALUES (:tablename, 1)"));
-    }
-    write.bindValue(QStringLiteral(":tablename"), table);
+    const bool known = select.next();
+    qint64 last = known ? select.value(1).toLongLong() : 0;
     select.finish();
+    // A file written elsewhere may hold ids beyond its counter: never hand
+    // out an id that is taken, or every insert fails on the same id. One
+    // jump past the highest id is enough, however far the counter lags.
+    constexpr qint64 lastPossible = std::numeric_limits<qint64>::max();
+    if (last < lastPossible && idTaken(db, table, last + 1))
+        last = highestId(db, table);
+    if (last >= lastPossible) {
+        transactions.rollback();
+        KalPrompt::critical(tr("Datenbankfehler"),
+                            tr("Für die Tabelle \"%1\" kann keine neue Id mehr vergeben werden.").arg(table));
+        return -1;
+    }
+    const qint64 newId = last + 1;
+    QSqlQuery write(db);
+    if (known)
+        write.prepare(QStringLiteral("UPDATE id_generator SET id_counter = :newid WHERE id_table = :tablename"));
+    else
+        write.prepare(QStringLiteral("INSERT INTO id_generator (id_table, id_counter) VALUES (:tablename, :newid)"));
+    write.bindValue(QStringLiteral(":newid"), newId);
+    write.bindValue(QStringLiteral(":tablename"), table);
     if (!write.exec()) {
         qDebug("SQL-Error: %s\n", qPrintable(write.lastError().text()));
         transactions.rollback();
@@ -198,6 +212,25 @@ qint64 KalDatabaseSchema::nextId(const QSqlDatabase &db, KalTransactions &transa
     if (!transactions.commit())
         return -1;
     return newId;
+}
+
+bool KalDatabaseSchema::idTaken(const QSqlDatabase &db, const QString &table, qint64 id)
+{
+    // A counter without a table of its name finds nothing.
+    QSqlQuery query(db);
+    query.prepare(QStringLiteral("SELECT 1 FROM %1 WHERE id = :id")
+                      .arg(db.driver()->escapeIdentifier(table, QSqlDriver::TableName)));
+    query.bindValue(QStringLiteral(":id"), id);
+    return query.exec() && query.next();
+}
+
+qint64 KalDatabaseSchema::highestId(const QSqlDatabase &db, const QString &table)
+{
+    QSqlQuery query(db);
+    const QString name = db.driver()->escapeIdentifier(table, QSqlDriver::TableName);
+    if (!query.exec(QStringLiteral("SELECT MAX(id) FROM %1").arg(name)) || !query.next())
+        return 0;
+    return query.value(0).toLongLong();
 }
 
 bool KalDatabaseSchema::setIdCounter(const QSqlDatabase &db, KalTransactions &transactions, const QString &table,
@@ -241,12 +274,19 @@ QString KalDatabaseSchema::fileVersion(const QSqlDatabase &db)
 
 bool KalDatabaseSchema::setFileVersion(const QSqlDatabase &db, const QString &version)
 {
+    return setMetaValue(db, QStringLiteral("fileversion"), version);
+}
+
+bool KalDatabaseSchema::setMetaValue(const QSqlDatabase &db, const QString &key, const QString &value, QSqlError *error)
+{
     QSqlQuery query(db);
     query.prepare(QStringLiteral("INSERT OR REPLACE INTO meta (key, value) VALUES (:key, :value)"));
-    query.bindValue(QStringLiteral(":key"), QStringLiteral("fileversion"));
-    query.bindValue(QStringLiteral(":value"), version);
+    query.bindValue(QStringLiteral(":key"), key);
+    query.bindValue(QStringLiteral(":value"), value);
     if (!query.exec()) {
         qDebug("SQL-Error: %s\n", qPrintable(query.lastError().text()));
+        if (error)
+            *error = query.lastError();
         return false;
     }
     return true;

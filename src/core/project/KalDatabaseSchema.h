@@ -7,6 +7,7 @@
 #include <QString>
 
 class KalTransactions;
+class QSqlError;
 
 // The project file format: creating it, its id allocator and its meta keys.
 class KalDatabaseSchema
@@ -36,12 +37,17 @@ public:
     // Inserts the eight default statuses when the table is empty.
     static bool insertDefaultStatuses(const QSqlDatabase &db);
 
-    // Next id of a table without AUTOINCREMENT; -1 when the allocator fails.
+    // Next id of a table without AUTOINCREMENT: one past the counter, or
+    // past the highest id of the table when that one is taken. -1 when the
+    // allocator fails or the ids are used up (the reason was shown).
     static qint64 nextId(const QSqlDatabase &db, KalTransactions &transactions, const QString &table);
     static bool setIdCounter(const QSqlDatabase &db, KalTransactions &transactions, const QString &table, qint64 value);
 
     static QString fileVersion(const QSqlDatabase &db);
     static bool setFileVersion(const QSqlDatabase &db, const QString &version);
+    // Writes one "meta" key (replacing its value). False, with `error` set, on failure.
+    static bool setMetaValue(const QSqlDatabase &db, const QString &key, const QString &value,
+                             QSqlError *error = nullptr);
     // -1 when the key is absent.
     static int automaticImportMode(const QSqlDatabase &db);
 
@@ -56,4 +62,9 @@ public:
     static void applySafetyPragmas(const QSqlDatabase &db);
 
     static QString readSchemaScript(bool *ok);
+
+private:
+    static bool idTaken(const QSqlDatabase &db, const QString &table, qint64 id);
+    // Largest id in `table`; 0 when empty or not there.
+    static qint64 highestId(const QSqlDatabase &db, const QString &table);
 };

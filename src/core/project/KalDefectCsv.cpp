@@ -1,5 +1,6 @@
 #include "KalDefectCsv.h"
 
+#include "core/project/KalDefectColumns.h"
 #include "core/project/KalPrompt.h"
 #include "core/project/KalSqlTableModel.h"
 #include "core/textaids/KalDateFormat.h"
@@ -16,50 +17,6 @@
 #include <algorithm>
 
 namespace {
-
-struct Column
-{
-    const char *field;
-    const char *caption; // the grid caption, translated like the grid's
-};
-
-// The long grid layout; the short one is a subset of it.
-const Column s_allColumns[] = {
-    {"number", QT_TRANSLATE_NOOP("KalSqlTableModel", "Nr.")},
-    {"description", QT_TRANSLATE_NOOP("KalSqlTableModel", "Beschreibung")},
-    {"company_id", QT_TRANSLATE_NOOP("KalSqlTableModel", "Firma")},
-    {"type", QT_TRANSLATE_NOOP("KalSqlTableModel", "Typ")},
-    {"user_id", QT_TRANSLATE_NOOP("KalSqlTableModel", "Autor")},
-    {"creation_date", QT_TRANSLATE_NOOP("KalSqlTableModel", "Erfasst am")},
-    {"roomname", QT_TRANSLATE_NOOP("KalSqlTableModel", "Raum")},
-    {"roombook_number", QT_TRANSLATE_NOOP("KalSqlTableModel", "Raumbuch-Nr.")},
-    {"plan_info_id", QT_TRANSLATE_NOOP("KalSqlTableModel", "Plan")},
-    {"image_cnt", QT_TRANSLATE_NOOP("KalSqlTableModel", "Fotos")},
-    {"correction_instruction", QT_TRANSLATE_NOOP("KalSqlTableModel", "Beseitigungsanweisung")},
-    {"priority", QT_TRANSLATE_NOOP("KalSqlTableModel", "Priorität")},
-    {"correction_date", QT_TRANSLATE_NOOP("KalSqlTableModel", "Frist")},
-    {"deadline_1", QT_TRANSLATE_NOOP("KalSqlTableModel", "1. Nachfrist")},
-    {"deadline_2", QT_TRANSLATE_NOOP("KalSqlTableModel", "2. Nachfrist")},
-    {"status_id", QT_TRANSLATE_NOOP("KalSqlTableModel", "Status")},
-};
-
-const char *const s_compactFields[] = {"number",   "description",     "company_id", "roomname",
-                                       "priority", "correction_date", "status_id"};
-
-bool isDateField(const QString &field)
-{
-    return field == QLatin1String("creation_date") || field == QLatin1String("correction_date") ||
-           field == QLatin1String("deadline_1") || field == QLatin1String("deadline_2");
-}
-
-QString captionOf(const QString &field)
-{
-    for (const Column &column : s_allColumns) {
-        if (field == QLatin1String(column.field))
-            return QCoreApplication::translate("KalSqlTableModel", column.caption);
-    }
-    return field;
-}
 
 // Stored dates come as ISO text (possibly with a time) or, from older
 // files, in the user's notation.
@@ -119,15 +76,7 @@ QString reductionSuffix()
 
 QStringList KalDefectCsv::columnFields(Columns columns)
 {
-    QStringList fields;
-    if (columns == Compact) {
-        for (const char *field : s_compactFields)
-            fields << QLatin1String(field);
-    } else {
-        for (const Column &column : s_allColumns)
-            fields << QLatin1String(column.field);
-    }
-    return fields;
+    return KalDefectColumns::fields(columns == Compact ? KalDefectColumns::Compact : KalDefectColumns::All);
 }
 
 QString KalDefectCsv::quoted(const QString &cell)
@@ -175,7 +124,7 @@ QByteArray KalDefectCsv::fromModel(const KalSqlTableModel *defects, Columns colu
         indexes << column;
         const QString header =
             column < 0 ? QString() : defects->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
-        captions << (header.isEmpty() ? captionOf(field) : header);
+        captions << (header.isEmpty() ? KalDefectColumns::caption(field) : header);
     }
     const int numberColumn = defects->fieldIndex(QStringLiteral("number"));
     const int idColumn = defects->idColumn();
@@ -196,7 +145,7 @@ QByteArray KalDefectCsv::fromModel(const KalSqlTableModel *defects, Columns colu
             }
             const QModelIndex index = defects->index(r, column);
             // Every date in the program's notation, also those the grid shows as stored.
-            if (isDateField(fields.at(i)))
+            if (KalDefectColumns::isDate(fields.at(i)))
                 row.cells << dateText(defects->data(index, Qt::EditRole));
             else
                 row.cells << defects->data(index, Qt::DisplayRole).toString();
@@ -241,7 +190,7 @@ bool KalDefectCsv::fromDatabase(const QSqlDatabase &db, Columns columns, const K
     const QStringList fields = columnFields(columns);
     QStringList captions;
     for (const QString &field : fields)
-        captions << captionOf(field);
+        captions << KalDefectColumns::caption(field);
 
     QStringList selected = fields;
     selected << QStringLiteral("id") << QStringLiteral("reduction");
@@ -271,7 +220,7 @@ bool KalDefectCsv::fromDatabase(const QSqlDatabase &db, Columns columns, const K
                     text += suffix;
             } else if (field == QLatin1String("plan_info_id")) {
                 text = value.isNull() ? QString() : plans.value(value.toLongLong());
-            } else if (isDateField(field)) {
+            } else if (KalDefectColumns::isDate(field)) {
                 text = dateText(value);
             } else {
                 text = value.toString();

@@ -7,7 +7,6 @@
 #include "core/project/KalProjectModels.h"
 #include "core/project/KalPrompt.h"
 #include "core/project/KalSettings.h"
-#include "core/project/KalSqlTableModel.h"
 
 #include <QBuffer>
 #include <QDateTime>
@@ -146,42 +145,6 @@ qint64 KalProject::nextId(const QString &table)
 bool KalProject::setIdCounter(const QString &table, qint64 value)
 {
     return KalDatabaseSchema::setIdCounter(database(), m_transactions, table, value);
-}
-
-qint64 KalProject::insertDefect(const QVariantMap &values)
-{
-    KalSqlTableModel *defects = model(QStringLiteral("defect"));
-    if (!defects)
-        return -1;
-    // The model's prime-insert step takes the id from the allocator.
-    const int row = defects->rowCount();
-    if (!defects->insertRows(row, 1))
-        return -1;
-    const qint64 id = defects->record(row).value(QStringLiteral("id")).toLongLong();
-    QVariantMap fields{{QStringLiteral("description"), QString(QLatin1String(""))},
-                       {QStringLiteral("priority"), QStringLiteral("Normal")},
-                       {QStringLiteral("creation_date"), KalEnvironment::now().date()},
-                       {QStringLiteral("plan_info_id"), -1},
-                       {QStringLiteral("image_cnt"), 0},
-                       {QStringLiteral("status_id"), 0},
-                       {QStringLiteral("reduction"), 0},
-                       {QStringLiteral("site_journal_data_modified"), 0},
-                       {QStringLiteral("imported_report_id"), -1},
-                       {QStringLiteral("site_journal_id"), -1},
-                       {QStringLiteral("delete_on_import"), 1}};
-    for (auto it = values.constBegin(); it != values.constEnd(); ++it)
-        fields.insert(it.key(), it.value());
-    bool ok = id > 0;
-    for (auto it = fields.constBegin(); ok && it != fields.constEnd(); ++it) {
-        const int column = defects->fieldIndex(it.key());
-        if (column >= 0 && it.key() != QLatin1String("id"))
-            ok = defects->setData(defects->index(row, column), it.value(), Qt::EditRole);
-    }
-    if (!ok || !defects->submitWithNotification(true)) {
-        defects->revertAll();
-        return -1;
-    }
-    return id;
 }
 
 int KalProject::readAutomaticImportMode()

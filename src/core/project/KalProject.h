@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/project/KalModelHost.h"
 #include "core/project/KalTransactions.h"
 
 #include <QCoreApplication>
@@ -17,7 +18,7 @@ class KalProjectModels;
 
 // The one open project: its working copy, lock, saving with backups,
 // integrity and compaction, and the table models on its connection.
-class KalProject : public QObject
+class KalProject : public QObject, public KalModelHost
 {
     Q_OBJECT
 
@@ -40,19 +41,13 @@ public:
     bool vacuumDatabase(bool silent = false);
 
     // Counted transactions on the project connection.
-    bool beginTransaction();
-    bool commitTransaction();
-    bool rollbackTransaction();
+    bool beginTransaction() override;
+    bool commitTransaction() override;
+    bool rollbackTransaction() override;
     KalTransactions &transactions() { return m_transactions; }
 
-    // Inserts a defect with the defaults of a new defect (priority "Normal",
-    // today's creation date, no plan, no photos) overridden by `values`
-    // (field name -> value), through the defect model, and submits it.
-    // Returns the new id, or -1 when it could not be written.
-    qint64 insertDefect(const QVariantMap &values = QVariantMap());
-
     // Ids of tables without AUTOINCREMENT; -1 on failure.
-    qint64 nextId(const QString &table);
+    qint64 nextId(const QString &table) override;
     bool setIdCounter(const QString &table, qint64 value);
 
     bool isOpen() const { return m_open; }
@@ -60,11 +55,12 @@ public:
     bool isUntitled() const { return m_projectPath.isEmpty(); }
     bool isModified() const { return m_modified; }
     void setModified(bool modified);
+    void markModified() override { setModified(true); }
 
     QString projectPath() const { return m_projectPath; }
     QString workingCopyPath() const { return m_workingCopyPath; }
     QString userDataPath() const { return m_userDataPath; }
-    QSqlDatabase database() const;
+    QSqlDatabase database() const override;
 
     // Values read when the project was opened.
     QString fileVersion() const { return m_fileVersion; }
@@ -74,12 +70,12 @@ public:
     QMap<QString, QString> tableMap() const { return m_tableMap; }
 
     // The models; null while no project is open.
-    KalSqlTableModel *model(const QString &table) const;
+    KalSqlTableModel *model(const QString &table) const override;
     KalProjectModels *models() const { return m_models.get(); }
 
     // Thumbnails of stored pictures (null image when absent).
-    QImage imageThumbnail(qint64 imageId) const;
-    QImage planThumbnail(qint64 planId) const;
+    QImage imageThumbnail(qint64 imageId) const override;
+    QImage planThumbnail(qint64 planId) const override;
 
     // --- helpers that do not need an open project ---
     // "ok" when sound, otherwise the reason.

@@ -1,7 +1,9 @@
 #include "KalProjectModels.h"
 
+#include "core/project/KalCompanies.h"
 #include "core/project/KalCompanyFormat.h"
-
+#include "core/project/KalDefectColumns.h"
+#include "core/project/KalDefects.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
 
@@ -18,7 +20,6 @@ struct Field
     int displayRole = KalSqlTableModel::NoDisplayRole;
 };
 
-constexpr QVariant::Type Bool = QVariant::Bool;
 constexpr QVariant::Type Int = QVariant::Int;
 constexpr QVariant::Type Double = QVariant::Double;
 constexpr QVariant::Type String = QVariant::String;
@@ -39,36 +40,14 @@ void declare(KalSqlTableModel *model, std::initializer_list<Field> fields)
 
 void declareDefect(KalSqlTableModel *m)
 {
-    declare(m,
-            {
-                {"id", Int},
-                {"number", String, QT_TRANSLATE_NOOP("KalSqlTableModel", "Nr.")},
-                {"description", String, QT_TRANSLATE_NOOP("KalSqlTableModel", "Beschreibung"),
-                 KalSqlTableModel::MultiLineRole},
-                {"company_id", Int, QT_TRANSLATE_NOOP("KalSqlTableModel", "Firma"), KalSqlTableModel::CompanyRole},
-                {"type", String, QT_TRANSLATE_NOOP("KalSqlTableModel", "Typ")},
-                {"user_id", String, QT_TRANSLATE_NOOP("KalSqlTableModel", "Autor")},
-                {"creation_date", Date, QT_TRANSLATE_NOOP("KalSqlTableModel", "Erfasst am")},
-                {"roomname", String, QT_TRANSLATE_NOOP("KalSqlTableModel", "Raum")},
-                {"roombook_number", String, QT_TRANSLATE_NOOP("KalSqlTableModel", "Raumbuch-Nr.")},
-                {"plan_info_id", Int, QT_TRANSLATE_NOOP("KalSqlTableModel", "Plan"), KalSqlTableModel::PlanRole},
-                {"image_cnt", Int, QT_TRANSLATE_NOOP("KalSqlTableModel", "Fotos")},
-                {"correction_instruction", String, QT_TRANSLATE_NOOP("KalSqlTableModel", "Beseitigungsanweisung")},
-                {"priority", String, QT_TRANSLATE_NOOP("KalSqlTableModel", "Priorität")},
-                {"correction_date", Date, QT_TRANSLATE_NOOP("KalSqlTableModel", "Frist"), KalSqlTableModel::DateRole},
-                {"deadline_1", Date, QT_TRANSLATE_NOOP("KalSqlTableModel", "1. Nachfrist"), KalSqlTableModel::DateRole},
-                {"deadline_2", Date, QT_TRANSLATE_NOOP("KalSqlTableModel", "2. Nachfrist"), KalSqlTableModel::DateRole},
-                // Deliberately without caption and display role, unlike the first two.
-                {"deadline_3", Date},
-                {"status_id", Int, QT_TRANSLATE_NOOP("KalSqlTableModel", "Status"), KalSqlTableModel::StatusRole},
-                {"reduction", Bool, QT_TRANSLATE_NOOP("KalSqlTableModel", "Minderung"), KalSqlTableModel::CheckRole},
-                {"plan_id", Int},
-                {"site_journal_data_modified", Int},
-                {"imported_report_id", Int},
-                {"site_journal_id", Int},
-                {"delete_on_import", Int},
-                {"description", String},
-            });
+    for (const KalDefectColumn &column : KalDefectColumns::columns()) {
+        const QString name = QString::fromLatin1(column.field);
+        m->declareField(name, column.type);
+        if (column.caption)
+            m->setHeaderText(name, KalDefectColumns::caption(name));
+        if (column.displayRole != KalSqlTableModel::NoDisplayRole)
+            m->setDisplayRole(name, column.displayRole);
+    }
 }
 
 void declareStatus(KalSqlTableModel *m)
@@ -259,6 +238,13 @@ KalProjectModels::KalProjectModels(KalProject *project)
     }
 
     KalSqlTableModel *defects = m_models.value(QStringLiteral("defect"));
+    defects->setRemovalRule([project](const QSqlRecord &defect, QStringList *changedTables) {
+        return KalDefects::removeDependants(*project, defect, changedTables);
+    });
+    m_models.value(QStringLiteral("company"))
+        ->setRemovalRule([project](const QSqlRecord &company, QStringList *changedTables) {
+            return KalCompanies::releaseDefects(*project, company, changedTables);
+        });
     defects->setLookupModel(KalSqlTableModel::CompanyRole, m_models.value(QStringLiteral("company")));
     defects->setLookupModel(KalSqlTableModel::StatusRole, m_models.value(QStringLiteral("status")));
     defects->setLookupModel(KalSqlTableModel::PlanRole, m_models.value(QStringLiteral("plan_info")));

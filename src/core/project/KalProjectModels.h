@@ -9,7 +9,8 @@ class KalSqlTableModel;
 
 // One KalSqlTableModel per project table the user interface edits, with
 // field types, captions, display roles, lookups between them and id
-// allocation on insert. Every model is selected with all rows. Rows a model
+// allocation on insert; the defect and company models carry the removal rules
+// of KalDefects and KalCompanies. Every model is selected with all rows. Rows a model
 // writes mark the project modified. Built by KalProject after every (re)opening of the
 // connection and destroyed before it closes.
 class KalProjectModels

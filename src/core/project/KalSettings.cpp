@@ -73,4 +73,18 @@ int numberOfBackups()
     return settings.value(QStringLiteral("File/NumberOfBackups"), 5).toInt();
 }
 
+LocaleChoice chosenLanguageAndCountry()
+{
+    const QLocale system = QLocale::system();
+    QSettings settings;
+    return {settings.value(QStringLiteral("Language"), int(system.language())).toInt(),
+            settings.value(QStringLiteral("Country"), int(system.country())).toInt()};
+}
+
+QLocale chosenLocale()
+{
+    const LocaleChoice chosen = chosenLanguageAndCountry();
+    return QLocale(QLocale::Language(chosen.language), QLocale::Country(chosen.country));
+}
+
 } // namespace KalSettings

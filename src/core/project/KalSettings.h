@@ -1,8 +1,10 @@
 #pragma once
 
+#include <QLocale>
 #include <QString>
 
-// Remembered folders for the file dialogs, one per kind of file.
+// Settings read in more than one place: remembered folders for the file
+// dialogs, one per kind of file, the number of backups and the chosen locale.
 namespace KalSettings {
 
 enum FileDialogKind {
@@ -26,5 +28,17 @@ void rememberFilePath(int kind, const QString &chosenPath, bool isDirectory);
 
 // "File/NumberOfBackups" with its default for saving.
 int numberOfBackups();
+
+// The language and country the user chose ("Language", "Country", Qt's
+// enumeration numbers), by default those of the system, as stored.
+struct LocaleChoice
+{
+    int language;
+    int country;
+};
+LocaleChoice chosenLanguageAndCountry();
+// The same as a locale (Qt may settle an odd pair on another country):
+// texts and dates follow it.
+QLocale chosenLocale();
 
 } // namespace KalSettings

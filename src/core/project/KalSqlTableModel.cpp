@@ -1,7 +1,7 @@
 #include "KalSqlTableModel.h"
 
 #include "core/project/KalDatabaseSchema.h"
-#include "core/project/KalProject.h"
+#include "core/project/KalModelHost.h"
 #include "core/project/KalTransactions.h"
 #include "core/textaids/KalDateFormat.h"
 
@@ -84,9 +84,9 @@ const QHash<qint64, QString> &emptyTexts()
 
 } // namespace
 
-KalSqlTableModel::KalSqlTableModel(KalProject *project, QObject *parent, const QSqlDatabase &db)
+KalSqlTableModel::KalSqlTableModel(KalModelHost *host, QObject *parent, const QSqlDatabase &db)
     : QSqlTableModel(parent, db)
-    , m_project(project)
+    , m_host(host)
     , m_ownTransactions(std::make_unique<KalTransactions>(database().connectionName()))
     , m_reductionSuffix(tr(" - mit Minderung"))
     , m_standardStatusText(tr("Standardstatus"))
@@ -134,6 +134,7 @@ void KalSqlTableModel::resetColumnInfo()
     m_imageCountColumn = -1;
     m_thumbnailIdColumn = -1;
     m_kind = Kind::Other;
+    m_userEditFlagColumn = fieldIndex(userEditFlagField(table));
     if (table == QLatin1String("defect")) {
         m_kind = Kind::Defect;
         m_reductionColumn = fieldIndex(QStringLiteral("reduction"));
@@ -358,9 +359,9 @@ bool KalSqlTableModel::select()
     if (ok)
         fetchAll();
     invalidateRowIndex();
-    // A submit that removed defects also removed photos and wrote
-    // tombstones with its own statements: show those tables anew.
-    if (m_dependantsChanged)
+    // A removal rule changed other tables with statements of its own (the
+    // photos of a removed defect, its tombstone): show those tables anew.
+    if (!m_changedTables.isEmpty())
         refreshDependentModels();
     return ok;
 }
@@ -380,7 +381,7 @@ bool KalSqlTableModel::submitWithNotification(bool notify)
     fetchAll();
     if (!ok)
         qDebug("SQL-Error: %s\n", qPrintable(lastError().text()));
-    if (m_dependantsChanged)
+    if (!m_changedTables.isEmpty())
         refreshDependentModels();
     if (notify)
         emit afterSubmit();
@@ -479,6 +480,8 @@ bool KalSqlTableModel::setData(const QModelIndex &idx, const QVariant &value, in
 {
     if (!idx.isValid())
         return false;
+    if (role == UserEditRole)
+        return userEdit(idx, value);
     if (role == Qt::CheckStateRole) {
         if (fieldType(idx.column()) != QVariant::Bool)
             return false;
@@ -495,6 +498,37 @@ bool KalSqlTableModel::setData(const QModelIndex &idx, const QVariant &value, in
     return QSqlTableModel::setData(idx, value, role);
 }
 
+QString KalSqlTableModel::userEditFlagField(const QString &table)
+{
+    if (table == QLatin1String("company"))
+        return QStringLiteral("modified");
+    if (table == QLatin1String("defect") || table == QLatin1String("photo_info"))
+        return QStringLiteral("site_journal_data_modified");
+    if (table == QLatin1String("kal"))
+        return QStringLiteral("project_data_modified");
+    return QString();
+}
+
+bool KalSqlTableModel::userEdit(const QModelIndex &idx, const QVariant &value)
+{
+    const QVariant stored = data(idx, Qt::EditRole);
+    // Same text, or both no date: nothing changed, nothing to mark.
+    const bool dateColumn = fieldType(idx.column()) == QVariant::Date;
+    const bool same = dateColumn ? storedDate(stored) == storedDate(value) : stored.toString() == value.toString();
+    if (same)
+        return true;
+    if (!setData(idx, value, Qt::EditRole))
+        return false;
+    return idx.column() == m_userEditFlagColumn || markUserEdited(idx.row());
+}
+
+bool KalSqlTableModel::markUserEdited(int row)
+{
+    if (m_userEditFlagColumn < 0)
+        return true;
+    return setData(index(row, m_userEditFlagColumn), 1, Qt::EditRole);
+}
+
 bool KalSqlTableModel::tableUsesIdAllocator() const
 {
     return m_idColumn >= 0 && !isAutoIncrementTable(tableName());
@@ -502,25 +536,25 @@ bool KalSqlTableModel::tableUsesIdAllocator() const
 
 qint64 KalSqlTableModel::allocateId(const QString &table)
 {
-    if (m_project)
-        return m_project->nextId(table);
+    if (m_host)
+        return m_host->nextId(table);
     return KalDatabaseSchema::nextId(database(), *m_ownTransactions, table);
 }
 
 bool KalSqlTableModel::beginTransaction()
 {
-    return m_project ? m_project->beginTransaction() : m_ownTransactions->begin();
+    return m_host ? m_host->beginTransaction() : m_ownTransactions->begin();
 }
 
 bool KalSqlTableModel::commitTransaction()
 {
-    return m_project ? m_project->commitTransaction() : m_ownTransactions->commit();
+    return m_host ? m_host->commitTransaction() : m_ownTransactions->commit();
 }
 
 void KalSqlTableModel::markProjectModified()
 {
-    if (m_project)
-        m_project->setModified(true);
+    if (m_host)
+        m_host->markModified();
 }
 
 void KalSqlTableModel::assignNewId(int row, QSqlRecord &record)
@@ -579,25 +613,30 @@ bool KalSqlTableModel::updateRowInTable(int row, const QSqlRecord &values)
 
 bool KalSqlTableModel::deleteRowFromTable(int row)
 {
-    if (m_kind != Kind::Defect) {
+    if (!m_removalRule) {
         const bool ok = QSqlTableModel::deleteRowFromTable(row);
         if (ok)
             markProjectModified();
         return ok;
     }
 
-    // The defect, its photos, their images and the note for the site
-    // journal go together or not at all.
+    // The row and what goes with it are removed together or not at all.
+    const QSqlRecord removed = storedRecord(row);
     if (!beginTransaction())
         return false;
     QSqlQuery savepoint(database());
-    savepoint.exec(QStringLiteral("SAVEPOINT kal_defect_removal"));
-    bool ok = QSqlTableModel::deleteRowFromTable(row) && removeDefectDependants(row);
+    savepoint.exec(QStringLiteral("SAVEPOINT kal_row_removal"));
+    QStringList changed;
+    const bool ok = QSqlTableModel::deleteRowFromTable(row) && m_removalRule(removed, &changed);
     if (ok) {
-        savepoint.exec(QStringLiteral("RELEASE SAVEPOINT kal_defect_removal"));
+        savepoint.exec(QStringLiteral("RELEASE SAVEPOINT kal_row_removal"));
+        for (const QString &table : qAsConst(changed)) {
+            if (!m_changedTables.contains(table))
+                m_changedTables << table;
+        }
     } else {
-        savepoint.exec(QStringLiteral("ROLLBACK TO SAVEPOINT kal_defect_removal"));
-        savepoint.exec(QStringLiteral("RELEASE SAVEPOINT kal_defect_removal"));
+        savepoint.exec(QStringLiteral("ROLLBACK TO SAVEPOINT kal_row_removal"));
+        savepoint.exec(QStringLiteral("RELEASE SAVEPOINT kal_row_removal"));
     }
     commitTransaction();
     if (ok)
@@ -605,55 +644,22 @@ bool KalSqlTableModel::deleteRowFromTable(int row)
     return ok;
 }
 
-bool KalSqlTableModel::removeDefectDependants(int row)
+QSqlRecord KalSqlTableModel::storedRecord(int row) const
 {
-    auto valueOf = [this, row](const char *field) { return baseValue(row, fieldIndex(QLatin1String(field))); };
-    const QVariant defectId = valueOf("id");
-    const QVariant siteJournalId = valueOf("site_journal_id");
-
-    QSqlQuery query(database());
-    query.prepare(QStringLiteral("DELETE FROM image WHERE id IN "
-                                 "(SELECT image_id FROM photo_info WHERE defect_id = :defect_id)"));
-    query.bindValue(QStringLiteral(":defect_id"), defectId);
-    if (!query.exec()) {
-        qDebug("SQL-Error: %s\n", qPrintable(query.lastError().text()));
-        return false;
-    }
-    query.prepare(QStringLiteral("DELETE FROM photo_info WHERE defect_id = :defect_id"));
-    query.bindValue(QStringLiteral(":defect_id"), defectId);
-    if (!query.exec()) {
-        qDebug("SQL-Error: %s\n", qPrintable(query.lastError().text()));
-        return false;
-    }
-    if (query.numRowsAffected() > 0)
-        m_dependantsChanged = true;
-
-    if (siteJournalId.isNull() || siteJournalId.toLongLong() == -1)
-        return true;
-    const qint64 id = allocateId(QStringLiteral("deleted_site_journal_defect"));
-    if (id <= 0)
-        return false;
-    query.prepare(QStringLiteral("INSERT INTO deleted_site_journal_defect (id, site_journal_id, number, "
-                                 "imported_report_id) VALUES (:id, :site_journal_id, :number, :imported_report_id)"));
-    query.bindValue(QStringLiteral(":id"), id);
-    query.bindValue(QStringLiteral(":site_journal_id"), siteJournalId);
-    query.bindValue(QStringLiteral(":number"), valueOf("number"));
-    query.bindValue(QStringLiteral(":imported_report_id"), valueOf("imported_report_id"));
-    if (!query.exec()) {
-        qDebug("SQL-Error: %s\n", qPrintable(query.lastError().text()));
-        return false;
-    }
-    m_dependantsChanged = true;
-    return true;
+    QSqlRecord rec = record();
+    for (int column = 0; column < rec.count(); ++column)
+        rec.setValue(column, baseValue(row, column));
+    return rec;
 }
 
 void KalSqlTableModel::refreshDependentModels()
 {
-    m_dependantsChanged = false;
-    if (!m_project)
+    const QStringList tables = m_changedTables;
+    m_changedTables.clear();
+    if (!m_host)
         return;
-    for (const QString &table : {QStringLiteral("photo_info"), QStringLiteral("deleted_site_journal_defect")}) {
-        KalSqlTableModel *model = m_project->model(table);
+    for (const QString &table : tables) {
+        KalSqlTableModel *model = m_host->model(table);
         if (model && model != this)
             model->submitWithNotification(true);
     }
@@ -775,13 +781,13 @@ QVariant KalSqlTableModel::displayData(const QModelIndex &idx) const
 
 QVariant KalSqlTableModel::toolTipData(int row) const
 {
-    if (!m_project)
+    if (!m_host)
         return QString();
     const QVariant id = baseValue(row, m_thumbnailIdColumn);
     if (id.isNull())
         return QString();
-    const QImage thumbnail = m_kind == Kind::PhotoInfo ? m_project->imageThumbnail(id.toLongLong())
-                                                       : m_project->planThumbnail(id.toLongLong());
+    const QImage thumbnail =
+        m_kind == Kind::PhotoInfo ? m_host->imageThumbnail(id.toLongLong()) : m_host->planThumbnail(id.toLongLong());
     if (thumbnail.isNull())
         return QString();
     QByteArray bytes;

@@ -7,18 +7,19 @@
 #include <QPointer>
 #include <QSqlTableModel>
 #include <QString>
+#include <QStringList>
 #include <QVariant>
 #include <QVector>
 #include <functional>
 #include <memory>
 
-class KalProject;
+class KalModelHost;
 class KalTransactions;
 
 // The model behind every project grid: a QSqlTableModel (manual submit) that
 // knows per column a field type, a display role and a background role, shows
-// looked-up texts for id columns, allocates ids on insert and removes the
-// photos of a defect together with the defect.
+// looked-up texts for id columns, allocates ids on insert and runs the removal
+// rule of its table (rows of other tables that go with a removed row).
 //
 // Display and edit roles: Qt::DisplayRole returns the text the column's
 // display role asks for; Qt::EditRole returns the stored value (a QDate for
@@ -58,13 +59,30 @@ public:
     };
 
     using CompanyFormatter = std::function<QString(const QSqlRecord &company)>;
+    // Runs inside the transaction that deletes `row`; adds the names of the
+    // tables it changed to `changedTables`. False undoes the whole removal.
+    using RemovalRule = std::function<bool(const QSqlRecord &row, QStringList *changedTables)>;
 
-    // `project` supplies ids, transactions, thumbnails and the modified flag;
+    // Custom role of setData(): a change the user made. Writes the value like
+    // Qt::EditRole and, when it differs from the stored one, sets the row's
+    // "changed here" flag (`modified` of companies, `site_journal_data_modified`
+    // of defects and photos, `project_data_modified` of the master data).
+    static constexpr int UserEditRole = Qt::UserRole + 1;
+    // The flag a user edit sets in `table`; empty for tables without one.
+    static QString userEditFlagField(const QString &table);
+    // Sets the "changed here" flag of `row` (for dialogs that compare a whole
+    // row on OK); true when the table has none.
+    bool markUserEdited(int row);
+
+    // `host` supplies ids, transactions, thumbnails and the modified flag;
     // without one the model allocates ids on its own connection.
-    explicit KalSqlTableModel(KalProject *project, QObject *parent = nullptr, const QSqlDatabase &db = QSqlDatabase());
+    explicit KalSqlTableModel(KalModelHost *host, QObject *parent = nullptr, const QSqlDatabase &db = QSqlDatabase());
     ~KalSqlTableModel() override;
 
-    KalProject *project() const { return m_project; }
+    KalModelHost *host() const { return m_host; }
+
+    // Rows of other tables that go with a removed row of this table.
+    void setRemovalRule(const RemovalRule &rule) { m_removalRule = rule; }
 
     void setTable(const QString &tableName) override;
 
@@ -129,7 +147,8 @@ public:
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
     // Keeps the id given to a new row when a record without id is written
-    // over it; stores check states of Bool columns as 1 / 0.
+    // over it; stores check states of Bool columns as 1 / 0; UserEditRole
+    // as described there.
     bool setData(const QModelIndex &index, const QVariant &value, int role = Qt::EditRole) override;
 
 public slots:
@@ -168,11 +187,13 @@ private:
     const QHash<qint64, QString> &lookupTexts(int role) const;
     void lookupSourceChanged(int role);
     void invalidateRowIndex() { m_rowIndexDirty = true; }
-    bool removeDefectDependants(int row);
+    bool userEdit(const QModelIndex &index, const QVariant &value);
+    QSqlRecord storedRecord(int row) const;
     void refreshDependentModels();
     QVariant baseValue(int row, int column) const;
 
-    KalProject *m_project = nullptr;
+    KalModelHost *m_host = nullptr;
+    RemovalRule m_removalRule;
     std::unique_ptr<KalTransactions> m_ownTransactions;
 
     // Per column, sized to the record of the table.
@@ -186,6 +207,7 @@ private:
     int m_imageCountColumn = -1;
     int m_thumbnailIdColumn = -1;
     enum class Kind { Other, Defect, PhotoInfo, PlanInfo };
+    int m_userEditFlagColumn = -1;
     Kind m_kind = Kind::Other;
 
     mutable QHash<int, Lookup> m_lookups;
@@ -193,9 +215,9 @@ private:
     mutable bool m_rowIndexDirty = true;
     mutable QIcon m_cameraIcon;
 
-    // Set while a submit removed photos or wrote tombstones, so the models
-    // that show those tables are re-selected afterwards.
-    bool m_dependantsChanged = false;
+    // Tables the removal rule changed during a submit; their models are
+    // re-selected afterwards.
+    QStringList m_changedTables;
 
     // Translated once: data() is called for every visible cell.
     QString m_reductionSuffix;

@@ -1,5 +1,8 @@
 #include "KalCompleterStore.h"
 
+#include "core/project/KalDefectColumns.h"
+#include "core/project/KalSettings.h"
+
 #include <QCoreApplication>
 #include <QLocale>
 #include <QSettings>
@@ -19,9 +22,7 @@ const QString DefectTable = QStringLiteral("defect");
 
 QString languageGroup()
 {
-    QSettings settings;
-    const int language = settings.value(QStringLiteral("Language"), int(QLocale::system().language())).toInt();
-    return QStringLiteral("Completer_%1").arg(language);
+    return QStringLiteral("Completer_%1").arg(KalSettings::chosenLanguageAndCountry().language);
 }
 
 QString completerGroup(const QString &tableId, const QString &columnId)
@@ -105,14 +106,11 @@ QString fieldCaption(const QString &tableId, const QString &columnId)
         const char *column;
         const char *caption;
     };
+    if (tableId == DefectTable) {
+        const QString caption = KalDefectColumns::aidCaption(columnId);
+        return caption.isEmpty() ? columnId : caption;
+    }
     static const Caption captions[] = {
-        {"defect", "description", QT_TRANSLATE_NOOP("KalCompleterStore", "Beschreibung")},
-        {"defect", "type", QT_TRANSLATE_NOOP("KalCompleterStore", "Typ")},
-        {"defect", "user_id", QT_TRANSLATE_NOOP("KalCompleterStore", "Autor")},
-        {"defect", "roomname", QT_TRANSLATE_NOOP("KalCompleterStore", "Raumname")},
-        {"defect", "roombook_number", QT_TRANSLATE_NOOP("KalCompleterStore", "Raumbuch-Nr.")},
-        {"defect", "correction_instruction", QT_TRANSLATE_NOOP("KalCompleterStore", "Beseitigungsanweisung")},
-        {"defect", "priority", QT_TRANSLATE_NOOP("KalCompleterStore", "Priorität")},
         {"plan_info", "plan_name", QT_TRANSLATE_NOOP("KalCompleterStore", "Plan-Name oder Nummer")},
         {"plan_info", "plan_index", QT_TRANSLATE_NOOP("KalCompleterStore", "Index")},
         {"photo_info", "caption", QT_TRANSLATE_NOOP("KalCompleterStore", "Titel")},

@@ -1,6 +1,7 @@
 #include "KalCompanyDialog.h"
 #include "ui_KalCompanyDialog.h"
 
+#include "core/project/KalCompanies.h"
 #include "core/project/KalPrivacyNotice.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
@@ -61,40 +62,10 @@ void KalCompanyDialog::accept()
 qint64 KalCompanyDialog::insertCompany(KalProject *project, const QString &type, const QString &firstName,
                                        const QString &lastName, const QString &company)
 {
-    KalSqlTableModel *model = project ? project->model(QStringLiteral("company")) : nullptr;
-    if (!model)
+    if (!project)
         return -1;
-    const qint64 id = project->nextId(QStringLiteral("company"));
-    if (id < 0)
-        return -1;
-    const int posColumn = model->fieldIndex(QStringLiteral("pos"));
-    qint64 pos = 0;
-    for (int row = 0; row < model->rowCount(); ++row)
-        pos = qMax(pos, model->data(model->index(row, posColumn), Qt::EditRole).toLongLong());
-
-    QSqlRecord record = model->record();
-    for (int i = 0; i < record.count(); ++i) {
-        // Every text column is NOT NULL: unknown values are empty texts.
-        if (record.field(i).type() == QVariant::String)
-            record.setValue(i, QString(QLatin1String("")));
-        record.setGenerated(i, true);
-    }
-    record.setValue(QStringLiteral("id"), id);
-    record.setValue(QStringLiteral("type"), type);
-    record.setValue(QStringLiteral("firstname"), firstName);
-    record.setValue(QStringLiteral("lastname"), lastName);
-    record.setValue(QStringLiteral("company"), company);
-    record.setValue(QStringLiteral("pos"), pos + 1);
-    record.setValue(QStringLiteral("modified"), 0);
-    record.setValue(QStringLiteral("site_journal_id"), -1);
-    record.setValue(QStringLiteral("delete_on_import"), 1);
-    if (!model->insertRecord(-1, record)) {
-        model->revertAll();
-        return -1;
-    }
-    if (!model->submitWithNotification(true)) {
-        model->revertAll();
-        return -1;
-    }
-    return model->findRowById(id) >= 0 ? id : -1;
+    return KalCompanies(*project).add({{QStringLiteral("type"), type},
+                                       {QStringLiteral("firstname"), firstName},
+                                       {QStringLiteral("lastname"), lastName},
+                                       {QStringLiteral("company"), company}});
 }

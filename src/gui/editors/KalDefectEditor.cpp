@@ -1,7 +1,9 @@
 #include "KalDefectEditor.h"
 #include "ui_KalDefectEditor.h"
 
+#include "core/project/KalDefects.h"
 #include "core/project/KalProject.h"
+#include "core/project/KalPrompt.h"
 #include "core/project/KalSqlTableModel.h"
 #include "gui/editors/KalCompanyDialog.h"
 #include "gui/textaids/KalCompleter.h"
@@ -181,7 +183,7 @@ void KalDefectEditor::setUpUi()
         field.first->setField(QStringLiteral("defect"), QLatin1String(field.second));
     m_ui->teDescription->setField(QStringLiteral("defect"), QStringLiteral("description"));
     m_ui->leUserId->setValidator(
-        new QRegularExpressionValidator(QRegularExpression(QStringLiteral("([a-z]|[A-Z]|){2}")), m_ui->leUserId));
+        new QRegularExpressionValidator(QRegularExpression(KalDefects::authorInputPattern()), m_ui->leUserId));
     // The third deadline is kept in the row but not edited here.
     m_ui->lblDeadline3->hide();
 
@@ -553,6 +555,15 @@ void KalDefectEditor::slotAccepted()
             return;
         }
     }
+    // The completer can put any text into the author field: only initials pass.
+    const QString author = m_ui->leUserId->text().toUpper();
+    if (!KalDefects::isValidAuthor(author)) {
+        KalPrompt::warning(tr("Erfasst von"),
+                           tr("Als Autor können Sie nur Initialen eingeben: höchstens zwei Buchstaben."));
+        m_ui->leUserId->setFocus();
+        return;
+    }
+    m_ui->leUserId->setText(author);
     m_finished = true;
     // The mapper's values, written only where they differ, so an unchanged
     // field keeps its stored form (NULL stays NULL).
@@ -575,7 +586,12 @@ void KalDefectEditor::slotAccepted()
         }
     }
     if (changed) {
-        writeValue(QStringLiteral("site_journal_data_modified"), 1);
+        m_defects->markUserEdited(m_row);
+        // New defects start with the initials last entered here.
+        for (const auto &entry : qAsConst(m_openValues)) {
+            if (entry.first == QLatin1String("user_id") && !sameValue(entry.second, author))
+                KalDefects::rememberAuthor(author);
+        }
     } else {
         // Nothing differs from the opening state: drop the cache entries the
         // mapper wrote, so nothing reaches the file.

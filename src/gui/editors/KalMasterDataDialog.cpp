@@ -1,6 +1,7 @@
 #include "KalMasterDataDialog.h"
 #include "ui_KalMasterDataDialog.h"
 
+#include "core/project/KalCompanies.h"
 #include "core/project/KalCompanyFormat.h"
 #include "core/project/KalPrivacyNotice.h"
 #include "core/project/KalProject.h"
@@ -26,6 +27,30 @@
 #include <QToolButton>
 
 namespace {
+
+// Says how many defects lose their company before companies are removed.
+bool confirmCompanyRemoval(int companies, int defects)
+{
+    const QString question = KalMasterDataDialog::tr("Soll der gewählte Eintrag tatsächlich entfernt werden?");
+    if (defects == 0)
+        return KalPrompt::yesNo(KalMasterDataDialog::tr("Eintrag entfernen"), question);
+    QString text;
+    if (companies == 1 && defects == 1)
+        text = KalMasterDataDialog::tr("Der gewählten Firma ist 1 Mangel zugeordnet. Er hat nach dem Löschen keine "
+                                       "Firma mehr.");
+    else if (companies == 1)
+        text = KalMasterDataDialog::tr("Der gewählten Firma sind %1 Mängel zugeordnet. Sie haben nach dem Löschen "
+                                       "keine Firma mehr.")
+                   .arg(defects);
+    else if (defects == 1)
+        text = KalMasterDataDialog::tr("Den gewählten Firmen ist 1 Mangel zugeordnet. Er hat nach dem Löschen keine "
+                                       "Firma mehr.");
+    else
+        text = KalMasterDataDialog::tr("Den gewählten Firmen sind %1 Mängel zugeordnet. Sie haben nach dem Löschen "
+                                       "keine Firma mehr.")
+                   .arg(defects);
+    return KalPrompt::yesNo(KalMasterDataDialog::tr("Firma entfernen"), text + QLatin1Char('\n') + question);
+}
 
 const char *const kGeometryKey = "MasterDataDialog/Geometry";
 
@@ -118,6 +143,9 @@ void KalMasterDataDialog::setUpCompanyPage()
             tvCompanies->setColumnWidth(m_companies->fieldIndex(QStringLiteral("email")), 170);
         }
         connect(tvCompanies, &KalTableView::signalAddButtonClicked, this, &KalMasterDataDialog::slotAddCompany);
+        tvCompanies->setDeleteQuestion([this](const QList<qint64> &ids) {
+            return confirmCompanyRemoval(ids.size(), KalCompanies(*m_project).defectCount(ids));
+        });
         connect(tvCompanies->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
                 &KalMasterDataDialog::slotScrollAfterSorting);
         connect(tvCompanies->horizontalHeader(), &QHeaderView::sectionResized, this, [this] {
@@ -207,24 +235,8 @@ void KalMasterDataDialog::slotAddCompany()
 {
     if (!m_companies || !m_project)
         return;
-    const qint64 id = m_project->nextId(QStringLiteral("company"));
+    const qint64 id = KalCompanies(*m_project).append();
     if (id < 0)
-        return;
-    const int posColumn = m_companies->fieldIndex(QStringLiteral("pos"));
-    qint64 pos = 0;
-    for (int row = 0; row < m_companies->rowCount(); ++row)
-        pos = qMax(pos, m_companies->data(m_companies->index(row, posColumn), Qt::EditRole).toLongLong());
-    QSqlRecord record = m_companies->record();
-    for (int i = 0; i < record.count(); ++i) {
-        if (record.field(i).type() == QVariant::String)
-            record.setValue(i, QString(QLatin1String("")));
-    }
-    record.setValue(QStringLiteral("id"), id);
-    record.setValue(QStringLiteral("pos"), pos + 1);
-    record.setValue(QStringLiteral("modified"), 1);
-    record.setValue(QStringLiteral("site_journal_id"), -1);
-    record.setValue(QStringLiteral("delete_on_import"), 1);
-    if (!m_companies->insertRecord(-1, record))
         return;
     // Written with OK, like every other change of this dialog.
     if (m_ui->tvCompanies->selectId(id)) {
@@ -358,12 +370,10 @@ void KalMasterDataDialog::actionSubmit()
             const QString text = it.value()->text();
             if (text == m_openTexts.value(it.key()))
                 continue;
-            m_kal->setData(m_kal->index(0, m_kal->fieldIndex(it.key())), text, Qt::EditRole);
+            m_kal->setData(m_kal->index(0, m_kal->fieldIndex(it.key())), text, KalSqlTableModel::UserEditRole);
             changed = true;
         }
         if (changed) {
-            m_kal->setData(m_kal->index(0, m_kal->fieldIndex(QStringLiteral("project_data_modified"))), 1,
-                           Qt::EditRole);
             if (!m_kal->submitWithNotification(true))
                 KalPrompt::critical(tr("Datenbankfehler"), tr("Die Projektdaten konnten nicht gespeichert werden."));
         }

@@ -1,6 +1,7 @@
 #include "KalLanguageDialog.h"
 
 #include "core/project/KalPrompt.h"
+#include "core/project/KalSettings.h"
 
 #include <QDialogButtonBox>
 #include <QLabel>
@@ -86,10 +87,8 @@ int KalLanguageDialog::buttonFor(int language, int country)
 
 KalLanguageDialog::Choice KalLanguageDialog::storedChoice()
 {
-    const QLocale system = QLocale::system();
-    QSettings settings;
-    return {settings.value(QStringLiteral("Language"), int(system.language())).toInt(),
-            settings.value(QStringLiteral("Country"), int(system.country())).toInt()};
+    const KalSettings::LocaleChoice stored = KalSettings::chosenLanguageAndCountry();
+    return {stored.language, stored.country};
 }
 
 KalLanguageDialog::Button KalLanguageDialog::checkedButton() const

@@ -1,5 +1,6 @@
 #include "KalMainWindow.h"
 
+#include "core/project/KalDefectColumns.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
 #include "core/project/KalRecentFiles.h"
@@ -42,54 +43,6 @@ const char *const kStateKey = "MainWindow/WindowState";
 const char *const kFormatKey = "TableView/Defect/DefectTableFormat";
 const char *const kTooltipHelpKey = "TooltipHelpActive";
 
-const QStringList &shortColumns()
-{
-    static const QStringList columns{"number",   "description",     "company_id", "roomname",
-                                     "priority", "correction_date", "status_id"};
-    return columns;
-}
-
-const QStringList &longColumns()
-{
-    static const QStringList columns{"number",
-                                     "description",
-                                     "company_id",
-                                     "type",
-                                     "user_id",
-                                     "creation_date",
-                                     "roomname",
-                                     "roombook_number",
-                                     "plan_info_id",
-                                     "image_cnt",
-                                     "correction_instruction",
-                                     "priority",
-                                     "correction_date",
-                                     "deadline_1",
-                                     "deadline_2",
-                                     "status_id"};
-    return columns;
-}
-
-// Default widths in average character widths; the description gets the rest.
-int defaultColumnChars(const QString &field)
-{
-    static const QHash<QString, int> chars{{"number", 6},
-                                           {"company_id", 22},
-                                           {"type", 22},
-                                           {"user_id", 12},
-                                           {"creation_date", 12},
-                                           {"roomname", 12},
-                                           {"roombook_number", 12},
-                                           {"plan_info_id", 16},
-                                           {"image_cnt", 7},
-                                           {"correction_instruction", 24},
-                                           {"priority", 9},
-                                           {"correction_date", 12},
-                                           {"deadline_1", 12},
-                                           {"deadline_2", 12},
-                                           {"status_id", 22}};
-    return chars.value(field, 12);
-}
 } // namespace
 
 // One row per command: the menus, the tool bar and the tests find each action
@@ -611,7 +564,8 @@ void KalMainWindow::applyDefectTableFormat()
     if (!model)
         return;
     QHeaderView *header = m_tvDefects->horizontalHeader();
-    const QStringList &visible = m_defectTableFormat == 2 ? longColumns() : shortColumns();
+    const QStringList visible =
+        KalDefectColumns::fields(m_defectTableFormat == 2 ? KalDefectColumns::All : KalDefectColumns::Compact);
     for (int column = 0; column < model->columnCount(); ++column)
         m_tvDefects->setColumnHidden(column, true);
     for (const QString &field : visible) {
@@ -625,11 +579,12 @@ void KalMainWindow::applyDefectTableFormat()
         int used = 0;
         for (const QString &field : visible) {
             const int column = model->fieldIndex(field);
+            // The description takes what the others leave.
             if (column < 0 || field == QLatin1String("description"))
                 continue;
             const int captionWidth =
                 header->fontMetrics().horizontalAdvance(model->headerData(column, Qt::Horizontal).toString()) + 24;
-            const int width = qMax(captionWidth, defaultColumnChars(field) * charWidth);
+            const int width = qMax(captionWidth, KalDefectColumns::widthChars(field) * charWidth);
             header->resizeSection(column, width);
             used += width;
         }

@@ -134,10 +134,8 @@ private:
     struct ActionSpec;
     static const QVector<ActionSpec> &actionTable();
 
-    int highestDefectNumber() const;
     void openMasterData(int page);
     void importCompanies(int source);
-    qint64 insertDefectRow(const QMap<QString, QVariant> &values);
     void createActions();
     void createMenus();
     void createCentralWidget();

@@ -2,7 +2,8 @@
 
 #include "gui/mainwindow/KalMainWindow.h"
 
-#include "core/project/KalEnvironment.h"
+#include "core/project/KalDatabaseSchema.h"
+#include "core/project/KalDefects.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
 #include "core/project/KalRecentFiles.h"
@@ -29,32 +30,6 @@
 #include <QItemSelectionModel>
 #include <QSettings>
 #include <QSqlError>
-#include <QSqlQuery>
-#include <QSqlRecord>
-
-namespace {
-// Fields a copy takes over from its source; number, plan, position, photos
-// and everything the site-journal import owns stay behind on purpose.
-const QStringList &copiedFields()
-{
-    static const QStringList fields{"description",
-                                    "company_id",
-                                    "type",
-                                    "user_id",
-                                    "roomname",
-                                    "roombook_number",
-                                    "correction_instruction",
-                                    "priority",
-                                    "reduction",
-                                    "creation_date",
-                                    "correction_date",
-                                    "deadline_1",
-                                    "deadline_2",
-                                    "deadline_3",
-                                    "status_id"};
-    return fields;
-}
-} // namespace
 
 void KalMainWindow::slotCreateFile()
 {
@@ -108,99 +83,22 @@ bool KalMainWindow::createProjectAt(const QString &path)
 
 // --- defects ---
 
-int KalMainWindow::highestDefectNumber() const
-{
-    KalSqlTableModel *model = defectModel();
-    const int numberColumn = model->fieldIndex(QStringLiteral("number"));
-    int highest = 0;
-    for (int row = 0; row < model->rowCount(); ++row)
-        highest = qMax(highest, model->data(model->index(row, numberColumn), Qt::EditRole).toString().toInt());
-    return highest;
-}
-
-qint64 KalMainWindow::insertDefectRow(const QMap<QString, QVariant> &values)
-{
-    KalSqlTableModel *model = defectModel();
-    const int row = model->rowCount();
-    // Inserting a row gives it its id from the allocator.
-    if (!model->insertRow(row))
-        return -1;
-    const qint64 id =
-        model->data(model->index(row, model->fieldIndex(QStringLiteral("id"))), Qt::EditRole).toLongLong();
-    for (auto it = values.constBegin(); it != values.constEnd(); ++it) {
-        const int column = model->fieldIndex(it.key());
-        if (column >= 0 && !model->setData(model->index(row, column), it.value(), Qt::EditRole)) {
-            model->revertRow(row);
-            return -1;
-        }
-    }
-    if (id <= 0) {
-        model->revertRow(row);
-        return -1;
-    }
-    return id;
-}
-
 qint64 KalMainWindow::addDefect()
 {
-    KalSqlTableModel *model = defectModel();
-    if (!model)
+    if (!defectModel())
         return -1;
-    model->fetchAll();
-    const QMap<QString, QVariant> values{
-        {QStringLiteral("number"), QStringLiteral("%1").arg(highestDefectNumber() + 1, 4, 10, QLatin1Char('0'))},
-        {QStringLiteral("description"), QString(QLatin1String(""))},
-        {QStringLiteral("creation_date"), KalEnvironment::now().date()},
-        {QStringLiteral("user_id"), KalEnvironment::userName()},
-        {QStringLiteral("priority"), QStringLiteral("Normal")},
-        {QStringLiteral("image_cnt"), 0},
-    };
-    const qint64 id = insertDefectRow(values);
-    if (id <= 0)
-        return -1;
-    if (!model->submitWithNotification(true))
-        return -1;
-    selectDefects({id});
+    const qint64 id = KalDefects(*m_project).add();
+    if (id > 0)
+        selectDefects({id});
     return id;
 }
 
 QList<qint64> KalMainWindow::copyDefects(const QList<qint64> &ids)
 {
-    QList<qint64> copies;
-    KalSqlTableModel *model = defectModel();
-    if (!model || ids.isEmpty())
-        return copies;
-    model->fetchAll();
-    int highest = highestDefectNumber();
-
-    QVector<QSqlRecord> sources;
-    for (qint64 sourceId : ids) {
-        const int sourceRow = model->findRowById(sourceId);
-        if (sourceRow >= 0)
-            sources << model->record(sourceRow);
-    }
-    m_project->beginTransaction();
-    for (const QSqlRecord &source : qAsConst(sources)) {
-        QMap<QString, QVariant> values{
-            {QStringLiteral("number"), QStringLiteral("%1").arg(++highest, 4, 10, QLatin1Char('0'))},
-            {QStringLiteral("image_cnt"), 0},
-        };
-        for (const QString &field : copiedFields())
-            values.insert(field, source.value(field));
-        const qint64 id = insertDefectRow(values);
-        if (id <= 0)
-            break;
-        copies << id;
-    }
-    const bool ok = !copies.isEmpty() && model->submitWithNotification(true);
-    if (ok) {
-        m_project->commitTransaction();
-        selectDefects(copies);
-    } else {
-        m_project->rollbackTransaction();
-        model->revertAll();
-        copies.clear();
-    }
+    if (!defectModel())
+        return {};
+    const QList<qint64> copies = KalDefects(*m_project).copy(ids);
+    selectDefects(copies);
     return copies;
 }
 
@@ -395,12 +293,10 @@ bool KalMainWindow::linkSiteJournal(const QString &siteJournalPath)
 {
     if (!m_project->isOpen())
         return false;
-    QSqlQuery query(m_project->database());
-    query.prepare(QStringLiteral("INSERT OR REPLACE INTO meta (key, value) VALUES (:key, :value)"));
-    query.bindValue(QStringLiteral(":key"), QStringLiteral("siteJournalDatabasePath"));
-    query.bindValue(QStringLiteral(":value"), QFileInfo(siteJournalPath).absoluteFilePath());
-    if (!query.exec()) {
-        KAL_REPORT_SQL_ERROR(query.lastError(), "KalMainWindow", "linkSiteJournal");
+    QSqlError error;
+    if (!KalDatabaseSchema::setMetaValue(m_project->database(), QStringLiteral("siteJournalDatabasePath"),
+                                         QFileInfo(siteJournalPath).absoluteFilePath(), &error)) {
+        KAL_REPORT_SQL_ERROR(error, "KalMainWindow", "linkSiteJournal");
         return false;
     }
     if (KalSqlTableModel *meta = m_project->model(QStringLiteral("meta")))

@@ -50,15 +50,6 @@ QDate toDate(const QVariant &value)
     return date;
 }
 
-// The field a user edit marks, so the site-journal import can tell edited rows apart.
-QString modifiedFlagField(const QString &table)
-{
-    if (table == QLatin1String("company"))
-        return QStringLiteral("modified");
-    if (table == QLatin1String("defect") || table == QLatin1String("photo_info"))
-        return QStringLiteral("site_journal_data_modified");
-    return QString();
-}
 } // namespace
 
 KalItemDelegate::KalItemDelegate(QObject *parent)
@@ -274,27 +265,9 @@ void KalItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, c
         return;
     }
 
-    const QVariant stored = model->data(index, Qt::EditRole);
-    bool changed;
-    if (isDateEditor(number))
-        changed = toDate(stored) != value.toDate();
-    else
-        changed = stored.toString() != value.toString();
-    if (!changed)
-        return;
-
-    if (!model->setData(index, value, Qt::EditRole))
-        return;
-
-    KalSqlTableModel *sql = sqlModel(model);
-    if (!sql)
-        return;
-    const QString flag = modifiedFlagField(sql->tableName());
-    if (flag.isEmpty())
-        return;
-    const int flagColumn = sql->fieldIndex(flag);
-    if (flagColumn >= 0)
-        sql->setData(sql->index(source.row(), flagColumn), 1, Qt::EditRole);
+    // The model writes only a changed value and then marks the row as
+    // changed here, so the site-journal import can tell edited rows apart.
+    model->setData(index, value, sqlModel(model) ? KalSqlTableModel::UserEditRole : int(Qt::EditRole));
 }
 
 void KalItemDelegate::updateEditorGeometry(QWidget *editor, const QStyleOptionViewItem &option,

@@ -340,7 +340,9 @@ bool KalTableView::deleteSelectedRows()
     const bool several = rows.size() > 1;
     bool yes;
     const int n = rows.size();
-    if (m_sqlModel->tableName() == QLatin1String("status")) {
+    if (m_deleteQuestion) {
+        yes = m_deleteQuestion(selectedIds());
+    } else if (m_sqlModel->tableName() == QLatin1String("status")) {
         yes = KalPrompt::yesNo(
             tr("Status löschen"),
             several ? tr("Wenn Sie einen Status löschen, der bereits Mängeln zugeordnet ist, verlieren diese Mängel "

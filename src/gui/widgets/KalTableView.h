@@ -3,6 +3,7 @@
 #include <QList>
 #include <QPointer>
 #include <QTableView>
+#include <functional>
 
 class KalItemDelegate;
 class KalSqlTableModel;
@@ -58,6 +59,10 @@ public:
     // Asks the table's question and removes the selected rows on Yes.
     // Returns true when rows were removed.
     bool deleteSelectedRows();
+    // Replaces the table's question: gets the ids of the selected rows and
+    // returns true to remove them.
+    using DeleteQuestion = std::function<bool(const QList<qint64> &ids)>;
+    void setDeleteQuestion(const DeleteQuestion &question) { m_deleteQuestion = question; }
 
     static QString emptyHintText();
 
@@ -102,6 +107,7 @@ private:
     QToolButton *m_copyButton = nullptr;
     QLabel *m_hintLabel = nullptr;
     bool m_restoreAfterSort = false;
+    DeleteQuestion m_deleteQuestion;
     QPointer<KalItemDelegate> m_delegate;
     QPointer<KalSqlTableModel> m_sqlModel;
     QList<qint64> m_storedIds;

@@ -1,5 +1,6 @@
 #include "CompanyTestData.h"
 
+#include "core/project/KalDefects.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
 
@@ -52,7 +53,7 @@ bool createDefectProject(const QString &path)
          {"roomname", "Küche"},
          {"priority", "Hoch"},
          {"type", "Mangel"},
-         {"user_id", "erika"}},
+         {"user_id", "EM"}},
         {{"number", "2"},
          {"description", "Fliese lose"},
          {"company_id", companies.insertedIds.at(1)},
@@ -62,7 +63,7 @@ bool createDefectProject(const QString &path)
         {{"number", "B7"}, {"description", "Kratzer"}, {"creation_date", QDate(2024, 2, 4)}},
     };
     for (const QVariantMap &values : defects) {
-        if (project.insertDefect(values) < 0)
+        if (KalDefects(project).add(values) < 0)
             return false;
     }
     const bool saved = project.saveProject(path) == KalProject::Saved;

@@ -1,6 +1,7 @@
 // A second program instance for the lock and crash tests: opens a project
 // through the real lifecycle and then holds it, edits it or saves it in a
 // loop, reporting each step on stdout.
+#include "core/project/KalDefects.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
 #include "core/project/KalSqlTableModel.h"
@@ -48,7 +49,8 @@ int main(int argc, char **argv)
     }
     if (mode == QLatin1String("edit")) {
         for (int i = 1; i <= count; ++i) {
-            const qint64 id = project.insertDefect({{QStringLiteral("description"), QStringLiteral("edit %1").arg(i)}});
+            const qint64 id =
+                KalDefects(project).add({{QStringLiteral("description"), QStringLiteral("edit %1").arg(i)}});
             if (id < 0)
                 return 1;
             report("committed", i);
@@ -61,7 +63,8 @@ int main(int argc, char **argv)
     }
     if (mode == QLatin1String("saveloop")) {
         for (int i = 1; i <= count; ++i) {
-            const qint64 id = project.insertDefect({{QStringLiteral("description"), QStringLiteral("save %1").arg(i)}});
+            const qint64 id =
+                KalDefects(project).add({{QStringLiteral("description"), QStringLiteral("save %1").arg(i)}});
             if (id < 0)
                 return 1;
             report("committed", i);

@@ -1,3 +1,4 @@
+#include "core/project/KalDefects.h"
 #include "core/project/KalEnvironment.h"
 #include "core/project/KalFileOps.h"
 #include "core/project/KalProject.h"
@@ -36,7 +37,7 @@ private:
         KalProject project;
         if (!project.openProject(file))
             return false;
-        if (project.insertDefect(defect(description)) < 0)
+        if (KalDefects(project).add(defect(description)) < 0)
             return false;
         const int result = project.saveProject();
         return project.closeProject() && result == KalProject::Saved;
@@ -74,7 +75,7 @@ private slots:
         QCOMPARE(m_prompt->texts().last(), QStringLiteral("Dateiname fehlt."));
         QCOMPARE(m_prompt->titles().last(), QStringLiteral("interner Fehler"));
 
-        QVERIFY(project.insertDefect(defect("erster")) > 0);
+        QVERIFY(KalDefects(project).add(defect("erster")) > 0);
         const QString file = path("neu.pwp");
         QCOMPARE(project.saveProject(file), int(KalProject::Saved));
         QVERIFY(!QFileInfo::exists(wc));
@@ -207,9 +208,9 @@ private slots:
         QVERIFY(openAddSave(file, "a"));
         KalProject project;
         QVERIFY(project.openProject(file));
-        project.insertDefect(defect("b"));
+        KalDefects(project).add(defect("b"));
         QCOMPARE(project.saveProject(), int(KalProject::Saved));
-        project.insertDefect(defect("c"));
+        KalDefects(project).add(defect("c"));
         QCOMPARE(project.saveProject(), int(KalProject::Saved));
         QCOMPARE(countRows(file, "defect"), 3);
         // The first save pushed the chain, the second only replaced the newest.
@@ -480,7 +481,7 @@ private slots:
         QVERIFY(createProject(file, 1));
         KalProject project;
         QVERIFY(project.openProject(file));
-        QVERIFY(project.insertDefect(defect("ungespeichert")) > 0);
+        QVERIFY(KalDefects(project).add(defect("ungespeichert")) > 0);
         const QByteArray before = fileHash(file);
         KalEnvironment::setVolumeInfoFunction([](const QString &) {
             return KalEnvironment::VolumeInfo{true, true, 0, "/voll"};
@@ -494,7 +495,7 @@ private slots:
         QVERIFY(!QFileInfo::exists(file + ".bak"));
         // Still open and usable, with the unsaved defect.
         QVERIFY(project.isOpen());
-        QVERIFY(project.insertDefect(defect("noch einer")) > 0);
+        QVERIFY(KalDefects(project).add(defect("noch einer")) > 0);
         KalEnvironment::setVolumeInfoFunction({});
         QCOMPARE(project.saveProject(), int(KalProject::Saved));
         QCOMPARE(countRows(file, "defect"), 3);
@@ -532,7 +533,7 @@ private slots:
         QVERIFY(createProject(file, 1));
         KalProject project;
         QVERIFY(project.openProject(file));
-        QVERIFY(project.insertDefect(defect("neu")) > 0);
+        QVERIFY(KalDefects(project).add(defect("neu")) > 0);
         const QByteArray before = fileHash(file);
         KalFileOps::setFaultHook([operation](const QString &op, const QString &) { return op == operation; });
         QCOMPARE(project.saveProject(), int(KalProject::SaveFailed));
@@ -576,7 +577,7 @@ private slots:
         QVERIFY(createProject(file, 1));
         KalProject project;
         QVERIFY(project.openProject(file));
-        QVERIFY(project.insertDefect(defect("nur im neuen")) > 0);
+        QVERIFY(KalDefects(project).add(defect("nur im neuen")) > 0);
         const QString target = path("neu.pwp");
         QCOMPARE(project.saveProject(target), int(KalProject::Saved));
         QVERIFY(!QFileInfo::exists(file + ".workingcopy"));
@@ -587,7 +588,7 @@ private slots:
         QCOMPARE(countRows(target, "defect"), 2);
         QVERIFY(!QFileInfo::exists(target + ".bak")); // save as makes no backups
         // Edits continue in the new project.
-        QVERIFY(project.insertDefect(defect("danach")) > 0);
+        QVERIFY(KalDefects(project).add(defect("danach")) > 0);
         QCOMPARE(project.saveProject(), int(KalProject::Saved));
         QCOMPARE(countRows(target, "defect"), 3);
         QVERIFY(project.closeProject());
@@ -654,7 +655,7 @@ private slots:
         QVERIFY(execute(file, statements));
         KalProject project;
         QVERIFY(project.openProject(file));
-        QCOMPARE(project.insertDefect(defect("neu")), qint64(501));
+        QCOMPARE(KalDefects(project).add(defect("neu")), qint64(501));
         QCOMPARE(project.nextId("company"), qint64(1));
         QCOMPARE(project.saveProject(), int(KalProject::Saved));
         QVERIFY(project.closeProject());
@@ -783,7 +784,7 @@ private slots:
         QVERIFY(createProject(file, 1));
         KalProject project;
         QVERIFY(project.openProject(file));
-        QVERIFY(project.insertDefect(defect("neu")) > 0);
+        QVERIFY(KalDefects(project).add(defect("neu")) > 0);
         if (QProcess::execute("chattr", {"+i", folder}) != 0)
             QSKIP("cannot make the folder immutable here");
         const QByteArray before = fileHash(file);

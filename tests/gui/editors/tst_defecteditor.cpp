@@ -1,5 +1,6 @@
 #include "tst_defecteditor.h"
 
+#include "core/project/KalDefects.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
 #include "gui/editors/KalDefectEditor.h"
@@ -85,7 +86,7 @@ void TstDefectEditor::init()
 
 qint64 TstDefectEditor::newDefect(const QVariantMap &values)
 {
-    return m_fx.project()->insertDefect(values);
+    return KalDefects(*m_fx.project()).add(values);
 }
 
 int TstDefectEditor::rowOf(qint64 id) const

@@ -1,0 +1,181 @@
+#include "KalCliProject.h"
+
+#include "cli/KalCli.h"
+#include "core/project/KalDatabaseSchema.h"
+#include "core/project/KalProject.h"
+#include "core/project/KalPrompt.h"
+#include "core/project/KalSettings.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QSqlDatabase>
+#include <QSqlError>
+#include <QSqlQuery>
+
+using namespace KalCli;
+
+namespace {
+
+// A command that takes no options refuses any.
+bool noOptions(const QStringList &options, int *code)
+{
+    if (options.isEmpty())
+        return true;
+    *code = usageError(QStringLiteral("unknown argument '%1'").arg(options.first()));
+    return false;
+}
+
+QString integrityOf(const QString &file)
+{
+    QString result;
+    kalCliReadOnly(file, [&](QSqlDatabase &db) {
+        result = db.isOpen() ? KalProject::checkIntegrity(db.connectionName()) : db.lastError().text();
+    });
+    return result;
+}
+
+struct FileInfo
+{
+    bool opened = false;
+    QString integrity;
+    QString version;
+    QString name;
+    QJsonObject counts;
+};
+
+FileInfo readInfo(const QString &file)
+{
+    FileInfo info;
+    kalCliReadOnly(file, [&](QSqlDatabase &db) {
+        info.opened = db.isOpen();
+        if (!info.opened) {
+            info.integrity = db.lastError().text();
+            return;
+        }
+        info.integrity = KalProject::checkIntegrity(db.connectionName());
+        info.version = KalDatabaseSchema::fileVersion(db);
+        const QStringList tables = KalDatabaseSchema::tableMap(db).keys();
+        for (const QString &table : tables) {
+            if (table.startsWith(QLatin1String("sqlite_")))
+                continue;
+            QSqlQuery q(db);
+            if (q.exec(QStringLiteral("SELECT COUNT(*) FROM \"%1\"").arg(table)) && q.next())
+                info.counts.insert(table, q.value(0).toLongLong());
+        }
+        QSqlQuery q(db);
+        if (q.exec(QStringLiteral("SELECT projectname FROM kal ORDER BY id LIMIT 1")) && q.next())
+            info.name = q.value(0).toString();
+    });
+    return info;
+}
+
+} // namespace
+
+void kalCliReadOnly(const QString &file, const std::function<void(QSqlDatabase &db)> &read)
+{
+    const QString connection = QStringLiteral("CLIREADONLY");
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
+        db.setDatabaseName(file);
+        db.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=500"));
+        if (db.open())
+            KalDatabaseSchema::applySafetyPragmas(db);
+        read(db);
+        db.close();
+    }
+    QSqlDatabase::removeDatabase(connection);
+}
+
+int kalCliNew(const QString &file, const QStringList &options)
+{
+    int code = Usage;
+    if (!noOptions(options, &code))
+        return code;
+    if (QFileInfo::exists(file)) {
+        KalPrompt::critical(
+            tr("Dateifehler"),
+            tr("Die Datei\n%1\nexistiert bereits und wird nicht überschrieben.").arg(QDir::toNativeSeparators(file)));
+        return Failed;
+    }
+    KalProject project;
+    if (!project.newProject())
+        return Failed;
+    const int saved = project.saveProject(QFileInfo(file).absoluteFilePath());
+    project.closeProject();
+    return saved == KalProject::Saved ? Success : Failed;
+}
+
+int kalCliInfo(const QString &file, const QStringList &options)
+{
+    const Options parsed = parseOptions(options, {}, {QStringLiteral("--json")});
+    if (!parsed.error.isEmpty())
+        return usageError(parsed.error);
+    if (fileMissing(file))
+        return Failed;
+    const FileInfo info = readInfo(file);
+    const QString path = QFileInfo(file).absoluteFilePath();
+    if (parsed.flags.contains(QStringLiteral("--json"))) {
+        QJsonObject json;
+        json.insert(QStringLiteral("file"), path);
+        json.insert(QStringLiteral("fileversion"), info.version);
+        json.insert(QStringLiteral("integrity"), info.integrity);
+        json.insert(QStringLiteral("projectname"), info.name);
+        json.insert(QStringLiteral("tables"), info.counts);
+        out(QString::fromUtf8(QJsonDocument(json).toJson(QJsonDocument::Indented)).trimmed());
+    } else {
+        out(QStringLiteral("File:         %1").arg(QDir::toNativeSeparators(path)));
+        out(QStringLiteral("File version: %1").arg(info.version.isEmpty() ? QStringLiteral("-") : info.version));
+        out(QStringLiteral("Integrity:    %1").arg(info.integrity));
+        out(QStringLiteral("Project name: %1").arg(info.name));
+        out(QStringLiteral("Rows per table:"));
+        for (auto it = info.counts.constBegin(); it != info.counts.constEnd(); ++it)
+            out(QStringLiteral("  %1 %2").arg(it.key(), -32).arg(it.value().toVariant().toLongLong()));
+    }
+    return info.opened && !info.counts.isEmpty() ? Success : Failed;
+}
+
+int kalCliCheck(const QString &file, const QStringList &options)
+{
+    int code = Usage;
+    if (!noOptions(options, &code))
+        return code;
+    if (fileMissing(file))
+        return Failed;
+    const QString result = integrityOf(file);
+    out(QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(file), result));
+    const int slotCount = qMax(8, KalSettings::numberOfBackups());
+    for (int slot = 0; slot < slotCount; ++slot) {
+        const QString backup = KalProject::backupFileName(file, slot);
+        if (QFileInfo::exists(backup))
+            out(QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(backup), integrityOf(backup)));
+    }
+    return result == QLatin1String("ok") ? Success : Failed;
+}
+
+int kalCliVacuum(const QString &file, const QStringList &options)
+{
+    int code = Usage;
+    if (!noOptions(options, &code))
+        return code;
+    if (fileMissing(file))
+        return Failed;
+    KalProject project;
+    if (!kalCliOpenForWriting(project, file))
+        return Failed;
+    const bool ok = project.vacuumDatabase(false);
+    project.closeProject();
+    return ok ? Success : Failed;
+}
+
+bool kalCliOpenForWriting(KalProject &project, const QString &file)
+{
+    if (!project.openProject(file))
+        return false;
+    if (project.isWriteProtected()) {
+        project.closeProject();
+        return false;
+    }
+    return true;
+}

@@ -1,0 +1,252 @@
+// The rules for defects and companies as every window, dialog and import
+// meets them: through the project's models and the core rule classes.
+#include "core/import/KalCompanyImport.h"
+#include "core/project/KalCompanies.h"
+#include "core/project/KalDefects.h"
+#include "core/project/KalProject.h"
+#include "core/project/KalSqlTableModel.h"
+#include "support/KalScriptedPrompt.h"
+#include "support/KalTestSettings.h"
+
+#include <QSettings>
+#include <QSqlQuery>
+#include <QtTest>
+
+class TstDefects : public QObject
+{
+    Q_OBJECT
+
+private:
+    KalScriptedPrompt *m_prompt = nullptr;
+    std::unique_ptr<KalProject> m_project;
+
+    KalSqlTableModel *model(const char *table) const { return m_project->model(QLatin1String(table)); }
+
+    QVariant scalar(const QString &sql)
+    {
+        QSqlQuery q(m_project->database());
+        return q.exec(sql) && q.next() ? q.value(0) : QVariant();
+    }
+
+    qint64 company(const QString &name) { return KalCompanies(*m_project).add({{QStringLiteral("company"), name}}); }
+
+    qint64 defect(qint64 companyId) { return KalDefects(*m_project).add({{QStringLiteral("company_id"), companyId}}); }
+
+private slots:
+    void initTestCase()
+    {
+        KalTestSettings::isolate();
+        m_prompt = KalScriptedPrompt::install();
+    }
+
+    void init()
+    {
+        m_prompt->clear();
+        m_project = std::make_unique<KalProject>();
+        QVERIFY(m_project->newProject());
+    }
+
+    void cleanup()
+    {
+        m_project->closeProject();
+        m_project.reset();
+    }
+
+    void removedDefectTakesItsPlanItemsAlong_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::newRow("marker") << "marker";
+        QTest::newRow("text") << "marker_text";
+    }
+
+    void removedDefectTakesItsPlanItemsAlong()
+    {
+        QFETCH(QString, table);
+        const qint64 doomed = KalDefects(*m_project).add();
+        const qint64 kept = KalDefects(*m_project).add();
+        QSqlQuery q(m_project->database());
+        for (qint64 defectId : {doomed, doomed, kept})
+            QVERIFY(q.exec(
+                QStringLiteral("INSERT INTO %1 (plan_info_id, defect_id) VALUES (1, %2)").arg(table).arg(defectId)));
+        QVERIFY(model(table.toLatin1().constData())->select());
+
+        QVERIFY(model("defect")->removeRowsById({doomed}));
+        QCOMPARE(scalar(QStringLiteral("SELECT COUNT(*) FROM %1 WHERE defect_id = %2").arg(table).arg(doomed)).toInt(),
+                 0);
+        QCOMPARE(scalar(QStringLiteral("SELECT COUNT(*) FROM %1 WHERE defect_id = %2").arg(table).arg(kept)).toInt(),
+                 1);
+        // The plan editor's model no longer shows them.
+        QCOMPARE(model(table.toLatin1().constData())->rowCount(), 1);
+    }
+
+    void authorInitials_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("valid");
+        QTest::newRow("none") << "" << true;
+        QTest::newRow("one letter") << "K" << true;
+        QTest::newRow("two capitals") << "KM" << true;
+        QTest::newRow("lower case") << "km" << false;
+        QTest::newRow("six letters") << "MUELLX" << false;
+        QTest::newRow("login name") << "mueller" << false;
+        QTest::newRow("digit") << "K1" << false;
+        QTest::newRow("umlaut") << "ÄB" << false;
+    }
+
+    void authorInitials()
+    {
+        QFETCH(QString, text);
+        QFETCH(bool, valid);
+        QCOMPARE(KalDefects::isValidAuthor(text), valid);
+        // Only initials are remembered for the next defect, and only they are written.
+        QSettings().remove("DefectDialog/LastAuthorInitials");
+        KalDefects::rememberAuthor(text);
+        QCOMPARE(KalDefects::rememberedAuthor(), valid ? text : QString());
+        const qint64 id = KalDefects(*m_project).add({{QStringLiteral("user_id"), text}});
+        QCOMPARE(id > 0, valid);
+        QCOMPARE(m_prompt->hasTitle(QStringLiteral("Fehler")), !valid);
+    }
+
+    void userEditMarksTheRow_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QVariant>("value");
+        QTest::addColumn<QString>("flag"); // empty: the table has none
+        QTest::addColumn<bool>("marked");
+
+        QTest::newRow("company name") << "company"
+                                      << "company" << QVariant("Neu GmbH") << "modified" << true;
+        QTest::newRow("company unchanged") << "company"
+                                           << "company" << QVariant("Alt GmbH") << "modified" << false;
+        QTest::newRow("defect room") << "defect"
+                                     << "roomname" << QVariant("Bad") << "site_journal_data_modified" << true;
+        QTest::newRow("defect date") << "defect"
+                                     << "correction_date" << QVariant(QDate(2026, 5, 4)) << "site_journal_data_modified"
+                                     << true;
+        QTest::newRow("defect same date as text")
+            << "defect"
+            << "creation_date" << QVariant(QDate(2026, 1, 2).toString(Qt::ISODate)) << "site_journal_data_modified"
+            << false;
+        QTest::newRow("project name") << "kal"
+                                      << "projectname" << QVariant("Rathaus") << "project_data_modified" << true;
+        QTest::newRow("status has no flag") << "status"
+                                            << "status" << QVariant("Erledigt?") << "" << true;
+    }
+
+    void userEditMarksTheRow()
+    {
+        QFETCH(QString, table);
+        QFETCH(QString, field);
+        QFETCH(QVariant, value);
+        QFETCH(QString, flag);
+        QFETCH(bool, marked);
+
+        company(QStringLiteral("Alt GmbH"));
+        KalDefects(*m_project).add({{QStringLiteral("creation_date"), QDate(2026, 1, 2)}});
+        KalSqlTableModel *m = model(table.toLatin1().constData());
+        QVERIFY(m->rowCount() > 0);
+        const QModelIndex index = m->index(0, m->fieldIndex(field));
+        const QVariant before = m->data(index, Qt::EditRole);
+        QVERIFY(m->setData(index, value, KalSqlTableModel::UserEditRole));
+        QVERIFY(m->submitWithNotification());
+        const QVariant stored = scalar(QStringLiteral("SELECT %1 FROM %2").arg(field, table));
+        QCOMPARE(stored != before, marked);
+        if (!flag.isEmpty())
+            QCOMPARE(scalar(QStringLiteral("SELECT %1 FROM %2").arg(flag, table)).toInt(), marked ? 1 : 0);
+    }
+
+    void newCompaniesFollowTheLast_data()
+    {
+        QTest::addColumn<QString>("way");
+        QTest::newRow("master data list") << "append";
+        QTest::newRow("quick dialog") << "add";
+        QTest::newRow("import") << "insert";
+    }
+
+    void newCompaniesFollowTheLast()
+    {
+        QFETCH(QString, way);
+        QVERIFY(m_project->beginTransaction());
+        QSqlQuery q(m_project->database());
+        QVERIFY(q.exec("INSERT INTO company (id, type, firstname, lastname, company, street, plz, city, telephone, "
+                       "telefax, mobile, email, pos, modified) VALUES (40, '', '', '', 'Alt', '', '', '', '', '', "
+                       "'', '', 7, 1)"));
+        QVERIFY(m_project->commitTransaction());
+        QVERIFY(model("company")->select());
+
+        KalCompanies companies(*m_project);
+        const QVariantMap texts{{QStringLiteral("company"), QStringLiteral("Neu")}};
+        QString error;
+        qint64 first = -1;
+        qint64 second = -1;
+        if (way == QLatin1String("append")) {
+            first = companies.append(texts);
+            second = companies.append(texts); // the first is not written yet
+            QVERIFY(model("company")->submitWithNotification());
+        } else if (way == QLatin1String("add")) {
+            first = companies.add(texts);
+            second = companies.add(texts);
+        } else {
+            KalCompanyRecord record;
+            record.setValue(KalCompanyRecord::Company, QStringLiteral("Neu"));
+            const auto result = KalCompanyImport::insertCompanies(*m_project, {record, record}, true);
+            error = result.errorText;
+            first = result.insertedIds.value(0, -1);
+            second = result.insertedIds.value(1, -1);
+        }
+        QVERIFY2(first > 0 && second > first, qPrintable(error));
+        QVERIFY(q.exec(QStringLiteral("SELECT pos, modified, site_journal_id, delete_on_import, street IS NULL FROM "
+                                      "company WHERE id IN (%1, %2) ORDER BY id")
+                           .arg(first)
+                           .arg(second)));
+        for (int expectedPos : {8, 9}) {
+            QVERIFY(q.next());
+            QCOMPARE(q.value(0).toInt(), expectedPos);
+            QCOMPARE(q.value(1).toInt(), 0);
+            QCOMPARE(q.value(2).toInt(), -1);
+            QCOMPARE(q.value(3).toInt(), 1);
+            QCOMPARE(q.value(4).toInt(), 0);
+        }
+        QVERIFY(m_project->isModified());
+    }
+
+    void removedCompaniesLeaveTheirDefects_data()
+    {
+        QTest::addColumn<QList<int>>("removed"); // indexes of the three companies
+        QTest::addColumn<int>("affected");
+        QTest::newRow("unused company") << QList<int>{2} << 0;
+        QTest::newRow("one with two defects") << QList<int>{0} << 2;
+        QTest::newRow("two companies") << QList<int>{0, 1} << 3;
+    }
+
+    void removedCompaniesLeaveTheirDefects()
+    {
+        QFETCH(QList<int>, removed);
+        QFETCH(int, affected);
+
+        const QList<qint64> companies{company("A"), company("B"), company("C")};
+        const QList<qint64> defects{defect(companies.at(0)), defect(companies.at(0)), defect(companies.at(1)),
+                                    KalDefects(*m_project).add()};
+        QList<qint64> doomed;
+        for (int i : removed)
+            doomed << companies.at(i);
+        KalCompanies rules(*m_project);
+        QCOMPARE(rules.defectCount(doomed), affected);
+
+        QVERIFY(model("company")->removeRowsById(doomed));
+        QCOMPARE(scalar("SELECT COUNT(*) FROM company").toInt(), 3 - doomed.size());
+        QCOMPARE(scalar("SELECT COUNT(*) FROM defect WHERE company_id IS NULL").toInt(), affected + 1);
+        QCOMPARE(rules.defectCount(doomed), 0);
+        // The grid shows the defects without company at once.
+        KalSqlTableModel *grid = model("defect");
+        int withoutCompany = 0;
+        for (int row = 0; row < grid->rowCount(); ++row)
+            withoutCompany += grid->data(grid->index(row, grid->fieldIndex("company_id")), Qt::EditRole).isNull();
+        QCOMPARE(withoutCompany, affected + 1);
+        QCOMPARE(m_project->transactions().depth(), 0);
+    }
+};
+
+QTEST_GUILESS_MAIN(TstDefects)
+#include "tst_defects.moc"
