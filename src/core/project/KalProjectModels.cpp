@@ -69,6 +69,9 @@ void declareDefect(KalSqlTableModel *m)
                 {"delete_on_import", Int},
                 {"description", String},
             });
+    // Every date the grid shows is in the program's notation, the creation
+    // date too.
+    m->setDisplayRole(QStringLiteral("creation_date"), KalSqlTableModel::DateRole);
 }
 
 void declareStatus(KalSqlTableModel *m)
