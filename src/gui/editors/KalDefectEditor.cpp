@@ -702,6 +702,7 @@ void KalDefectEditor::slotAccepted()
         }
     }
     m_finished = true;
+    teDescription->rememberText();
     // The mapper's values, written only where they differ, so an unchanged
     // field keeps its stored form (NULL stays NULL).
     for (int column = 0; column < m_defects->columnCount(); ++column) {

@@ -274,6 +274,8 @@ void KalItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, c
         return;
     }
 
+    if (auto *text = qobject_cast<KalCompleterTextEdit *>(editor))
+        text->rememberText(); // committed: the cell's text is final
     const QVariant stored = model->data(index, Qt::EditRole);
     bool changed;
     if (isDateEditor(number))
