@@ -572,8 +572,10 @@ void KalDefectEditor::slotSelectedStatusChanged(int index)
         input.setObjectName(QStringLiteral("NewStatusInput"));
         input.setWindowTitle(tr("Neuen Status anlegen"));
         input.setWindowIcon(QIcon(res("icon-status-editor.ico")));
-        input.setLabelText(tr("Status:"));
-        input.setToolTip(tr("Sie können hier einen neuen Status für dieses Projekt anlegen"));
+        // The hint is read before typing, so it is text, not a tool tip.
+        input.setLabelText(tr("Sie können hier einen neuen Status für dieses Projekt anlegen") +
+                           QStringLiteral("\n\n") + tr("Status:"));
+        input.setMinimumWidth(input.fontMetrics().averageCharWidth() * 60);
         input.setInputMode(QInputDialog::TextInput);
         const bool ok = input.exec() == QDialog::Accepted;
         const QString name = input.textValue().trimmed();

@@ -270,6 +270,7 @@ void KalMainWindow::on_actionCompactDB_triggered()
     const QString title = tr("Datenbank bereinigen");
     KalPrompt::Message intro;
     intro.icon = KalPrompt::Information;
+    intro.iconPath = QStringLiteral(":/KalMainWindow/Resources/icon-datei-datenbank.ico");
     intro.title = title;
     intro.text = tr("Verringern der Datenbankgröße durch Bereinigung der Datenbank\n\n"
                     "Beim Löschen von Daten wird die Datenbank-Datei fragmentiert: Der frei gewordene Platz bleibt "
@@ -574,7 +575,7 @@ void KalMainWindow::updateSpellCheckingAction()
 {
     KalSpellChecker *checker = KalSpellChecker::instance();
     const bool active = checker && checker->isValid() && checker->isActive();
-    actionStartSpellChecking->setEnabled(checker != nullptr);
+    actionStartSpellChecking->setEnabled(checker && checker->isValid());
     actionStartSpellChecking->setText(KalSpellChecker::toggleActionText(active));
     actionStartSpellChecking->setToolTip(actionStartSpellChecking->text());
 }
@@ -588,7 +589,9 @@ void KalMainWindow::on_actionSettingsCompleter_triggered()
 void KalMainWindow::on_actionStartSpellChecking_triggered()
 {
     KalSpellChecker *checker = KalSpellChecker::instance();
-    const bool active = checker && checker->isValid() && checker->isActive();
+    if (!checker || !checker->isValid())
+        return; // without a dictionary the toggle is disabled, not an error
+    const bool active = checker->isActive();
     if (KalSpellChecker::switchSpellChecking(!active))
         emit rehighlightAllSpellCheckerWidgets();
     updateSpellCheckingAction();
