@@ -41,6 +41,42 @@ bool looksLikeDictionary(const QString &dicPath)
     const int count = first.split('/').value(0).trimmed().toInt(&ok);
     return ok && count >= 0;
 }
+// Calls `found(start, length)` for every word of `text`. Letters, digits,
+// underscores, commas, carets and backslashes make up words; everything else
+// separates them. A comma belongs inside numbers like "1,5", not at a word's
+// ends. A plain loop without copies: this runs over a whole description on
+// every keystroke.
+template <typename Found> void forEachWord(const QString &text, Found found)
+{
+    auto part = [&text, &found](int start, int end) {
+        while (start < end && text.at(start) == QLatin1Char(','))
+            ++start;
+        while (end > start && text.at(end - 1) == QLatin1Char(','))
+            --end;
+        if (end > start)
+            found(start, end - start);
+    };
+    int start = -1;
+    const int size = text.size();
+    for (int i = 0; i < size;) {
+        uint code = text.at(i).unicode();
+        int length = 1;
+        if (QChar::isHighSurrogate(code) && i + 1 < size && text.at(i + 1).isLowSurrogate()) {
+            code = QChar::surrogateToUcs4(text.at(i), text.at(i + 1));
+            length = 2;
+        }
+        const bool inWord = QChar::isLetterOrNumber(code) || code == '_' || code == ',' || code == '^' || code == '\\';
+        if (inWord && start < 0) {
+            start = i;
+        } else if (!inWord && start >= 0) {
+            part(start, i);
+            start = -1;
+        }
+        i += length;
+    }
+    if (start >= 0)
+        part(start, size);
+}
 } // namespace
 
 KalSpellChecker::KalSpellChecker(const QString &dictionaryBase, const QString &userDictionary, QObject *parent)
@@ -160,7 +196,7 @@ bool KalSpellChecker::spell(const QString &word) const
     if (m_checked.size() >= 100000)
         m_checked.clear();
     const bool result = askDictionary(word);
-    m_checked.insert(word, result);
+    m_checked.insert(QString(word.constData(), word.size()), result); // never a view into the caller's text
     return result;
 }
 
@@ -227,39 +263,8 @@ void KalSpellChecker::setActive(bool active, bool store)
 
 QVector<KalSpellChecker::Word> KalSpellChecker::words(const QString &text)
 {
-    // Letters, digits, underscores, commas, carets and backslashes make up
-    // words; everything else separates them. A plain loop: this runs over a
-    // whole description on every keystroke.
     QVector<Word> list;
-    auto addPart = [&list, &text](int start, int end) {
-        // A comma belongs inside numbers like "1,5", not at a word's ends.
-        while (start < end && text.at(start) == QLatin1Char(','))
-            ++start;
-        while (end > start && text.at(end - 1) == QLatin1Char(','))
-            --end;
-        if (end > start)
-            list.append({start, text.mid(start, end - start)});
-    };
-    int start = -1;
-    const int size = text.size();
-    for (int i = 0; i < size;) {
-        uint code = text.at(i).unicode();
-        int length = 1;
-        if (QChar::isHighSurrogate(code) && i + 1 < size && text.at(i + 1).isLowSurrogate()) {
-            code = QChar::surrogateToUcs4(text.at(i), text.at(i + 1));
-            length = 2;
-        }
-        const bool inWord = QChar::isLetterOrNumber(code) || code == '_' || code == ',' || code == '^' || code == '\\';
-        if (inWord && start < 0) {
-            start = i;
-        } else if (!inWord && start >= 0) {
-            addPart(start, i);
-            start = -1;
-        }
-        i += length;
-    }
-    if (start >= 0)
-        addPart(start, size);
+    forEachWord(text, [&list, &text](int start, int length) { list.append({start, text.mid(start, length)}); });
     return list;
 }
 
@@ -278,10 +283,13 @@ QVector<KalSpellChecker::Word> KalSpellChecker::misspelledWords(const QString &t
     QVector<Word> found;
     if (!m_active || !isValid())
         return found;
-    for (const Word &word : words(text)) {
-        if (isCheckable(word.text) && !spell(word.text))
-            found.append(word);
-    }
+    forEachWord(text, [this, &text, &found](int start, int length) {
+        // A view into the text is enough to look a checked word up; spell()
+        // keeps a copy of what it stores.
+        const QString word = QString::fromRawData(text.constData() + start, length);
+        if (isCheckable(word) && !spell(word))
+            found.append({start, text.mid(start, length)});
+    });
     return found;
 }
 
