@@ -64,8 +64,9 @@ QStringList knownWords(Hunspell &hunspell, const QString &dicPath, int wanted)
     return known;
 }
 
-// Names, abbreviations and typos: one typo of each known word (two letters
-// swapped or one dropped) that the dictionary does not know.
+// The unknown words: one typo of each known word (two letters swapped or one
+// dropped) that the dictionary does not know, as many distinct ones as a
+// long description with names and slips holds.
 QStringList unknownWords(Hunspell &hunspell, const QStringList &known, int wanted)
 {
     QStringList unknown;
