@@ -210,6 +210,7 @@ void KalStartup::showDataImportHelp()
         return;
     KalPrompt::Message m;
     m.icon = KalPrompt::Information;
+    m.iconPath = QStringLiteral(":/KalMainWindow/Resources/icon-help.ico");
     m.title = tr("Hilfe zum Datenimport");
     m.text = dataImportHelpText();
     m.dontShowAgainKey = key;

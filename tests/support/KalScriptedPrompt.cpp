@@ -19,7 +19,7 @@ void KalScriptedPrompt::queueAnswerIndex(int index)
 
 int KalScriptedPrompt::show(const Message &message)
 {
-    Shown s{message.icon, message.title, message.text, {}, 0};
+    Shown s{message.icon, message.title, message.text, {}, 0, message.iconPath};
     for (const Button &b : message.buttons)
         s.buttons << buttonText(b);
     int answer = 0;
@@ -42,7 +42,7 @@ int KalScriptedPrompt::show(const Message &message)
 
 void KalScriptedPrompt::notice(const QString &title, const QString &text, int)
 {
-    m_shown.append(Shown{Information, title, text, {}, 0});
+    m_shown.append(Shown{Information, title, text, {}, 0, {}});
 }
 
 QStringList KalScriptedPrompt::titles() const

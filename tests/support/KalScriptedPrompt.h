@@ -18,6 +18,7 @@ public:
         QString text;
         QStringList buttons;
         int answer;
+        QString iconPath;
     };
 
     static KalScriptedPrompt *install();

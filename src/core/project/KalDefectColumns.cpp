@@ -27,7 +27,7 @@ const QVector<KalDefectColumn> &KalDefectColumns::columns()
          QT_TRANSLATE_NOOP("KalCompleterStore", "Typ")},
         {"user_id", String, QT_TRANSLATE_NOOP("KalSqlTableModel", "Autor"), None, false, true, 12,
          QT_TRANSLATE_NOOP("KalCompleterStore", "Autor")},
-        {"creation_date", Date, QT_TRANSLATE_NOOP("KalSqlTableModel", "Erfasst am"), None, false, true, 12, nullptr},
+        {"creation_date", Date, QT_TRANSLATE_NOOP("KalSqlTableModel", "Erfasst am"), KalSqlTableModel::DateRole, false, true, 12, nullptr},
         {"roomname", String, QT_TRANSLATE_NOOP("KalSqlTableModel", "Raum"), None, true, true, 12,
          QT_TRANSLATE_NOOP("KalCompleterStore", "Raumname")},
         {"roombook_number", String, QT_TRANSLATE_NOOP("KalSqlTableModel", "Raumbuch-Nr."), None, false, true, 12,

@@ -41,6 +41,42 @@ bool looksLikeDictionary(const QString &dicPath)
     const int count = first.split('/').value(0).trimmed().toInt(&ok);
     return ok && count >= 0;
 }
+// Calls `found(start, length)` for every word of `text`. Letters, digits,
+// underscores, commas, carets and backslashes make up words; everything else
+// separates them. A comma belongs inside numbers like "1,5", not at a word's
+// ends. A plain loop without copies: this runs over a whole description on
+// every keystroke.
+template <typename Found> void forEachWord(const QString &text, Found found)
+{
+    auto part = [&text, &found](int start, int end) {
+        while (start < end && text.at(start) == QLatin1Char(','))
+            ++start;
+        while (end > start && text.at(end - 1) == QLatin1Char(','))
+            --end;
+        if (end > start)
+            found(start, end - start);
+    };
+    int start = -1;
+    const int size = text.size();
+    for (int i = 0; i < size;) {
+        uint code = text.at(i).unicode();
+        int length = 1;
+        if (QChar::isHighSurrogate(code) && i + 1 < size && text.at(i + 1).isLowSurrogate()) {
+            code = QChar::surrogateToUcs4(text.at(i), text.at(i + 1));
+            length = 2;
+        }
+        const bool inWord = QChar::isLetterOrNumber(code) || code == '_' || code == ',' || code == '^' || code == '\\';
+        if (inWord && start < 0) {
+            start = i;
+        } else if (!inWord && start >= 0) {
+            part(start, i);
+            start = -1;
+        }
+        i += length;
+    }
+    if (start >= 0)
+        part(start, size);
+}
 } // namespace
 
 KalSpellChecker::KalSpellChecker(const QString &dictionaryBase, const QString &userDictionary, QObject *parent)
@@ -106,7 +142,6 @@ void KalSpellChecker::readEncoding(const QString &affPath)
             const QRegularExpressionMatch match = set.match(line);
             if (match.hasMatch()) {
                 m_encoding = match.captured(1);
-                qInfo("Encoding set to %s", qPrintable(m_encoding));
                 break;
             }
         }
@@ -123,10 +158,8 @@ void KalSpellChecker::readEncoding(const QString &affPath)
 
 void KalSpellChecker::loadUserDictionary()
 {
-    if (m_userDictionary.isEmpty()) {
-        qInfo("User dictionary not set.");
+    if (m_userDictionary.isEmpty())
         return;
-    }
     QFile file(m_userDictionary);
     const bool exists = file.exists();
     if (!file.open(exists ? QIODevice::ReadOnly : QIODevice::ReadWrite)) {
@@ -156,6 +189,19 @@ bool KalSpellChecker::spell(const QString &word) const
 {
     if (!m_hunspell)
         return true;
+    const auto known = m_checked.constFind(word);
+    if (known != m_checked.constEnd())
+        return known.value();
+    // Bounded, so a long session of pasted texts does not grow it for ever.
+    if (m_checked.size() >= 100000)
+        m_checked.clear();
+    const bool result = askDictionary(word);
+    m_checked.insert(QString(word.constData(), word.size()), result); // never a view into the caller's text
+    return result;
+}
+
+bool KalSpellChecker::askDictionary(const QString &word) const
+{
     // A character the dictionary's encoding cannot hold cannot be in it.
     QTextCodec::ConverterState state(QTextCodec::ConvertInvalidToNull | QTextCodec::IgnoreHeader);
     const QByteArray encoded = m_codec->fromUnicode(word.constData(), word.size(), &state);
@@ -176,8 +222,10 @@ QStringList KalSpellChecker::suggest(const QString &word) const
 
 void KalSpellChecker::ignoreWord(const QString &word)
 {
-    if (m_hunspell && !word.isEmpty())
+    if (m_hunspell && !word.isEmpty()) {
         m_hunspell->add(toDictionary(word));
+        m_checked.clear(); // the word, and words built on it, may be known now
+    }
 }
 
 bool KalSpellChecker::addToUserDict(const QString &word)
@@ -185,10 +233,8 @@ bool KalSpellChecker::addToUserDict(const QString &word)
     if (word.isEmpty())
         return false;
     ignoreWord(word);
-    if (m_userDictionary.isEmpty()) {
-        qInfo("User dictionary not set.");
+    if (m_userDictionary.isEmpty())
         return false;
-    }
     QFile file(m_userDictionary);
     bool written = false;
     if (file.open(QIODevice::WriteOnly | QIODevice::Append)) {
@@ -217,30 +263,8 @@ void KalSpellChecker::setActive(bool active, bool store)
 
 QVector<KalSpellChecker::Word> KalSpellChecker::words(const QString &text)
 {
-    // Everything but word characters, commas, carets and backslashes
-    // separates words; a backslash also starts a new one.
-    static const QRegularExpression separator(QStringLiteral("([^\\w,^\\\\]|(?=\\\\))+"),
-                                              QRegularExpression::UseUnicodePropertiesOption);
     QVector<Word> list;
-    auto addPart = [&list, &text](int start, int end) {
-        // A comma belongs inside numbers like "1,5", not at a word's ends.
-        while (start < end && text.at(start) == QLatin1Char(','))
-            ++start;
-        while (end > start && text.at(end - 1) == QLatin1Char(','))
-            --end;
-        if (end > start)
-            list.append({start, text.mid(start, end - start)});
-    };
-    int start = 0;
-    QRegularExpressionMatchIterator it = separator.globalMatch(text);
-    while (it.hasNext()) {
-        const QRegularExpressionMatch match = it.next();
-        if (match.capturedLength() == 0)
-            continue;
-        addPart(start, match.capturedStart());
-        start = match.capturedEnd();
-    }
-    addPart(start, text.size());
+    forEachWord(text, [&list, &text](int start, int length) { list.append({start, text.mid(start, length)}); });
     return list;
 }
 
@@ -252,6 +276,21 @@ bool KalSpellChecker::isCheckable(const QString &word)
 bool KalSpellChecker::isMisspelled(const QString &word) const
 {
     return m_active && isValid() && isCheckable(word) && !spell(word);
+}
+
+QVector<KalSpellChecker::Word> KalSpellChecker::misspelledWords(const QString &text) const
+{
+    QVector<Word> found;
+    if (!m_active || !isValid())
+        return found;
+    forEachWord(text, [this, &text, &found](int start, int length) {
+        // A view into the text is enough to look a checked word up; spell()
+        // keeps a copy of what it stores.
+        const QString word = QString::fromRawData(text.constData() + start, length);
+        if (isCheckable(word) && !spell(word))
+            found.append({start, text.mid(start, length)});
+    });
+    return found;
 }
 
 KalSpellChecker *KalSpellChecker::instance()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QObject>
 #include <QString>
 #include <QStringList>
@@ -31,6 +32,8 @@ public:
     QString encoding() const { return m_encoding; }
     QString userDictionary() const { return m_userDictionary; }
 
+    // Answers from the words already checked in this run; the answer is
+    // forgotten when the word list changes (ignoreWord, addToUserDict).
     bool spell(const QString &word) const;
     QStringList suggest(const QString &word) const;
     // Accepted for the rest of this run only.
@@ -58,6 +61,9 @@ public:
     static bool isCheckable(const QString &word);
     // True when the word should be marked: checker active and word unknown.
     bool isMisspelled(const QString &word) const;
+    // The words of a text that should be marked, at their positions, in one
+    // pass over the text. Empty while the checker is off or not valid.
+    QVector<Word> misspelledWords(const QString &text) const;
 
     // The checker of this run; null when none was created.
     static KalSpellChecker *instance();
@@ -99,6 +105,7 @@ private:
     void loadUserDictionary();
     std::string toDictionary(const QString &word) const;
     QString fromDictionary(const std::string &word) const;
+    bool askDictionary(const QString &word) const;
 
     std::unique_ptr<Hunspell> m_hunspell;
     Status m_status = InitFailed;
@@ -107,4 +114,7 @@ private:
     QTextCodec *m_codec = nullptr;
     QString m_userDictionary;
     bool m_active = true;
+    // Highlighting asks for the same words on every keystroke; Hunspell is
+    // asked once per distinct word.
+    mutable QHash<QString, bool> m_checked;
 };

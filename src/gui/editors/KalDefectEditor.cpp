@@ -425,8 +425,10 @@ void KalDefectEditor::slotSelectedStatusChanged(int index)
         input.setObjectName(QStringLiteral("NewStatusInput"));
         input.setWindowTitle(tr("Neuen Status anlegen"));
         input.setWindowIcon(QIcon(res("icon-status-editor.ico")));
-        input.setLabelText(tr("Status:"));
-        input.setToolTip(tr("Sie können hier einen neuen Status für dieses Projekt anlegen"));
+        // The hint is read before typing, so it is text, not a tool tip.
+        input.setLabelText(tr("Sie können hier einen neuen Status für dieses Projekt anlegen") +
+                           QStringLiteral("\n\n") + tr("Status:"));
+        input.setMinimumWidth(input.fontMetrics().averageCharWidth() * 60);
         input.setInputMode(QInputDialog::TextInput);
         const bool ok = input.exec() == QDialog::Accepted;
         const QString name = input.textValue().trimmed();
@@ -565,6 +567,7 @@ void KalDefectEditor::slotAccepted()
     }
     m_ui->leUserId->setText(author);
     m_finished = true;
+    m_ui->teDescription->rememberText();
     // The mapper's values, written only where they differ, so an unchanged
     // field keeps its stored form (NULL stays NULL).
     for (int column = 0; column < m_defects->columnCount(); ++column) {

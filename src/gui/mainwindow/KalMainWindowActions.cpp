@@ -269,7 +269,7 @@ void KalMainWindow::updateSpellCheckingAction()
     QAction *actionStartSpellChecking = action("actionStartSpellChecking");
     KalSpellChecker *checker = KalSpellChecker::instance();
     const bool active = checker && checker->isValid() && checker->isActive();
-    actionStartSpellChecking->setEnabled(checker != nullptr);
+    actionStartSpellChecking->setEnabled(checker && checker->isValid());
     actionStartSpellChecking->setText(KalSpellChecker::toggleActionText(active));
     actionStartSpellChecking->setToolTip(actionStartSpellChecking->text());
 }
@@ -283,7 +283,9 @@ void KalMainWindow::slotSettingsCompleter()
 void KalMainWindow::slotStartSpellChecking()
 {
     KalSpellChecker *checker = KalSpellChecker::instance();
-    const bool active = checker && checker->isValid() && checker->isActive();
+    if (!checker || !checker->isValid())
+        return; // without a dictionary the toggle is disabled, not an error
+    const bool active = checker->isActive();
     if (KalSpellChecker::switchSpellChecking(!active))
         emit rehighlightAllSpellCheckerWidgets();
     updateSpellCheckingAction();

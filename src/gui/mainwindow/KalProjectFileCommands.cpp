@@ -219,6 +219,7 @@ void KalProjectFileCommands::compactDatabase()
     const QString title = tr("Datenbank bereinigen");
     KalPrompt::Message intro;
     intro.icon = KalPrompt::Information;
+    intro.iconPath = QStringLiteral(":/KalMainWindow/Resources/icon-datei-datenbank.ico");
     intro.title = title;
     intro.text = tr("Verringern der Datenbankgröße durch Bereinigung der Datenbank\n\n"
                     "Beim Löschen von Daten wird die Datenbank-Datei fragmentiert: Der frei gewordene Platz bleibt "

@@ -41,6 +41,14 @@ KalCompleterDialog::KalCompleterDialog(QWidget *parent)
     connect(m_values, &QAbstractItemModel::rowsInserted, this, &KalCompleterDialog::storeValues);
     connect(m_values, &QAbstractItemModel::rowsRemoved, this, &KalCompleterDialog::storeValues);
 
+    // Wide enough for every field name beside a value list as wide, and
+    // high enough for a dozen rows.
+    const QFontMetrics metrics(font());
+    int widest = 0;
+    for (int row = 0; row < m_completers->rowCount(); ++row)
+        widest = qMax(widest, metrics.horizontalAdvance(m_completers->index(row, 0).data().toString()));
+    setMinimumSize(2 * widest + metrics.averageCharWidth() * 40, metrics.height() * 26);
+
     QSettings settings;
     restoreGeometry(settings.value(QStringLiteral("CompleterDialog/Geometry")).toByteArray());
     m_ui->tvCompleters->horizontalHeader()->restoreState(

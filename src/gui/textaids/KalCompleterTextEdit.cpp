@@ -49,10 +49,6 @@ void KalCompleterTextEdit::setKalCompleter(KalCompleter *completer)
     if (m_completer->widget() != this)
         m_completer->setWidget(this);
     connect(m_completer, &KalCompleter::valueChosen, this, &KalCompleterTextEdit::insertValue);
-    connect(this, &KalCompleterTextEdit::editingFinished, m_completer, [this] {
-        if (m_completer)
-            m_completer->appendEntry(toPlainText());
-    });
     if (!m_button) {
         m_button = new KalFieldButton(this);
         m_button->setToolTip(tr("Diese Funktion erlaubt das automatische Einfügen der \nTexte, die bisher in "
@@ -63,6 +59,12 @@ void KalCompleterTextEdit::setKalCompleter(KalCompleter *completer)
     setStyleSheet(m_button->paddingStyle());
     repositionButton();
     m_button->setVisible(hasFocus());
+}
+
+void KalCompleterTextEdit::rememberText()
+{
+    if (m_completer)
+        m_completer->appendEntry(toPlainText());
 }
 
 void KalCompleterTextEdit::setSpellChecking(bool on)

@@ -27,6 +27,10 @@ public:
     // Takes ownership; null removes the completer.
     void setKalCompleter(KalCompleter *completer);
     KalCompleter *kalCompleter() const { return m_completer; }
+    // Adds the field's text to its auto-text list. Called by the owner once
+    // the text is final (OK of a dialog, a committed grid cell), so drafts
+    // and cancelled texts never reach the list.
+    void rememberText();
     KalFieldButton *fieldButton() const { return m_button; }
 
     // Spell checking is on by default; off removes the marking for good.

@@ -265,6 +265,8 @@ void KalItemDelegate::setModelData(QWidget *editor, QAbstractItemModel *model, c
         return;
     }
 
+    if (auto *text = qobject_cast<KalCompleterTextEdit *>(editor))
+        text->rememberText(); // committed: the cell's text is final
     // The model writes only a changed value and then marks the row as
     // changed here, so the site-journal import can tell edited rows apart.
     model->setData(index, value, sqlModel(model) ? KalSqlTableModel::UserEditRole : int(Qt::EditRole));

@@ -299,6 +299,7 @@ private slots:
         QTest::newRow("plan") << "plan_info_id" << QVariant(1) << false << "EG Nord";
         QTest::newRow("plan none") << "plan_info_id" << QVariant(-1) << false << "";
         QTest::newRow("date iso") << "correction_date" << QVariant("2024-02-01") << false << "01.02.2024";
+        QTest::newRow("creation date iso") << "creation_date" << QVariant("2026-11-23") << false << "23.11.2026";
         QTest::newRow("date local text") << "deadline_1" << QVariant("3.4.25") << false << "03.04.2025";
         QTest::newRow("date empty") << "correction_date" << QVariant("") << false << "";
         QTest::newRow("date invalid") << "correction_date" << QVariant("2024-02-31") << false << "";

@@ -263,9 +263,11 @@ private slots:
         QVERIFY(edit.kalCompleter()->popup()->isVisible());
         QTest::keyClick(edit.kalCompleter()->popup(), Qt::Key_Return);
         QCOMPARE(edit.toPlainText(), QStringLiteral("Riss\nim Putz"));
-        // Leaving the field stores what it holds.
+        // Leaving the field stores nothing; its owner stores the final text.
         edit.setPlainText(QStringLiteral("Fuge offen"));
         emit edit.editingFinished();
+        QVERIFY(!edit.kalCompleter()->values().contains(QStringLiteral("Fuge offen")));
+        edit.rememberText();
         QVERIFY(edit.kalCompleter()->values().contains(QStringLiteral("Fuge offen")));
     }
 

@@ -117,6 +117,7 @@ private slots:
         QTest::newRow("comma after a word") << "Hasu, Haus" << QVector<Range>{{0, 4}};
         QTest::newRow("umlauts") << "Küche Kühce" << QVector<Range>{{6, 5}};
         QTest::newRow("escape sequence") << "\\Hasu Haus" << QVector<Range>();
+        QTest::newRow("escape sequence beside the same word") << "\\Hasu Hasu" << QVector<Range>{{6, 4}};
         QTest::newRow("second paragraph") << "Haus\nDas Fenstr" << QVector<Range>{{9, 6}};
     }
 
