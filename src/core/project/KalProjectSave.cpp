@@ -9,6 +9,7 @@
 #include "core/project/KalEnvironment.h"
 #include "core/project/KalFileOps.h"
 #include "core/project/KalProgress.h"
+#include "core/project/KalProjectLock.h"
 #include "core/project/KalProjectModels.h"
 #include "core/project/KalPrompt.h"
 #include "core/project/KalSettings.h"
@@ -55,6 +56,26 @@ void reportNoSpaceForSaving(const QString &volume, qint64 shortfall)
                             .arg(shortfall / 1000000));
 }
 
+// Save as must not take a project away from the instance that has it open:
+// the same write test as opening, on the target's working copy.
+bool targetIsHeld(const QString &target)
+{
+    const QString workingCopy = target + QStringLiteral(".workingcopy");
+    if (!QFileInfo::exists(workingCopy))
+        return false;
+    QString error;
+    if (KalProjectLock::probe(workingCopy, &error) != KalProjectLock::State::Held)
+        return false;
+    KalProjectLock::reportHeld(target + QStringLiteral(".udf"));
+    return true;
+}
+
+bool sameFile(const QString &a, const QString &b)
+{
+    const QString canonical = QFileInfo(a).canonicalFilePath();
+    return a == b || (!canonical.isEmpty() && canonical == QFileInfo(b).canonicalFilePath());
+}
+
 qint64 fileSize(const QString &path)
 {
     const QFileInfo info(path);
@@ -68,6 +89,11 @@ bool KalProject::writeSnapshot(const QString &targetFile, QString *errorText)
     removeStaleSnapshots(targetFile);
     if (!KalSnapshot::write(database(), temporary, errorText, m_workingCopyFd))
         return false;
+    if (QFileInfo::exists(targetFile))
+        KalFileOps::keepModeAndGroup(targetFile, temporary);
+    // A journal beside the file being replaced belongs to the old file (a
+    // crashed run's leftover); rolled back into the new one it would damage it.
+    QFile::remove(targetFile + QStringLiteral("-journal"));
     if (!KalFileOps::replaceFile(temporary, targetFile)) {
         QFile::remove(temporary);
         if (errorText)
@@ -170,6 +196,8 @@ int KalProject::saveInPlace()
                                 tr("Umbenennen der Backup-Datei\n%1\n fehlgeschlagen.").arg(nativeName(m_projectPath)));
     }
 
+    if (projectExists)
+        KalFileOps::keepModeAndGroup(m_projectPath, temporary);
     if (!KalFileOps::replaceFile(temporary, m_projectPath)) {
         QFile::remove(temporary);
         KalPrompt::critical(tr("Dateifehler"),
@@ -182,6 +210,15 @@ int KalProject::saveInPlace()
 
 int KalProject::saveAs(const QString &target)
 {
+    if (sameFile(target, m_projectPath))
+        return saveInPlace();
+    const QString folder = QFileInfo(target).absolutePath();
+    if (!QFileInfo(folder).isDir()) {
+        KalPrompt::critical(tr("Dateifehler"), tr("Der Ordner\n%1\nexistiert nicht.").arg(nativeName(folder)));
+        return SaveFailed;
+    }
+    if (targetIsHeld(target))
+        return SaveFailed;
     const qint64 workingSize = fileSize(m_workingCopyPath);
     const KalEnvironment::VolumeInfo volume = KalEnvironment::volumeInfo(target);
     if (volume.valid && volume.ready) {
@@ -200,8 +237,6 @@ int KalProject::saveAs(const QString &target)
     }
     const QString newWorkingCopy = target + QStringLiteral(".workingcopy");
     const QString newUserData = target + QStringLiteral(".udf");
-    if (target == m_projectPath)
-        return saveInPlace();
 
     // The new working copy first: if it cannot be made, the target is not touched.
     QString error;

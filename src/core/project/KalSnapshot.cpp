@@ -56,7 +56,7 @@ bool copyThroughOpenHandle(sqlite3 *src, int sourceFd, const QString &target, bo
 
 #ifdef Q_OS_LINUX
     if (sourceFd >= 0) {
-        const int out = ::open(QFile::encodeName(target).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+        const int out = ::open(QFile::encodeName(target).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
         if (out < 0) {
             *errorText = QString::fromLocal8Bit(strerror(errno));
             return false;
