@@ -111,6 +111,15 @@ int KalProject::saveProject(const QString &target)
     // Changes of an unfinished outer transaction belong to the save.
     while (m_transactions.depth() > 0)
         m_transactions.commit();
+    // A transaction still open outside the counted ones (a commit that
+    // failed earlier) holds edits too; no consistent copy can be made under it.
+    if (KalSnapshot::inTransaction(database())) {
+        QSqlQuery commit(database());
+        if (!commit.exec(QStringLiteral("COMMIT TRANSACTION"))) {
+            KalPrompt::critical(tr("Datenbankfehler"), commit.lastError().text());
+            return SaveFailed;
+        }
+    }
     KalDatabaseSchema::setFileVersion(database(), KalDatabaseSchema::programFileVersion());
 
     if (target.isEmpty()) {

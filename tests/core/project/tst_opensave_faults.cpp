@@ -3,6 +3,7 @@
 // and files shared with colleagues.
 #include "core/project/KalEnvironment.h"
 #include "core/project/KalProject.h"
+#include "core/project/KalSettings.h"
 #include "core/project/KalSqlTableModel.h"
 #include "support/KalScriptedPrompt.h"
 #include "support/KalTestFiles.h"
@@ -436,6 +437,70 @@ private slots:
         QCOMPARE(project.openProject(file), opens);
         if (!opens)
             QCOMPARE(fileHash(file), before);
+    }
+
+    void saveAsAfterSessionOfWork_data()
+    {
+        QTest::addColumn<QString>("work");
+        QTest::newRow("write transaction open") << "transaction";
+        QTest::newRow("cancelled counted transaction") << "rollback";
+        QTest::newRow("after compacting") << "vacuum";
+        QTest::newRow("after a failed save") << "failedsave";
+    }
+
+    void saveAsAfterSessionOfWork()
+    {
+        QFETCH(QString, work);
+        const QString file = path("projekt mit blank.pwp");
+        QVERIFY(createProject(file, 2));
+        KalProject project;
+        QVERIFY(project.openProject(file));
+        QVERIFY(project.insertDefect() > 0);
+        QSqlQuery query(project.database());
+        if (work == "transaction") {
+            QVERIFY(query.exec("BEGIN"));
+            QVERIFY(query.exec("UPDATE defect SET description = 'offen' WHERE id = 1"));
+        } else if (work == "rollback") {
+            QVERIFY(project.beginTransaction());
+            QVERIFY(project.beginTransaction());
+            QVERIFY(query.exec("UPDATE defect SET description = 'verworfen' WHERE id = 1"));
+            QVERIFY(project.rollbackTransaction());
+            project.commitTransaction();
+        } else if (work == "vacuum") {
+            QVERIFY(project.vacuumDatabase(true));
+        } else {
+            // A target below a folder that does not exist (a remembered
+            // folder that was no folder) fails before anything is written.
+            QCOMPARE(project.saveProject(path("sa.pwp/fehlt/x.pwp")), int(KalProject::SaveFailed));
+            QCOMPARE(m_prompt->titles(), QStringList{"Dateifehler"});
+            QVERIFY(m_prompt->texts().first().startsWith("Der Ordner"));
+        }
+        m_prompt->clear();
+        const QString target = path("sa.pwp");
+        QCOMPARE(project.saveProject(target), int(KalProject::Saved));
+        QVERIFY2(m_prompt->shown().isEmpty(), qPrintable(m_prompt->texts().join("|")));
+        QVERIFY(project.closeProject());
+        QCOMPARE(countRows(target, "defect"), 3);
+        QCOMPARE(integrity(target), QStringLiteral("ok"));
+    }
+
+    void rememberedSaveFolderIsAFolder_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::newRow("two paths joined below a project file") << "sa.pwp/ordner/proj";
+        QTest::newRow("a project file") << "sa.pwp";
+        QTest::newRow("a folder that was removed") << "weg/unterordner";
+    }
+
+    void rememberedSaveFolderIsAFolder()
+    {
+        QFETCH(QString, stored);
+        writeFile(path("sa.pwp"), "");
+        QSettings().setValue("FileDialogPaths/DBSavePath", path(stored));
+        QCOMPARE(KalSettings::filePathForDialog(KalSettings::ProjectSave), QDir::toNativeSeparators(m_dir->path()));
+        // Choosing a name below a file does not make that file the folder.
+        KalSettings::rememberFilePath(KalSettings::ProjectSave, path("sa.pwp/neu.pwp"), false);
+        QCOMPARE(KalSettings::filePathForDialog(KalSettings::ProjectSave), QDir::toNativeSeparators(m_dir->path()));
     }
 
     void recoveredStateCountsAsModified()
