@@ -207,11 +207,9 @@ bool KalMainWindow::openProject(const QString &path)
         removeRecentFile(path);
         return false;
     }
-    if (m_project->isOpen() && !closeProject(false))
-        return false;
-
+    // The project gives up the open one only once the new one can be
+    // opened; a refusal has been explained already and changes nothing here.
     if (!m_project->openProject(path)) {
-        KalPrompt::critical(tr("Fehler"), tr("Beim Öffnen des gewählten Projekts ist ein Fehler aufgetreten!"));
         if (!QFileInfo::exists(path))
             removeRecentFile(path);
         // The window always works on a project.
