@@ -243,6 +243,10 @@ bool KalProject::writeUserDataFile(bool withProcessId)
     if (computer.isEmpty())
         computer = tr("unbekannt");
     const QDateTime now = KalEnvironment::now();
+    // Something else under our companion's name (a pipe would block the
+    // write until somebody reads it) is replaced by the real file.
+    if (QFileInfo::exists(m_userDataPath) && !KalFileOps::isRegularFile(m_userDataPath))
+        QFile::remove(m_userDataPath);
     QFile file(m_userDataPath);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text))
         return false;

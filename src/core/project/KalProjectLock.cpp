@@ -2,6 +2,7 @@
 
 #include "core/project/KalDatabaseSchema.h"
 #include "core/project/KalEnvironment.h"
+#include "core/project/KalFileOps.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
 
@@ -25,7 +26,8 @@ QStringList readLines(const QString &path, int count, bool *readable)
 {
     QFile file(path);
     QStringList lines;
-    *readable = file.open(QIODevice::ReadOnly | QIODevice::Text);
+    // Only a regular file: reading a pipe would wait for a writer forever.
+    *readable = KalFileOps::isRegularFile(path) && file.open(QIODevice::ReadOnly | QIODevice::Text);
     if (*readable) {
         QTextStream in(&file);
         in.setCodec("UTF-8");

@@ -17,6 +17,7 @@
 #include <QFileInfo>
 #include <QLocale>
 #include <QSqlError>
+#include <QSqlQuery>
 #include <functional>
 
 struct KalOpenPlan
@@ -166,6 +167,23 @@ bool handleLeftover(KalOpenPlan &plan)
     return true;
 }
 
+// A file another SQLite tool left in WAL mode keeps committed rows in its
+// "-wal" file: fold them into the file and switch it back to the rollback
+// journal, so that the working copy (a copy of the file alone) has them all
+// and no "-wal" is left to be replayed over a later version.
+bool leaveWriteAheadLog(const QSqlDatabase &probe)
+{
+    QSqlQuery mode(probe);
+    if (!mode.exec(QStringLiteral("PRAGMA journal_mode")) || !mode.next() ||
+        mode.value(0).toString().compare(QLatin1String("wal"), Qt::CaseInsensitive) != 0)
+        return true;
+    mode.finish();
+    QSqlQuery change(probe);
+    change.exec(QStringLiteral("PRAGMA wal_checkpoint(TRUNCATE)"));
+    return change.exec(QStringLiteral("PRAGMA journal_mode=DELETE")) && change.next() &&
+           change.value(0).toString().compare(QLatin1String("delete"), Qt::CaseInsensitive) == 0;
+}
+
 // Step 4: version, project tables and integrity of the file itself. Opened
 // for writing as SQLite needs it to roll back a journal that a crashed
 // writer left beside it; nothing else is written.
@@ -181,7 +199,12 @@ bool probeProjectFile(const KalOpenPlan &plan, QString *integrity)
             failure = probe.lastError().text();
         } else {
             KalDatabaseSchema::applySafetyPragmas(probe);
-            if (KalDatabaseSchema::isFileVersionNewer(KalDatabaseSchema::fileVersion(probe))) {
+            if (!leaveWriteAheadLog(probe)) {
+                failureTitle = tr("Datenbankfehler");
+                failure = tr("Die Datei\n%1\nwurde von einem anderen Programm im WAL-Modus gespeichert und kann "
+                             "nicht umgestellt werden, da sie schreibgeschützt ist.")
+                              .arg(native(plan.file));
+            } else if (KalDatabaseSchema::isFileVersionNewer(KalDatabaseSchema::fileVersion(probe))) {
                 failureTitle = tr("Dateifehler");
                 failure = tr("Die Datei kann nicht geöffnet werden, da sie mit einer neueren Programmversion "
                              "erstellt wurde.");

@@ -385,6 +385,62 @@ private slots:
         QCOMPARE(count, 2);
     }
 
+    void companionsThatAreNoFiles_data()
+    {
+        QTest::addColumn<QString>("pipe");
+        QTest::addColumn<bool>("leftover");
+        QTest::newRow("user file, no working copy") << ".udf" << false;
+        QTest::newRow("user file beside a working copy") << ".udf" << true;
+        QTest::newRow("working copy") << ".workingcopy" << false;
+    }
+
+    // A pipe where a companion belongs must not make opening wait forever.
+    void companionsThatAreNoFiles()
+    {
+        QFETCH(QString, pipe);
+        QFETCH(bool, leftover);
+        const QString file = path("p.pwp");
+        QVERIFY(createProject(file, 1));
+        if (leftover)
+            QVERIFY(QFile::copy(file, file + ".workingcopy"));
+        QCOMPARE(::mkfifo(QFile::encodeName(file + pipe).constData(), 0600), 0);
+        KalProject project;
+        QVERIFY(project.openProject(file));
+        QCOMPARE(project.model("defect")->rowCount(), 1);
+        QVERIFY(project.closeProject());
+        QVERIFY(!QFileInfo::exists(file + pipe));
+    }
+
+    void walModeProjectKeepsCommittedRows()
+    {
+        const QString original = path("wal.pwp");
+        const QString file = path("p.pwp");
+        QVERIFY(createProject(original, 2));
+        // Another SQLite tool switched the file to WAL and added a row that
+        // is still only in the WAL when the file is copied.
+        {
+            QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "waltool");
+            db.setDatabaseName(original);
+            QVERIFY(db.open());
+            QSqlQuery q(db);
+            QVERIFY(q.exec("PRAGMA journal_mode=WAL") && q.next() && q.value(0).toString() == "wal");
+            QVERIFY(q.exec("PRAGMA wal_autocheckpoint=0"));
+            QVERIFY(q.exec("INSERT INTO defect (id, description) VALUES (500, 'nur im WAL')"));
+            QVERIFY(QFile::copy(original, file) && QFile::copy(original + "-wal", file + "-wal"));
+            db.close();
+        }
+        QSqlDatabase::removeDatabase("waltool");
+        KalProject project;
+        QVERIFY(project.openProject(file));
+        QCOMPARE(project.model("defect")->rowCount(), 3);
+        QVERIFY(project.insertDefect() > 0);
+        QCOMPARE(project.saveProject(), int(KalProject::Saved));
+        QVERIFY(project.closeProject());
+        QCOMPARE(QDir(m_dir->path()).entryList({"p.pwp-*"}), QStringList());
+        QCOMPARE(scalar(file, "PRAGMA journal_mode"), QStringLiteral("delete"));
+        QCOMPARE(countRows(file, "defect"), 4);
+    }
+
     void savedFileKeepsModeAndGroup_data()
     {
         QTest::addColumn<int>("mode");
