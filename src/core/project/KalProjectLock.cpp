@@ -6,7 +6,10 @@
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QSqlQuery>
 #include <QStringList>
 #include <QTextStream>
@@ -37,6 +40,36 @@ QStringList readLines(const QString &path, int count, bool *readable)
     return lines;
 }
 } // namespace
+
+namespace {
+QString hostTag()
+{
+    QString host = KalEnvironment::computerName();
+    for (QChar &c : host)
+        if (!c.isLetterOrNumber())
+            c = QLatin1Char('_');
+    return host;
+}
+} // namespace
+
+QString privateName(const QString &path, const QString &kind)
+{
+    return path + kind + QLatin1Char('.') + hostTag() + QLatin1Char('.') +
+           QString::number(QCoreApplication::applicationPid());
+}
+
+void removeStalePrivateFiles(const QString &path, const QString &kind)
+{
+    const QFileInfo info(path);
+    const QString prefix = info.fileName() + kind + QLatin1Char('.') + hostTag() + QLatin1Char('.');
+    const QStringList names = info.dir().entryList({prefix + QLatin1Char('*')}, QDir::Files | QDir::Hidden);
+    for (const QString &name : names) {
+        bool isNumber = false;
+        const qint64 pid = name.mid(prefix.size()).toLongLong(&isNumber);
+        if (isNumber && pid != QCoreApplication::applicationPid() && !KalFileOps::processAlive(pid))
+            QFile::remove(info.dir().filePath(name));
+    }
+}
 
 QSqlDatabase addProbeConnection(const QString &name, const QString &file, bool readOnly)
 {

@@ -33,6 +33,13 @@ QStringList holder(const QString &userDataPath);
 // computer (the rule for discarding a crashed run's working copy).
 bool belongsToSomebodyElse(const QString &userDataPath);
 
+// A temporary name beside `path` that belongs to this process on this
+// computer: `path` + `kind` + ".<computer>.<process id>". Instances on other
+// computers sharing the folder never take (or delete) each other's.
+QString privateName(const QString &path, const QString &kind);
+// Removes such files of processes on this computer that no longer run.
+void removeStalePrivateFiles(const QString &path, const QString &kind);
+
 QSqlDatabase addProbeConnection(const QString &name, const QString &file, bool readOnly);
 void removeConnection(const QString &name);
 

@@ -71,36 +71,6 @@ bool removeOrSay(const QString &path, bool database)
     return removed;
 }
 
-// The copy is made under a name of its own per computer and process, so two
-// instances opening at the same moment never share (or delete) it.
-QString hostTag()
-{
-    QString host = KalEnvironment::computerName();
-    for (QChar &c : host)
-        if (!c.isLetterOrNumber())
-            c = QLatin1Char('_');
-    return host;
-}
-
-QString partialName(const QString &workingCopy)
-{
-    return workingCopy + QStringLiteral(".part.") + hostTag() + QLatin1Char('.') +
-           QString::number(QCoreApplication::applicationPid());
-}
-
-// Copies of runs on this computer that were killed while copying.
-void removeStalePartials(const QString &workingCopy)
-{
-    const QFileInfo info(workingCopy);
-    const QString prefix = info.fileName() + QStringLiteral(".part.") + hostTag() + QLatin1Char('.');
-    const QStringList names = info.dir().entryList({prefix + QLatin1Char('*')}, QDir::Files | QDir::Hidden);
-    for (const QString &name : names) {
-        const qint64 pid = name.mid(prefix.size()).toLongLong();
-        if (pid != QCoreApplication::applicationPid() && !KalFileOps::processAlive(pid))
-            QFile::remove(info.dir().filePath(name));
-    }
-}
-
 void reportNoSpaceToOpen(const QString &volume, qint64 shortfall)
 {
     KalPrompt::critical(tr("Speicherplatz nicht ausreichend"),
@@ -136,7 +106,7 @@ void reportKeptLeftover(const KalOpenPlan &plan, State state, const QString &err
 // Step 3: a working copy already beside the file.
 bool handleLeftover(KalOpenPlan &plan)
 {
-    removeStalePartials(plan.workingCopy);
+    KalProjectLock::removeStalePrivateFiles(plan.workingCopy, QStringLiteral(".part"));
     if (!QFileInfo::exists(plan.workingCopy))
         return true;
     QString error;
@@ -306,14 +276,15 @@ bool checkSpaceToOpen(const KalOpenPlan &plan)
     return true;
 }
 
-// Step 7: the working copy, copied under a private name and given its real
-// name only if nobody else made one meanwhile.
+// Step 7: the working copy, copied under a name of this process (two
+// instances opening at the same moment never share or delete it) and given
+// its real name only if nobody else made one meanwhile.
 bool makeWorkingCopy(KalOpenPlan &plan)
 {
     if (plan.recovered)
         return true;
     KalBusyScope busy(tr("Projekt wird geöffnet..."));
-    const QString partial = partialName(plan.workingCopy);
+    const QString partial = KalProjectLock::privateName(plan.workingCopy, QStringLiteral(".part"));
     const auto failed = [&]() {
         QFile::remove(partial);
         KalPrompt::critical(tr("Dateifehler"), tr("Die Working Copy Datei konnte nicht erstellt werden."));

@@ -31,19 +31,12 @@ QString nativeName(const QString &path)
 // Snapshot files of saves that were killed before they finished.
 void removeStaleSnapshots(const QString &target)
 {
-    const QFileInfo info(target);
-    const QString prefix = info.fileName() + QStringLiteral(".saving.");
-    const QStringList stale = info.dir().entryList({prefix + QLatin1Char('*')}, QDir::Files | QDir::Hidden);
-    for (const QString &name : stale) {
-        const qint64 pid = name.mid(prefix.size()).toLongLong();
-        if (pid != QCoreApplication::applicationPid() && !KalFileOps::processAlive(pid))
-            QFile::remove(info.dir().filePath(name));
-    }
+    KalProjectLock::removeStalePrivateFiles(target, QStringLiteral(".saving"));
 }
 
 QString snapshotName(const QString &target)
 {
-    return target + QStringLiteral(".saving.") + QString::number(QCoreApplication::applicationPid());
+    return KalProjectLock::privateName(target, QStringLiteral(".saving"));
 }
 
 void reportNoSpaceForSaving(const QString &volume, qint64 shortfall)

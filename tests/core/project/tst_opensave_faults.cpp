@@ -202,6 +202,23 @@ private slots:
         QCOMPARE(m_prompt->titles(), QStringList{"Datenbank in Bearbeitung"});
     }
 
+    // Instances on other computers sharing the folder may be in the middle of
+    // opening or saving: their temporary files are theirs.
+    void temporaryFilesOfOtherComputersSurvive()
+    {
+        const QString file = path("geteilt.pwp");
+        QVERIFY(createProject(file, 1));
+        const QStringList theirs{file + ".saving.LAPTOP.999999", file + ".workingcopy.part.LAPTOP.999999"};
+        for (const QString &name : theirs)
+            writeFile(name, "in Arbeit");
+        KalProject project;
+        QVERIFY(project.openProject(file));
+        QCOMPARE(project.saveProject(), int(KalProject::Saved));
+        QVERIFY(project.closeProject());
+        for (const QString &name : theirs)
+            QVERIFY2(QFileInfo::exists(name), qPrintable(name));
+    }
+
     void saveAsOntoHeldProject_data()
     {
         QTest::addColumn<bool>("untitled");
