@@ -69,6 +69,30 @@ private slots:
         holder.waitForFinished(5000);
     }
 
+    // The recovered state of a crashed run was never saved: giving it up asks.
+    void recoveredProjectAsksBeforeClosing()
+    {
+        QTemporaryDir dir;
+        const QString file = dir.filePath("absturz.pwp");
+        QVERIFY(createProject(file, 1));
+        QVERIFY(QFile::copy(file, file + ".workingcopy"));
+        QVERIFY(execute(file + ".workingcopy", {"INSERT INTO defect (id, description) VALUES (77, 'ungesichert')"}));
+        QFile udf(file + ".udf");
+        QVERIFY(udf.open(QIODevice::WriteOnly));
+        udf.write("erika\nBAUBUERO\n01.02.26\n10:15\n4711\n");
+        udf.close();
+        qputenv("USERNAME", "erika");
+        qputenv("COMPUTERNAME", "BAUBUERO");
+        KalMainWindow window;
+        QVERIFY(window.openProject(file));
+        QCOMPARE(window.project()->model("defect")->rowCount(), 2);
+        m_prompt->clear();
+        QVERIFY(!window.closeProject(true)); // the unqueued question is cancelled
+        QCOMPARE(m_prompt->titles(), QStringList{"Projekt geändert"});
+        QVERIFY(window.project()->isOpen());
+        window.project()->setModified(false);
+    }
+
 private:
     KalScriptedPrompt *m_prompt = nullptr;
 };

@@ -103,6 +103,22 @@ void reportKeptLeftover(const KalOpenPlan &plan, State state, const QString &err
                         error + QStringLiteral("\n\n") + native(plan.workingCopy) + QLatin1Char('\n') + kept);
 }
 
+// Writing through a link under a companion's name would change whatever it
+// points to (the project itself, say): such a folder is left alone.
+bool companionsAreNoLinks(const KalOpenPlan &plan)
+{
+    for (const QString &companion : {plan.workingCopy, plan.userData, plan.file + QStringLiteral("-journal"),
+                                     plan.workingCopy + QStringLiteral("-journal")}) {
+        if (QFileInfo(companion).isSymLink()) {
+            KalPrompt::critical(tr("Dateifehler"), tr("Die Datei\n%1\nist eine Verknüpfung. Das Projekt wird nicht "
+                                                      "geöffnet, damit nichts über sie hinweg geändert wird.")
+                                                       .arg(native(companion)));
+            return false;
+        }
+    }
+    return true;
+}
+
 // Step 3: a working copy already beside the file.
 bool handleLeftover(KalOpenPlan &plan)
 {
@@ -345,7 +361,7 @@ KalProject::OpenOutcome KalProject::openProjectStep(const QString &path, bool af
         if (plan.wroteUserData)
             QFile::remove(plan.userData);
     });
-    if (!handleLeftover(plan))
+    if (!companionsAreNoLinks(plan) || !handleLeftover(plan))
         return OpenStopped;
     QString integrity;
     if (!probeProjectFile(plan, &integrity))

@@ -428,6 +428,27 @@ private slots:
         QVERIFY(!QFileInfo::exists(file + pipe));
     }
 
+    void companionsThatAreLinks_data()
+    {
+        QTest::addColumn<QString>("companion");
+        QTest::newRow("working copy") << ".workingcopy";
+        QTest::newRow("user file") << ".udf";
+    }
+
+    void companionsThatAreLinks()
+    {
+        QFETCH(QString, companion);
+        const QString file = path("p.pwp");
+        QVERIFY(createProject(file, 1));
+        QVERIFY(QFile::link(file, file + companion));
+        const QByteArray before = fileHash(file);
+        KalProject project;
+        QVERIFY(!project.openProject(file));
+        QCOMPARE(m_prompt->titles(), QStringList{"Dateifehler"});
+        QCOMPARE(fileHash(file), before);
+        QVERIFY(QFileInfo(file + companion).isSymLink());
+    }
+
     void walModeProjectKeepsCommittedRows()
     {
         const QString original = path("wal.pwp");
