@@ -153,7 +153,7 @@ private slots:
         QTest::newRow("empty") << "" << false;
         QTest::newRow("text") << "abc" << false;
         QTest::newRow("half text") << "0.x" << false;
-        QTest::newRow("three parts") << "0.2.1" << false;
+        QTest::newRow("three parts: the first two decide") << "0.2.1" << true;
         QTest::newRow("leading zeros") << "00.02" << true;
     }
 
