@@ -397,7 +397,8 @@ bool KalProject::switchToWorkingCopy(KalOpenPlan &plan)
         return false;
     }
     if (!locked || !KalFileOps::namesOpenFile(plan.workingCopy, m_workingCopyFd)) {
-        plan.madeWorkingCopy = plan.madeWorkingCopy && locked;
+        // Whatever now has that name belongs to the other instance.
+        plan.madeWorkingCopy = false;
         KalProjectLock::reportHeld(plan.userData);
         return false;
     }
