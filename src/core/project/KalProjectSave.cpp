@@ -63,6 +63,36 @@ bool targetIsHeld(const QString &target)
     return true;
 }
 
+// Writes the new working copy of a save as under a name of this process
+// and gives it its name only if no other instance made one meanwhile (a
+// crashed run's leftover, found unheld before, is replaced).
+int installWorkingCopy(const QSqlDatabase &db, int sourceFd, const QString &workingCopy, const QString &userData)
+{
+    const auto failed = [&]() {
+        KalPrompt::critical(KalProject::tr("Dateifehler"),
+                            KalProject::tr("Fehler beim Kopieren der Working Copy Datei."));
+        return int(KalProject::SaveFailed);
+    };
+    const QString temporary = snapshotName(workingCopy);
+    removeStaleSnapshots(workingCopy);
+    QString error;
+    if (!KalFileOps::removeDatabaseFile(workingCopy) || !KalSnapshot::write(db, temporary, &error, sourceFd))
+        return failed();
+    switch (KalFileOps::installNew(temporary, workingCopy)) {
+    case KalFileOps::Installed:
+        KalFileOps::syncDirectory(QFileInfo(workingCopy).absolutePath());
+        return KalProject::Saved;
+    case KalFileOps::AlreadyExists:
+        QFile::remove(temporary);
+        KalProjectLock::reportHeld(userData);
+        return KalProject::NotSaved;
+    case KalFileOps::InstallFailed:
+        break;
+    }
+    QFile::remove(temporary);
+    return failed();
+}
+
 bool sameFile(const QString &a, const QString &b)
 {
     const QString canonical = QFileInfo(a).canonicalFilePath();
@@ -241,11 +271,10 @@ int KalProject::saveAs(const QString &target)
     const QString newUserData = target + QStringLiteral(".udf");
 
     // The new working copy first: if it cannot be made, the target is not touched.
-    QString error;
-    if (!writeSnapshot(newWorkingCopy, &error)) {
-        KalPrompt::critical(tr("Dateifehler"), tr("Fehler beim Kopieren der Working Copy Datei."));
+    const int installed = installWorkingCopy(database(), m_workingCopyFd, newWorkingCopy, newUserData);
+    if (installed != Saved)
         return SaveFailed;
-    }
+    QString error;
     if (!writeSnapshot(target, &error)) {
         KalFileOps::removeDatabaseFile(newWorkingCopy);
         KalPrompt::critical(tr("Dateifehler"), tr("Fehler beim Kopieren der Working Copy Datei."));
@@ -276,7 +305,8 @@ int KalProject::saveAs(const QString &target)
         m_writeProtected = oldWriteProtected;
         m_backupsMade = oldBackupsMade;
         reopenWorkingCopy();
-        KalFileOps::removeDatabaseFile(newWorkingCopy);
+        if (reopened != NotSaved) // otherwise the name is another instance's now
+            KalFileOps::removeDatabaseFile(newWorkingCopy);
         return SaveFailed;
     }
     KalFileOps::removeDatabaseFile(oldWorkingCopy);
@@ -293,10 +323,18 @@ int KalProject::reopenWorkingCopy()
     if (!openConnection(m_workingCopyPath, true))
         return SaveFailed;
     QString error;
-    if (!writeTest(connectionName(), &error)) {
+    QSqlError sqlError;
+    const bool locked = writeTest(connectionName(), &error, &sqlError);
+    if (!locked && !KalProjectLock::isLockError(sqlError)) {
         KalPrompt::critical(QStringLiteral("SQL Error"), error);
         closeConnection();
         return SaveFailed;
+    }
+    // Another instance took the name before we held the file: it is theirs.
+    if (!locked || !KalFileOps::namesOpenFile(m_workingCopyPath, m_workingCopyFd)) {
+        KalProjectLock::reportHeld(m_userDataPath);
+        closeConnection();
+        return NotSaved;
     }
     if (!m_userDataPath.isEmpty() && !QFileInfo::exists(m_userDataPath))
         writeUserDataFile(false);

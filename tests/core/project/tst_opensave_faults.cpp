@@ -2,6 +2,7 @@
 // the project, full and read-only volumes, journals left by crashed writers,
 // and files shared with colleagues.
 #include "core/project/KalEnvironment.h"
+#include "core/project/KalFileOps.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSettings.h"
 #include "core/project/KalSqlTableModel.h"
@@ -261,6 +262,30 @@ private slots:
             KalProject third;
             QVERIFY(!third.openProject(target));
         }
+    }
+
+    // Another instance makes the target's working copy while ours is being
+    // written: theirs stays, ours gives up with the holder message.
+    void saveAsLosingTheRaceForTheWorkingCopy()
+    {
+        const QString target = path("ziel.pwp");
+        const QString theirs = target + ".workingcopy";
+        KalProject project;
+        QVERIFY(project.newProject());
+        KalFileOps::setFaultHook([&](const QString &operation, const QString &file) {
+            if (operation == "install" && file == theirs)
+                writeFile(theirs, "die andere Instanz");
+            return false;
+        });
+        const int result = project.saveProject(target);
+        KalFileOps::setFaultHook({});
+        QCOMPARE(result, int(KalProject::SaveFailed));
+        QCOMPARE(m_prompt->titles(), QStringList{"Datenbank in Bearbeitung"});
+        QFile file(theirs);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        QCOMPARE(file.readAll(), QByteArray("die andere Instanz"));
+        QVERIFY(!QFileInfo::exists(target));
+        QVERIFY(project.isOpen());
     }
 
     void cliNewOntoHeldProject()
