@@ -309,7 +309,8 @@ bool KalDatabaseSchema::isFileVersionNewer(const QString &version, const QString
 {
     const QStringList file = version.trimmed().split(QLatin1Char('.'));
     const QStringList program = programVersion.split(QLatin1Char('.'));
-    if (file.size() != 2 || program.size() != 2)
+    // Later versions may add parts ("1.0.0"): the first two decide.
+    if (file.size() < 2 || program.size() < 2)
         return false;
     bool ok[4] = {false, false, false, false};
     const int fileMajor = file.at(0).toInt(&ok[0], 10);

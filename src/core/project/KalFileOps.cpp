@@ -10,6 +10,10 @@
 #include <cstdio>
 #include <fcntl.h>
 #include <sys/stat.h>
+#ifdef Q_OS_LINUX
+#include <linux/fs.h>
+#include <sys/syscall.h>
+#endif
 #include <unistd.h>
 #endif
 #ifdef Q_OS_WIN
@@ -91,7 +95,7 @@ bool copyFile(const QString &from, const QString &to)
     {
         const int in = ::open(QFile::encodeName(from).constData(), O_RDONLY | O_CLOEXEC);
         const int out =
-            in < 0 ? -1 : ::open(QFile::encodeName(to).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+            in < 0 ? -1 : ::open(QFile::encodeName(to).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
         struct stat st;
         if (in >= 0 && out >= 0 && ::fstat(in, &st) == 0) {
             loff_t done = 0;
@@ -201,6 +205,79 @@ bool processAlive(qint64 pid)
     const bool alive = GetExitCodeProcess(h, &code) && code == STILL_ACTIVE;
     CloseHandle(h);
     return alive;
+#endif
+}
+
+InstallResult installNew(const QString &from, const QString &to)
+{
+    if (injectedFault(QStringLiteral("install"), to))
+        return InstallFailed;
+#ifdef Q_OS_UNIX
+    const QByteArray source = QFile::encodeName(from);
+    const QByteArray target = QFile::encodeName(to);
+    if (::link(source.constData(), target.constData()) == 0) {
+        ::unlink(source.constData());
+        return Installed;
+    }
+    if (errno == EEXIST)
+        return AlreadyExists;
+#ifdef Q_OS_LINUX
+    // File systems without hard links may still rename without replacing.
+    if (::syscall(SYS_renameat2, AT_FDCWD, source.constData(), AT_FDCWD, target.constData(), RENAME_NOREPLACE) == 0)
+        return Installed;
+    if (errno == EEXIST)
+        return AlreadyExists;
+#endif
+    return InstallFailed;
+#else
+    if (MoveFileExW(reinterpret_cast<const wchar_t *>(QDir::toNativeSeparators(from).utf16()),
+                    reinterpret_cast<const wchar_t *>(QDir::toNativeSeparators(to).utf16()), MOVEFILE_WRITE_THROUGH))
+        return Installed;
+    const DWORD error = GetLastError();
+    return error == ERROR_ALREADY_EXISTS || error == ERROR_FILE_EXISTS ? AlreadyExists : InstallFailed;
+#endif
+}
+
+void keepModeAndGroup(const QString &original, const QString &onto)
+{
+#ifdef Q_OS_UNIX
+    struct stat st;
+    if (::stat(QFile::encodeName(original).constData(), &st) != 0)
+        return;
+    const QByteArray target = QFile::encodeName(onto);
+    // The group first: changing it may clear set-id bits that chmod then restores.
+    if (::chown(target.constData(), uid_t(-1), st.st_gid) != 0) {
+        // Not a member of that group: the file keeps ours.
+    }
+    ::chmod(target.constData(), st.st_mode & 07777);
+#else
+    QFile::setPermissions(onto, QFile::permissions(original));
+#endif
+}
+
+bool isRegularFile(const QString &path)
+{
+#ifdef Q_OS_UNIX
+    struct stat st;
+    return ::stat(QFile::encodeName(path).constData(), &st) == 0 && S_ISREG(st.st_mode);
+#else
+    return QFileInfo(path).isFile();
+#endif
+}
+
+bool namesOpenFile(const QString &path, int fd)
+{
+#ifdef Q_OS_UNIX
+    if (fd < 0)
+        return true;
+    struct stat byName, byDescriptor;
+    if (::stat(QFile::encodeName(path).constData(), &byName) != 0 || ::fstat(fd, &byDescriptor) != 0)
+        return false;
+    return byName.st_dev == byDescriptor.st_dev && byName.st_ino == byDescriptor.st_ino;
+#else
+    Q_UNUSED(path)
+    Q_UNUSED(fd)
+    return true;
 #endif
 }
 

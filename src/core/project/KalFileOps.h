@@ -19,6 +19,19 @@ bool copyFile(const QString &from, const QString &to);
 // Removes a file and, for SQLite files, its rollback journal.
 bool removeDatabaseFile(const QString &path);
 bool processAlive(qint64 pid);
+
+enum InstallResult { Installed, AlreadyExists, InstallFailed };
+// Gives `from` the name `to` only when no file has that name yet (hard link
+// or a rename that never replaces); `from` is gone afterwards on success.
+InstallResult installNew(const QString &from, const QString &to);
+// Gives `onto` the permission bits and, where allowed, the group of
+// `original`, so that replacing a shared file does not lock colleagues out.
+void keepModeAndGroup(const QString &original, const QString &onto);
+// A regular file (not a pipe, device or folder), links followed.
+bool isRegularFile(const QString &path);
+// True when `path` still names the file open as `fd` (always true where
+// descriptors are not available).
+bool namesOpenFile(const QString &path, int fd);
 // Not writable for us, or marked read-only for everybody (which also counts
 // for an administrator, who could write it anyway).
 bool isReadOnly(const QString &path);

@@ -4,6 +4,7 @@
 #include "core/project/KalEnvironment.h"
 #include "core/project/KalFileOps.h"
 #include "core/project/KalProgress.h"
+#include "core/project/KalProjectLock.h"
 #include "core/project/KalProjectModels.h"
 #include "core/project/KalPrompt.h"
 #include "core/project/KalSettings.h"
@@ -30,8 +31,6 @@
 #endif
 
 namespace {
-const char *const kProbeLeftover = "BTBLOCK";
-const char *const kProbeVersion = "VERSIONTEST";
 const char *const kProbeBackup = "BCKTEST";
 
 QString fileErrorTitle()
@@ -42,36 +41,6 @@ QString fileErrorTitle()
 QString deleteFailedText(const QString &path)
 {
     return KalProject::tr("Löschen der Datei\n%1\n fehlgeschlagen.").arg(QDir::toNativeSeparators(path));
-}
-
-// Connections to files this program did not necessarily write itself.
-QSqlDatabase addProbeConnection(const QString &name, const QString &file, bool readOnly)
-{
-    QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
-    db.setDatabaseName(file);
-    QString options = QStringLiteral("QSQLITE_BUSY_TIMEOUT=500");
-    if (readOnly)
-        options += QStringLiteral(";QSQLITE_OPEN_READONLY");
-    db.setConnectOptions(options);
-    return db;
-}
-
-void removeConnection(const QString &name)
-{
-    {
-        QSqlDatabase db = QSqlDatabase::database(name, false);
-        if (db.isValid())
-            db.close();
-    }
-    QSqlDatabase::removeDatabase(name);
-}
-
-bool isLockError(const QSqlError &error)
-{
-    // SQLITE_BUSY (5) and SQLITE_LOCKED (6), with their extended codes.
-    bool ok = false;
-    const int code = error.nativeErrorCode().toInt(&ok) & 0xff;
-    return ok && (code == 5 || code == 6);
 }
 
 // Thumbnails come from files anybody may have written: look at the size
@@ -88,13 +57,6 @@ QImage decodeThumbnail(const QByteArray &bytes)
     return reader.read();
 }
 
-bool isConstraintError(const QSqlError &error)
-{
-    // SQLITE_CONSTRAINT (19) and its extended codes end in 19 modulo 256.
-    bool ok = false;
-    const int code = error.nativeErrorCode().toInt(&ok);
-    return ok && (code & 0xff) == 19;
-}
 } // namespace
 
 KalProject::KalProject(QObject *parent)
@@ -183,9 +145,19 @@ QImage KalProject::planThumbnail(qint64 planId) const
 
 bool KalProject::openConnection(const QString &file, bool showErrors)
 {
+    int fd = -1;
+#ifdef Q_OS_UNIX
+    // Opened before SQLite opens the file: if the name still leads to this
+    // descriptor's file once locked, SQLite holds that same file.
+    fd = ::open(QFile::encodeName(file).constData(), O_RDONLY | O_CLOEXEC);
+#endif
     QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connectionName());
     db.setDatabaseName(file);
     if (!db.open()) {
+#ifdef Q_OS_UNIX
+        if (fd >= 0)
+            ::close(fd);
+#endif
         const QString text = db.lastError().text();
         db = QSqlDatabase();
         QSqlDatabase::removeDatabase(connectionName());
@@ -200,15 +172,17 @@ bool KalProject::openConnection(const QString &file, bool showErrors)
     query.exec(QStringLiteral("PRAGMA synchronous=FULL"));
     m_transactions.setConnectionName(connectionName());
 #ifdef Q_OS_UNIX
-    m_workingCopyFd = ::open(QFile::encodeName(file).constData(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) // a new file that SQLite has just made
+        fd = ::open(QFile::encodeName(file).constData(), O_RDONLY | O_CLOEXEC);
 #endif
+    m_workingCopyFd = fd;
     return true;
 }
 
 void KalProject::closeConnection()
 {
     m_transactions.reset();
-    removeConnection(connectionName());
+    KalProjectLock::removeConnection(connectionName());
 #ifdef Q_OS_UNIX
     if (m_workingCopyFd >= 0)
         ::close(m_workingCopyFd);
@@ -216,26 +190,9 @@ void KalProject::closeConnection()
     m_workingCopyFd = -1;
 }
 
-// Inserts and deletes a dummy meta row. On the project connection this takes
-// SQLite's exclusive lock and keeps it until the connection closes.
 bool KalProject::writeTest(const QString &connection, QString *errorText, QSqlError *sqlError)
 {
-    QSqlDatabase db = QSqlDatabase::database(connection, false);
-    QSqlQuery query(db);
-    bool ok = query.exec(QStringLiteral("INSERT INTO meta (KEY, VALUE) VALUES('dummy', 'dummy');"));
-    if (!ok && isConstraintError(query.lastError())) {
-        // A run killed between the two statements left the dummy behind.
-        QSqlQuery cleanup(db);
-        if (cleanup.exec(QStringLiteral("DELETE FROM meta WHERE KEY='dummy';")))
-            ok = query.exec(QStringLiteral("INSERT INTO meta (KEY, VALUE) VALUES('dummy', 'dummy');"));
-    }
-    if (ok)
-        ok = query.exec(QStringLiteral("DELETE FROM meta WHERE KEY='dummy';"));
-    if (!ok && errorText)
-        *errorText = query.lastError().text();
-    if (!ok && sqlError)
-        *sqlError = query.lastError();
-    return ok;
+    return KalProjectLock::writeTest(connection, errorText, sqlError);
 }
 
 bool KalProject::writeUserDataFile(bool withProcessId)
@@ -249,6 +206,10 @@ bool KalProject::writeUserDataFile(bool withProcessId)
     if (computer.isEmpty())
         computer = tr("unbekannt");
     const QDateTime now = KalEnvironment::now();
+    // Something else under our companion's name (a pipe would block the
+    // write until somebody reads it) is replaced by the real file.
+    if (QFileInfo::exists(m_userDataPath) && !KalFileOps::isRegularFile(m_userDataPath))
+        QFile::remove(m_userDataPath);
     QFile file(m_userDataPath);
     if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate | QIODevice::Text))
         return false;
@@ -331,320 +292,6 @@ bool KalProject::newProject()
     return true;
 }
 
-bool KalProject::openProject(const QString &path)
-{
-    if (m_open && !closeProject())
-        return false;
-    QString current = path;
-    for (int attempt = 0; attempt < 4; ++attempt) {
-        bool restart = false;
-        const int result = openProjectStep(current, &restart);
-        if (!restart)
-            return result == 0;
-    }
-    return false;
-}
-
-bool KalProject::handleLeftoverWorkingCopy(const QString &path, bool *useLeftover)
-{
-    Q_UNUSED(path)
-    *useLeftover = false;
-    QFile::remove(m_workingCopyPath + QStringLiteral(".part"));
-    if (!QFileInfo::exists(m_workingCopyPath))
-        return true;
-
-    QString error;
-    bool held = false;
-    bool unusable = false;
-    {
-        QSqlDatabase probe = addProbeConnection(QString::fromLatin1(kProbeLeftover), m_workingCopyPath, false);
-        if (!probe.open()) {
-            const QString text = probe.lastError().text();
-            probe = QSqlDatabase();
-            removeConnection(QString::fromLatin1(kProbeLeftover));
-            KalPrompt::critical(tr("Datenbankfehler"), text);
-            return false;
-        }
-        KalDatabaseSchema::applySafetyPragmas(probe);
-        QSqlError sqlError;
-        held = !writeTest(QString::fromLatin1(kProbeLeftover), &error, &sqlError);
-        // Only a lock means somebody works on it; a leftover that cannot be
-        // written for any other reason is unusable and is discarded below.
-        if (held && !isLockError(sqlError)) {
-            held = false;
-            unusable = true;
-        }
-    }
-    removeConnection(QString::fromLatin1(kProbeLeftover));
-    if (unusable) {
-        qDebug("Discarding unusable working copy: %s", qPrintable(error));
-        if (!KalFileOps::removeDatabaseFile(m_workingCopyPath)) {
-            KalPrompt::critical(fileErrorTitle(), deleteFailedText(m_workingCopyPath));
-            return false;
-        }
-        QFile::remove(m_userDataPath);
-        return true;
-    }
-
-    if (held) {
-        QFile udf(m_userDataPath);
-        QString text;
-        if (udf.open(QIODevice::ReadOnly | QIODevice::Text)) {
-            QTextStream in(&udf);
-            in.setCodec("UTF-8");
-            QStringList lines;
-            for (int i = 0; i < 4; ++i)
-                lines << in.readLine();
-            text = tr("Die Datei konnte nicht geöffnet werden, da sie in Bearbeitung ist von\nUser: %1\nComputer: "
-                      "%2\nseit dem %3 %4 Uhr.")
-                       .arg(lines.at(0), lines.at(1), lines.at(2), lines.at(3));
-        } else {
-            text = tr("Die Datei konnte nicht geöffnet werden, da sie in Bearbeitung ist.");
-        }
-        KalPrompt::critical(tr("Datenbank in Bearbeitung"), text);
-        return false;
-    }
-
-    // Nobody holds it: an interrupted run left it behind. Only the same user
-    // on the same computer gets that state back.
-    if (!QFileInfo::exists(m_userDataPath)) {
-        if (!KalFileOps::removeDatabaseFile(m_workingCopyPath)) {
-            KalPrompt::critical(fileErrorTitle(), deleteFailedText(m_workingCopyPath));
-            return false;
-        }
-    } else {
-        QFile udf(m_userDataPath);
-        QStringList lines;
-        if (udf.open(QIODevice::ReadOnly | QIODevice::Text)) {
-            QTextStream in(&udf);
-            in.setCodec("UTF-8");
-            lines << in.readLine() << in.readLine();
-        }
-        udf.close();
-        const QString user = KalEnvironment::userNameVariable();
-        const QString computer = KalEnvironment::computerNameVariable();
-        const bool someoneElse =
-            !user.isEmpty() && !computer.isEmpty() && (lines.value(0) != user || lines.value(1) != computer);
-        if (someoneElse) {
-            if (!KalFileOps::removeDatabaseFile(m_workingCopyPath)) {
-                KalPrompt::critical(fileErrorTitle(), deleteFailedText(m_workingCopyPath));
-                return false;
-            }
-            if (!QFile::remove(m_userDataPath))
-                KalPrompt::critical(fileErrorTitle(), deleteFailedText(m_userDataPath));
-        }
-    }
-    if (QFileInfo::exists(m_workingCopyPath)) {
-        KalPrompt::information(tr("Datei öffnen"),
-                               tr("Die letzte Bearbeitung der Mängel-Datei wurde nicht ordnungsgemäß "
-                                  "abgeschlossen.\nDer letzte Bearbeitungsstand wird geöffnet. Speichern Sie die "
-                                  "Datei, wenn Sie diesen Stand behalten wollen."));
-        *useLeftover = true;
-    }
-    return true;
-}
-
-// One pass of opening; sets `restart` when a restored backup must be opened
-// from the beginning. Returns 0 when the project is open.
-int KalProject::openProjectStep(const QString &path, bool *restart)
-{
-    *restart = false;
-    resetState();
-    const QString absolute = QFileInfo(path).absoluteFilePath();
-    if (path.isEmpty() || !QFileInfo(absolute).isFile()) {
-        KalPrompt::critical(fileErrorTitle(),
-                            tr("Die Datei\n%1\nexistiert nicht.").arg(QDir::toNativeSeparators(path)));
-        return 1;
-    }
-    m_userDataPath = absolute + QStringLiteral(".udf");
-    m_workingCopyPath = absolute + QStringLiteral(".workingcopy");
-
-    bool useLeftover = false;
-    if (!handleLeftoverWorkingCopy(absolute, &useLeftover)) {
-        resetState();
-        return 1;
-    }
-
-    // Version, project tables and integrity of the project file itself,
-    // read-only: opening must never change it.
-    QString integrity;
-    {
-        QSqlDatabase probe = addProbeConnection(QString::fromLatin1(kProbeVersion), absolute, true);
-        if (!probe.open()) {
-            const QString text = probe.lastError().text();
-            probe = QSqlDatabase();
-            removeConnection(QString::fromLatin1(kProbeVersion));
-            KalPrompt::critical(tr("Datenbankfehler"), text);
-            resetState();
-            return 1;
-        }
-        KalDatabaseSchema::applySafetyPragmas(probe);
-        const QString version = KalDatabaseSchema::fileVersion(probe);
-        if (KalDatabaseSchema::isFileVersionNewer(version)) {
-            probe = QSqlDatabase();
-            removeConnection(QString::fromLatin1(kProbeVersion));
-            KalPrompt::critical(fileErrorTitle(), tr("Die Datei kann nicht geöffnet werden, da sie mit einer "
-                                                     "neueren Programmversion erstellt wurde."));
-            resetState();
-            return 1;
-        }
-        integrity = checkIntegrity(QString::fromLatin1(kProbeVersion));
-        // A readable SQLite file without the master-data table is not a
-        // project; say so before a working copy is made of it.
-        const QMap<QString, QString> tables = KalDatabaseSchema::tableMap(probe);
-        const bool readable = probe.lastError().type() == QSqlError::NoError || !tables.isEmpty();
-        probe = QSqlDatabase();
-        removeConnection(QString::fromLatin1(kProbeVersion));
-        if (integrity == QLatin1String("ok") && readable && !tables.contains(QStringLiteral("kal"))) {
-            KalPrompt::critical(tr("Datenbankfehler"), tr("Tabelle KAL fehlt"));
-            resetState();
-            return 1;
-        }
-    }
-
-    if (integrity != QLatin1String("ok") && !useLeftover) {
-        int backupCount = 0;
-        const QString backup = findNewestIntactBackup(absolute, &backupCount);
-        const QString intro = tr("Die interne Struktur der Mängel-Datenbank ist beschädigt.\nWenn Sie mit dieser "
-                                 "Datenbank weiterarbeiten, drohen Datenverluste!\n");
-        KalPrompt::Message m;
-        m.icon = KalPrompt::Warning;
-        m.title = tr("Beschädigte Datenbank-Datei");
-        const KalPrompt::Button restoreButton{KalPrompt::AcceptCustom, tr("Backup wiederherstellen")};
-        const KalPrompt::Button openDamaged{KalPrompt::AcceptCustom, tr("Beschädigte Datei öffnen")};
-        if (!backup.isEmpty()) {
-            const QString date = QLocale().toString(QFileInfo(backup).lastModified(), QLocale::ShortFormat);
-            m.text = intro +
-                     tr("Das neueste unbeschädigte Backup stammt vom %1.\nSoll dieses Backup wiederhergestellt werden "
-                        "(empfohlen)?")
-                         .arg(date);
-            m.buttons = {restoreButton, openDamaged, {KalPrompt::Cancel, {}}};
-            m.defaultButton = 0;
-            m.escapeButton = 2;
-        } else {
-            if (backupCount == 0)
-                m.text = intro +
-                         tr("Es existieren keine Backup-Dateien. Wenn sie über Sicherungskopien dieser Datei verfügen, "
-                            "stellen Sie diese wieder her.\n");
-            else
-                m.text = intro +
-                         tr("Die Backup-Dateien sind ebenfalls beschädigt. Wenn sie über Sicherungskopien dieser Datei "
-                            "verfügen, stellen Sie diese wieder her.\n");
-            m.buttons = {openDamaged, {KalPrompt::RejectCustom, tr("Abbrechen")}};
-            m.defaultButton = 1;
-            m.escapeButton = 1;
-        }
-        const int answer = KalPrompt::ask(m);
-        const bool wantsRestore = !backup.isEmpty() && answer == 0;
-        const bool wantsDamaged = backup.isEmpty() ? answer == 0 : answer == 1;
-        if (wantsRestore) {
-            QString damagedName;
-            QString error;
-            if (restoreBackup(absolute, backup, &damagedName, &error) != Restored) {
-                KalPrompt::information(tr("Backup wiederherstellen"),
-                                       tr("Die Datei konnte nicht wiederhegestellt werden.\n") + error);
-                resetState();
-                return 1;
-            }
-            KalPrompt::information(tr("Backup wiederherstellen"),
-                                   tr("Die Datei wurde erfolgreich wiederhergestellt und wird jetzt geöffnet.\nDie "
-                                      "beschädigte Datei wurde umbenannt in %2.")
-                                       .arg(QDir::toNativeSeparators(damagedName)));
-            *restart = true;
-            return 1;
-        }
-        if (!wantsDamaged) {
-            resetState();
-            return 1;
-        }
-    }
-
-    // Room for the working copy and, later, for saving.
-    const KalEnvironment::VolumeInfo volume = KalEnvironment::volumeInfo(absolute);
-    if (volume.valid && volume.ready && !useLeftover) {
-        const qint64 size = QFileInfo(absolute).size();
-        const qint64 free = volume.bytesAvailable;
-        if (free - size < 0) {
-            KalPrompt::critical(tr("Speicherplatz nicht ausreichend"),
-                                tr("Auf dem Laufwerk %1 steht nicht genügend Speicherplatz zur Verfügung, um das "
-                                   "Projekt zu öffnen.\nGeben Sie mindestens %2 MB Speicherplatz frei und versuchen "
-                                   "Sie es erneut.")
-                                    .arg(volume.name)
-                                    .arg((size - free) / 1000000));
-            resetState();
-            return 1;
-        }
-        if (free < 3 * size)
-            KalPrompt::warning(tr("Speicherplatz"), tr("Sie sollten auf dem Laufwerk %1 Speicherplatz freigeben, da "
-                                                       "es sonst zu Problemen beim Speichern des Projekts kommen kann.")
-                                                        .arg(volume.name));
-    }
-
-    bool madeWorkingCopy = false;
-    if (!useLeftover) {
-        KalBusyScope busy(tr("Projekt wird geöffnet..."));
-        // Copied under another name first: an interrupted copy must never
-        // look like a working copy.
-        const QString partial = m_workingCopyPath + QStringLiteral(".part");
-        if (!KalFileOps::copyFile(absolute, partial) || !KalFileOps::replaceFile(partial, m_workingCopyPath)) {
-            QFile::remove(partial);
-            KalPrompt::critical(fileErrorTitle(), tr("Die Working Copy Datei konnte nicht erstellt werden."));
-            resetState();
-            return 1;
-        }
-        madeWorkingCopy = true;
-        QFile::setPermissions(m_workingCopyPath, QFile::permissions(m_workingCopyPath) | QFile::WriteOwner |
-                                                     QFile::WriteUser | QFile::ReadOwner | QFile::ReadUser);
-    }
-    if (KalFileOps::isReadOnly(absolute)) {
-        m_writeProtected = true;
-        KalPrompt::warning(tr("Datei-Warnung"),
-                           tr("Sie haben keine Schreibrechte für die Datei %1.\nWenn Sie die Datei speichern wollen, "
-                              "können Sie dies nur unter einem anderen Namen oder in einen anderen Ordner.\nWählen "
-                              "Sie hierzu im Menü 'Datei' den Menüpunkt 'Speichern unter'.")
-                               .arg(QDir::toNativeSeparators(absolute)));
-    }
-
-    auto abandon = [&]() {
-        closeConnection();
-        if (madeWorkingCopy)
-            KalFileOps::removeDatabaseFile(m_workingCopyPath);
-        resetState();
-        return 1;
-    };
-
-    if (!openConnection(m_workingCopyPath, true))
-        return abandon();
-    QString error;
-    if (!writeTest(connectionName(), &error)) {
-        KalPrompt::critical(QStringLiteral("SQL Error"), error);
-        return abandon();
-    }
-    const bool writeProtected = m_writeProtected;
-    m_projectPath = absolute;
-    writeUserDataFile(true);
-
-    m_tableMap = KalDatabaseSchema::tableMap(database());
-    if (!m_tableMap.contains(QStringLiteral("kal"))) {
-        KalPrompt::critical(tr("Datenbankfehler"), tr("Tabelle KAL fehlt"));
-        closeConnection();
-        KalFileOps::removeDatabaseFile(m_workingCopyPath);
-        QFile::remove(m_userDataPath);
-        resetState();
-        return 1;
-    }
-
-    buildModels();
-    m_fileVersion = KalDatabaseSchema::fileVersion(database());
-    m_automaticImportMode = KalDatabaseSchema::automaticImportMode(database());
-    m_backupsMade = false;
-    m_writeProtected = writeProtected;
-    m_open = true;
-    setModified(false);
-    emit projectOpened();
-    return 0;
-}
-
 bool KalProject::closeProject()
 {
     if (!m_open && m_workingCopyPath.isEmpty())
@@ -724,15 +371,19 @@ QString KalProject::findNewestIntactBackup(const QString &path, int *count)
         if (!QFileInfo::exists(backup))
             continue;
         ++found;
+        // Only a project file that would pass opening counts: an empty file,
+        // another program's database or a pipe is no backup.
         QString result;
-        {
-            QSqlDatabase probe = addProbeConnection(QString::fromLatin1(kProbeBackup), backup, true);
+        if (KalFileOps::isRegularFile(backup) && QFileInfo(backup).size() > 0) {
+            QSqlDatabase probe = KalProjectLock::addProbeConnection(QString::fromLatin1(kProbeBackup), backup, true);
             if (probe.open()) {
                 KalDatabaseSchema::applySafetyPragmas(probe);
-                result = checkIntegrity(QString::fromLatin1(kProbeBackup));
+                if (KalDatabaseSchema::tableMap(probe).contains(QStringLiteral("kal")) &&
+                    !KalDatabaseSchema::isFileVersionNewer(KalDatabaseSchema::fileVersion(probe)))
+                    result = checkIntegrity(QString::fromLatin1(kProbeBackup));
             }
         }
-        removeConnection(QString::fromLatin1(kProbeBackup));
+        KalProjectLock::removeConnection(QString::fromLatin1(kProbeBackup));
         if (result == QLatin1String("ok")) {
             newest = backup;
             break;
@@ -768,9 +419,18 @@ int KalProject::restoreBackup(const QString &path, const QString &backup, QStrin
                              .arg(QFileInfo(path).fileName(), QFileInfo(newName).fileName());
         return RenameFailed;
     }
+    // A journal belongs to the file it was written for: left behind, it
+    // would be rolled back into the restored file.
+    for (const char *companion : {"-journal", "-wal", "-shm"}) {
+        const QString from = path + QLatin1String(companion);
+        if (QFileInfo::exists(from) || QFileInfo(from).isSymLink())
+            QFile::rename(from, newName + QLatin1String(companion));
+    }
     if (!KalFileOps::copyFile(backup, path)) {
         // Put the damaged file back rather than leave no project file at all.
         QFile::rename(newName, path);
+        for (const char *companion : {"-journal", "-wal", "-shm"})
+            QFile::rename(newName + QLatin1String(companion), path + QLatin1String(companion));
         if (errorText)
             *errorText = tr("Fehler beim Kopieren der Backup-Datei %1.").arg(QFileInfo(backup).fileName());
         return CopyFailed;

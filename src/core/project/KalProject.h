@@ -15,6 +15,7 @@
 
 class KalSqlTableModel;
 class KalProjectModels;
+struct KalOpenPlan;
 
 // The one open project: its working copy, lock, saving with backups,
 // integrity and compaction, and the table models on its connection.
@@ -107,8 +108,9 @@ private:
     int reopenWorkingCopy();
     int saveInPlace();
     int saveAs(const QString &target);
-    int openProjectStep(const QString &path, bool *restart);
-    bool handleLeftoverWorkingCopy(const QString &path, bool *useLeftover);
+    enum OpenOutcome { OpenDone, OpenStopped, OpenRestart };
+    OpenOutcome openProjectStep(const QString &path, bool afterRestore);
+    bool switchToWorkingCopy(KalOpenPlan &plan);
     bool writeSnapshot(const QString &targetFile, QString *errorText);
     void resetState();
 

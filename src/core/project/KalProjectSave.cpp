@@ -9,6 +9,7 @@
 #include "core/project/KalEnvironment.h"
 #include "core/project/KalFileOps.h"
 #include "core/project/KalProgress.h"
+#include "core/project/KalProjectLock.h"
 #include "core/project/KalProjectModels.h"
 #include "core/project/KalPrompt.h"
 #include "core/project/KalSettings.h"
@@ -30,19 +31,12 @@ QString nativeName(const QString &path)
 // Snapshot files of saves that were killed before they finished.
 void removeStaleSnapshots(const QString &target)
 {
-    const QFileInfo info(target);
-    const QString prefix = info.fileName() + QStringLiteral(".saving.");
-    const QStringList stale = info.dir().entryList({prefix + QLatin1Char('*')}, QDir::Files | QDir::Hidden);
-    for (const QString &name : stale) {
-        const qint64 pid = name.mid(prefix.size()).toLongLong();
-        if (pid != QCoreApplication::applicationPid() && !KalFileOps::processAlive(pid))
-            QFile::remove(info.dir().filePath(name));
-    }
+    KalProjectLock::removeStalePrivateFiles(target, QStringLiteral(".saving"));
 }
 
 QString snapshotName(const QString &target)
 {
-    return target + QStringLiteral(".saving.") + QString::number(QCoreApplication::applicationPid());
+    return KalProjectLock::privateName(target, QStringLiteral(".saving"));
 }
 
 void reportNoSpaceForSaving(const QString &volume, qint64 shortfall)
@@ -53,6 +47,56 @@ void reportNoSpaceForSaving(const QString &volume, qint64 shortfall)
                                        "versuchen Sie es erneut.")
                             .arg(volume)
                             .arg(shortfall / 1000000));
+}
+
+// Save as must not take a project away from the instance that has it open:
+// the same write test as opening, on the target's working copy.
+bool targetIsHeld(const QString &target)
+{
+    const QString workingCopy = target + QStringLiteral(".workingcopy");
+    if (!QFileInfo::exists(workingCopy))
+        return false;
+    QString error;
+    if (KalProjectLock::probe(workingCopy, &error) != KalProjectLock::State::Held)
+        return false;
+    KalProjectLock::reportHeld(target + QStringLiteral(".udf"));
+    return true;
+}
+
+// Writes the new working copy of a save as under a name of this process
+// and gives it its name only if no other instance made one meanwhile (a
+// crashed run's leftover, found unheld before, is replaced).
+int installWorkingCopy(const QSqlDatabase &db, int sourceFd, const QString &workingCopy, const QString &userData)
+{
+    const auto failed = [&]() {
+        KalPrompt::critical(KalProject::tr("Dateifehler"),
+                            KalProject::tr("Fehler beim Kopieren der Working Copy Datei."));
+        return int(KalProject::SaveFailed);
+    };
+    const QString temporary = snapshotName(workingCopy);
+    removeStaleSnapshots(workingCopy);
+    QString error;
+    if (!KalFileOps::removeDatabaseFile(workingCopy) || !KalSnapshot::write(db, temporary, &error, sourceFd))
+        return failed();
+    switch (KalFileOps::installNew(temporary, workingCopy)) {
+    case KalFileOps::Installed:
+        KalFileOps::syncDirectory(QFileInfo(workingCopy).absolutePath());
+        return KalProject::Saved;
+    case KalFileOps::AlreadyExists:
+        QFile::remove(temporary);
+        KalProjectLock::reportHeld(userData);
+        return KalProject::NotSaved;
+    case KalFileOps::InstallFailed:
+        break;
+    }
+    QFile::remove(temporary);
+    return failed();
+}
+
+bool sameFile(const QString &a, const QString &b)
+{
+    const QString canonical = QFileInfo(a).canonicalFilePath();
+    return a == b || (!canonical.isEmpty() && canonical == QFileInfo(b).canonicalFilePath());
 }
 
 qint64 fileSize(const QString &path)
@@ -68,6 +112,11 @@ bool KalProject::writeSnapshot(const QString &targetFile, QString *errorText)
     removeStaleSnapshots(targetFile);
     if (!KalSnapshot::write(database(), temporary, errorText, m_workingCopyFd))
         return false;
+    if (QFileInfo::exists(targetFile))
+        KalFileOps::keepModeAndGroup(targetFile, temporary);
+    // A journal beside the file being replaced belongs to the old file (a
+    // crashed run's leftover); rolled back into the new one it would damage it.
+    QFile::remove(targetFile + QStringLiteral("-journal"));
     if (!KalFileOps::replaceFile(temporary, targetFile)) {
         QFile::remove(temporary);
         if (errorText)
@@ -85,6 +134,15 @@ int KalProject::saveProject(const QString &target)
     // Changes of an unfinished outer transaction belong to the save.
     while (m_transactions.depth() > 0)
         m_transactions.commit();
+    // A transaction still open outside the counted ones (a commit that
+    // failed earlier) holds edits too; no consistent copy can be made under it.
+    if (KalSnapshot::inTransaction(database())) {
+        QSqlQuery commit(database());
+        if (!commit.exec(QStringLiteral("COMMIT TRANSACTION"))) {
+            KalPrompt::critical(tr("Datenbankfehler"), commit.lastError().text());
+            return SaveFailed;
+        }
+    }
     KalDatabaseSchema::setFileVersion(database(), KalDatabaseSchema::programFileVersion());
 
     if (target.isEmpty()) {
@@ -170,6 +228,8 @@ int KalProject::saveInPlace()
                                 tr("Umbenennen der Backup-Datei\n%1\n fehlgeschlagen.").arg(nativeName(m_projectPath)));
     }
 
+    if (projectExists)
+        KalFileOps::keepModeAndGroup(m_projectPath, temporary);
     if (!KalFileOps::replaceFile(temporary, m_projectPath)) {
         QFile::remove(temporary);
         KalPrompt::critical(tr("Dateifehler"),
@@ -182,6 +242,15 @@ int KalProject::saveInPlace()
 
 int KalProject::saveAs(const QString &target)
 {
+    if (sameFile(target, m_projectPath))
+        return saveInPlace();
+    const QString folder = QFileInfo(target).absolutePath();
+    if (!QFileInfo(folder).isDir()) {
+        KalPrompt::critical(tr("Dateifehler"), tr("Der Ordner\n%1\nexistiert nicht.").arg(nativeName(folder)));
+        return SaveFailed;
+    }
+    if (targetIsHeld(target))
+        return SaveFailed;
     const qint64 workingSize = fileSize(m_workingCopyPath);
     const KalEnvironment::VolumeInfo volume = KalEnvironment::volumeInfo(target);
     if (volume.valid && volume.ready) {
@@ -200,15 +269,12 @@ int KalProject::saveAs(const QString &target)
     }
     const QString newWorkingCopy = target + QStringLiteral(".workingcopy");
     const QString newUserData = target + QStringLiteral(".udf");
-    if (target == m_projectPath)
-        return saveInPlace();
 
     // The new working copy first: if it cannot be made, the target is not touched.
-    QString error;
-    if (!writeSnapshot(newWorkingCopy, &error)) {
-        KalPrompt::critical(tr("Dateifehler"), tr("Fehler beim Kopieren der Working Copy Datei."));
+    const int installed = installWorkingCopy(database(), m_workingCopyFd, newWorkingCopy, newUserData);
+    if (installed != Saved)
         return SaveFailed;
-    }
+    QString error;
     if (!writeSnapshot(target, &error)) {
         KalFileOps::removeDatabaseFile(newWorkingCopy);
         KalPrompt::critical(tr("Dateifehler"), tr("Fehler beim Kopieren der Working Copy Datei."));
@@ -239,7 +305,8 @@ int KalProject::saveAs(const QString &target)
         m_writeProtected = oldWriteProtected;
         m_backupsMade = oldBackupsMade;
         reopenWorkingCopy();
-        KalFileOps::removeDatabaseFile(newWorkingCopy);
+        if (reopened != NotSaved) // otherwise the name is another instance's now
+            KalFileOps::removeDatabaseFile(newWorkingCopy);
         return SaveFailed;
     }
     KalFileOps::removeDatabaseFile(oldWorkingCopy);
@@ -256,10 +323,18 @@ int KalProject::reopenWorkingCopy()
     if (!openConnection(m_workingCopyPath, true))
         return SaveFailed;
     QString error;
-    if (!writeTest(connectionName(), &error)) {
+    QSqlError sqlError;
+    const bool locked = writeTest(connectionName(), &error, &sqlError);
+    if (!locked && !KalProjectLock::isLockError(sqlError)) {
         KalPrompt::critical(QStringLiteral("SQL Error"), error);
         closeConnection();
         return SaveFailed;
+    }
+    // Another instance took the name before we held the file: it is theirs.
+    if (!locked || !KalFileOps::namesOpenFile(m_workingCopyPath, m_workingCopyFd)) {
+        KalProjectLock::reportHeld(m_userDataPath);
+        closeConnection();
+        return NotSaved;
     }
     if (!m_userDataPath.isEmpty() && !QFileInfo::exists(m_userDataPath))
         writeUserDataFile(false);

@@ -51,7 +51,13 @@ QString filePathForDialog(int kind)
         path = settings.value(key, fallback).toString();
         settings.endGroup();
     }
-    return QDir::toNativeSeparators(path);
+    // A remembered folder that is gone (or was never a folder) would make the
+    // dialog start below a file and return paths that lead nowhere: start in
+    // the nearest folder that exists.
+    QFileInfo info(path);
+    while (!info.isDir() && !info.isRoot() && info.absolutePath() != info.absoluteFilePath())
+        info.setFile(info.absolutePath());
+    return QDir::toNativeSeparators(info.isDir() ? info.absoluteFilePath() : fallback);
 }
 
 void rememberFilePath(int kind, const QString &chosenPath, bool isDirectory)
@@ -61,6 +67,8 @@ void rememberFilePath(int kind, const QString &chosenPath, bool isDirectory)
         return;
     QFileInfo fi(chosenPath);
     const QString folder = isDirectory ? fi.absoluteFilePath() : fi.absolutePath();
+    if (!QFileInfo(folder).isDir())
+        return;
     QSettings settings;
     settings.beginGroup(QStringLiteral("FileDialogPaths"));
     settings.setValue(key, folder);

@@ -56,7 +56,7 @@ bool copyThroughOpenHandle(sqlite3 *src, int sourceFd, const QString &target, bo
 
 #ifdef Q_OS_LINUX
     if (sourceFd >= 0) {
-        const int out = ::open(QFile::encodeName(target).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+        const int out = ::open(QFile::encodeName(target).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
         if (out < 0) {
             *errorText = QString::fromLocal8Bit(strerror(errno));
             return false;
@@ -187,11 +187,16 @@ bool write(const QSqlDatabase &source, const QString &target, QString *errorText
         return fail(text);
     }
     KalBusyScope busy;
+    // A lock that does not go away (the source connection itself writing)
+    // must end in an error, never in an endless loop.
+    int waits = 0;
     do {
         rc = sqlite3_backup_step(backup, 2048);
         const int total = sqlite3_backup_pagecount(backup);
         busy.setProgress(total - sqlite3_backup_remaining(backup), total);
-    } while (rc == SQLITE_OK || rc == SQLITE_BUSY || rc == SQLITE_LOCKED);
+        if (rc == SQLITE_BUSY || rc == SQLITE_LOCKED)
+            sqlite3_sleep(10);
+    } while (rc == SQLITE_OK || ((rc == SQLITE_BUSY || rc == SQLITE_LOCKED) && ++waits < 200));
     sqlite3_backup_finish(backup);
     const QString stepError = rc == SQLITE_DONE ? QString() : QString::fromUtf8(sqlite3_errstr(rc));
     const int closeRc = sqlite3_close(dst);
@@ -205,6 +210,12 @@ bool write(const QSqlDatabase &source, const QString &target, QString *errorText
     if (check != QLatin1String("ok"))
         return fail(check);
     return true;
+}
+
+bool inTransaction(const QSqlDatabase &db)
+{
+    sqlite3 *handle = handleOf(db);
+    return handle && !sqlite3_get_autocommit(handle);
 }
 
 QString verify(const QString &path)

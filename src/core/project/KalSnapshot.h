@@ -13,6 +13,9 @@ namespace KalSnapshot {
 // SQLite's locks); it lets the kernel copy the file.
 bool write(const QSqlDatabase &source, const QString &target, QString *errorText, int sourceFd = -1);
 
+// True while the connection has a transaction open (BEGIN without COMMIT).
+bool inTransaction(const QSqlDatabase &db);
+
 // "ok" when the file at `path` opens read-only and passes the quick check.
 QString verify(const QString &path);
 

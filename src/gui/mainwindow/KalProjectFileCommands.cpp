@@ -172,11 +172,9 @@ bool KalProjectFileCommands::openProject(const QString &path)
                             tr("Die Datei\n%1\nexistiert nicht.").arg(QDir::toNativeSeparators(path)));
         return false;
     }
-    if (m_project->isOpen() && !closeProject(false))
-        return false;
-
+    // The project gives up the open one only once the new one can be
+    // opened; a refusal has been explained already and changes nothing here.
     if (!m_project->openProject(path)) {
-        KalPrompt::critical(tr("Fehler"), tr("Beim Öffnen des gewählten Projekts ist ein Fehler aufgetreten!"));
         m_recentFiles->keepIfExists(path);
         // The window always works on a project.
         if (!m_project->isOpen() && !m_project->newProject())

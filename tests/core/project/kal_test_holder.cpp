@@ -2,12 +2,14 @@
 // through the real lifecycle and then holds it, edits it or saves it in a
 // loop, reporting each step on stdout.
 #include "core/project/KalDefects.h"
+#include "core/project/KalFileOps.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
 #include "core/project/KalSqlTableModel.h"
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QSettings>
 #include <QThread>
 #include <QVariantMap>
@@ -17,6 +19,22 @@ static void report(const char *what, qint64 n)
 {
     std::printf("%s %lld\n", what, static_cast<long long>(n));
     std::fflush(stdout);
+}
+
+// With a barrier folder, every instance stops just before it copies the
+// project to a working copy until the test lets them all go at once.
+static void waitAtBarrierBeforeCopying(const QString &folder)
+{
+    KalFileOps::setFaultHook([folder](const QString &operation, const QString &path) {
+        if (operation == QLatin1String("copy") && path.contains(QLatin1String(".workingcopy"))) {
+            QFile arrived(folder + QStringLiteral("/arrived.") + QString::number(QCoreApplication::applicationPid()));
+            arrived.open(QIODevice::WriteOnly);
+            arrived.close();
+            for (int i = 0; i < 6000 && !QFileInfo::exists(folder + QStringLiteral("/go")); ++i)
+                QThread::msleep(5);
+        }
+        return false;
+    });
 }
 
 int main(int argc, char **argv)
@@ -34,6 +52,8 @@ int main(int argc, char **argv)
     const QString file = args.at(2);
     const int count = args.size() > 3 ? args.at(3).toInt() : 1000000;
 
+    if (qEnvironmentVariableIsSet("PELLWICK_TEST_COPY_BARRIER"))
+        waitAtBarrierBeforeCopying(qEnvironmentVariable("PELLWICK_TEST_COPY_BARRIER"));
     KalProject project;
     if (!project.openProject(file))
         return 1;

@@ -153,7 +153,9 @@ private slots:
         QTest::newRow("empty") << "" << false;
         QTest::newRow("text") << "abc" << false;
         QTest::newRow("half text") << "0.x" << false;
-        QTest::newRow("three parts") << "0.2.1" << false;
+        QTest::newRow("three parts: the first two decide") << "0.2.1" << true;
+        QTest::newRow("three parts, newer major") << "1.0.0" << true;
+        QTest::newRow("three parts, same major and minor") << "0.1.7" << false;
         QTest::newRow("leading zeros") << "00.02" << true;
     }
 
