@@ -1,6 +1,6 @@
 #include "KalDateFormat.h"
 
-#include "KalEnvironment.h"
+#include "core/project/KalEnvironment.h"
 
 #include <QRegularExpression>
 #include <QStringList>
