@@ -1,12 +1,12 @@
 // Company imports: address files as people have them, other project files,
 // site journals, and appending to the open project.
 #include "CompanyTestData.h"
-#include "CompanyTests.h"
 #include "core/import/KalAddressFile.h"
 #include "core/import/KalCompanyImport.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
 #include "support/KalTestFiles.h"
+#include "support/KalTestSettings.h"
 
 #include <QFile>
 #include <QSqlQuery>
@@ -57,6 +57,8 @@ private:
     QTemporaryDir m_dir;
 
 private slots:
+    void initTestCase() { KalTestSettings::isolate(); }
+
     void addressFiles_data()
     {
         QTest::addColumn<QByteArray>("data");
@@ -426,10 +428,5 @@ private slots:
     }
 };
 
-int runCompanyImportTests(int argc, char **argv)
-{
-    TstCompanyImport test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_GUILESS_MAIN(TstCompanyImport)
 #include "tst_companyimport.moc"
