@@ -1,8 +1,12 @@
 #pragma once
 
+#include <QAbstractButton>
 #include <QApplication>
+#include <QDialogButtonBox>
+#include <QPushButton>
 #include <QTimer>
 #include <QWidget>
+#include <QtTest>
 #include <functional>
 
 // Answers the next dialog of type T once it shows. A modal dialog runs its
@@ -40,3 +44,16 @@ private:
     QTimer m_timer;
     bool m_seen = false;
 };
+
+// Presses a dialog's OK or Cancel as the user would: the standard button of
+// its button box, or the push button named "pbOk" / "pbCancel".
+inline void kalPress(QWidget *dialog, QDialogButtonBox::StandardButton which)
+{
+    QAbstractButton *button = nullptr;
+    if (auto *box = dialog->findChild<QDialogButtonBox *>())
+        button = box->button(which);
+    if (!button)
+        button = dialog->findChild<QAbstractButton *>(which == QDialogButtonBox::Ok ? "pbOk" : "pbCancel");
+    QVERIFY2(button && button->isEnabled(), "no usable OK/Cancel button");
+    button->click();
+}

@@ -2,22 +2,20 @@
 
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
+#include "gui/editors/KalCompanyDialog.h"
 #include "gui/editors/KalDefectEditor.h"
 #include "gui/textaids/KalDateEdit.h"
+#include "support/KalDialogAnswer.h"
 #include "support/KalScriptedPrompt.h"
+#include "support/KalWidgetTestMain.h"
 
-#include "gui/editors/KalCompanyDialog.h"
-
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QSqlQuery>
 #include <QTextEdit>
-#include <QTimer>
 #include <QtTest>
-#include <functional>
 
 namespace {
 
@@ -38,37 +36,14 @@ void choose(QComboBox *combo, qint64 id)
     emit combo->activated(index);
 }
 
-// Answers the next modal dialog of type T with `answer` once it is shown.
-template <typename T> class ModalAnswer
-{
-public:
-    explicit ModalAnswer(const std::function<void(T *)> &answer)
-    {
-        m_timer.setInterval(10);
-        QObject::connect(&m_timer, &QTimer::timeout, [this, answer] {
-            if (auto *dialog = qobject_cast<T *>(QApplication::activeModalWidget())) {
-                m_timer.stop();
-                m_seen = true;
-                answer(dialog);
-            }
-        });
-        m_timer.start();
-    }
-    bool seen() const { return m_seen; }
-
-private:
-    QTimer m_timer;
-    bool m_seen = false;
-};
-
 } // namespace
 
 void TstDefectEditor::initTestCase()
 {
-    m_prompt = KalScriptedPrompt::install();
+    m_prompt = static_cast<KalScriptedPrompt *>(KalPrompt::instance());
     QVERIFY(m_fx.open());
-    m_companyA = m_fx.addCompany(QStringLiteral("Alpha Bau"), QStringLiteral("Maurer"), 2);
-    m_companyB = m_fx.addCompany(QStringLiteral("Beta Elektro"), QStringLiteral("Elektriker"), 1);
+    m_companyA = m_fx.addCompany("Alpha Bau", "Maurer", {{"pos", 2}});
+    m_companyB = m_fx.addCompany("Beta Elektro", "Elektriker", {{"pos", 1}});
     QVERIFY(m_companyA > 0 && m_companyB > 0);
     QVERIFY(m_fx.reselect());
 }
@@ -98,20 +73,14 @@ void TstDefectEditor::userIdInitials_data()
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("shown");
 
-    QTest::newRow("two capitals") << "KM"
-                                  << "KM";
-    QTest::newRow("lower case becomes upper") << "km"
-                                              << "KM";
-    QTest::newRow("mixed case") << "kM"
-                                << "KM";
-    QTest::newRow("third letter refused") << "abc"
-                                          << "AB";
-    QTest::newRow("digit refused") << "a1"
-                                   << "A";
-    QTest::newRow("digit first refused") << "7x"
-                                         << "X";
-    QTest::newRow("blank refused") << "a b"
-                                   << "AB";
+    for (const auto &row : {std::pair<const char *, const char *>{"KM", "KM"},
+                            {"km", "KM"},
+                            {"kM", "KM"},
+                            {"abc", "AB"},
+                            {"a1", "A"},
+                            {"7x", "X"},
+                            {"a b", "AB"}})
+        QTest::newRow(row.first) << QString(row.first) << QString(row.second);
 }
 
 void TstDefectEditor::userIdInitials()
@@ -128,10 +97,8 @@ void TstDefectEditor::userIdInitials()
     QTest::keyClicks(userId, typed);
     QCOMPARE(userId->text(), shown);
 
-    editor.slotAccepted();
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT user_id FROM defect WHERE id = :id"), {{QStringLiteral("id"), id}})
-                 .toString(),
-             shown);
+    kalPress(&editor, QDialogButtonBox::Ok);
+    QCOMPARE(m_fx.field("defect", id, "user_id").toString(), shown);
 }
 
 void TstDefectEditor::reductionFollowsStatus_data()
@@ -166,10 +133,9 @@ void TstDefectEditor::reductionFollowsStatus()
     QCOMPARE(reduction->isEnabled(), enabled);
     QCOMPARE(reduction->isChecked(), storedReduction != 0);
 
-    editor.slotAccepted();
-    const QVariantMap bind{{QStringLiteral("id"), id}};
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT reduction FROM defect WHERE id = :id"), bind).toInt(), storedReduction);
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT status_id FROM defect WHERE id = :id"), bind).toInt(), status);
+    kalPress(&editor, QDialogButtonBox::Ok);
+    QCOMPARE(m_fx.field("defect", id, "reduction").toInt(), storedReduction);
+    QCOMPARE(m_fx.field("defect", id, "status_id").toInt(), status);
 }
 
 void TstDefectEditor::cancelKeepsCompany()
@@ -187,12 +153,10 @@ void TstDefectEditor::cancelKeepsCompany()
         // Written into the row at once ...
         QCOMPARE(defects->data(defects->index(rowOf(id), companyColumn), Qt::EditRole).toLongLong(), m_companyB);
         // ... and taken back by Cancel.
-        editor.reject();
+        kalPress(&editor, QDialogButtonBox::Cancel);
     }
     QCOMPARE(defects->data(defects->index(rowOf(id), companyColumn), Qt::EditRole).toLongLong(), m_companyA);
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT company_id FROM defect WHERE id = :id"), {{QStringLiteral("id"), id}})
-                 .toLongLong(),
-             m_companyA);
+    QCOMPARE(m_fx.field("defect", id, "company_id").toLongLong(), m_companyA);
 }
 
 void TstDefectEditor::okMarksOnlyRealChanges_data()
@@ -200,13 +164,10 @@ void TstDefectEditor::okMarksOnlyRealChanges_data()
     QTest::addColumn<QString>("change");
     QTest::addColumn<int>("flag");
 
-    QTest::newRow("nothing") << "" << 0;
-    QTest::newRow("description") << "description" << 1;
-    QTest::newRow("room") << "room" << 1;
-    QTest::newRow("company") << "company" << 1;
-    QTest::newRow("company and back") << "company-back" << 0;
-    QTest::newRow("deadline") << "deadline" << 1;
-    QTest::newRow("text typed and removed") << "retyped" << 0;
+    const QList<QPair<QString, int>> rows{
+        {"", 0}, {"description", 1}, {"room", 1}, {"company", 1}, {"company-back", 0}, {"deadline", 1}, {"retyped", 0}};
+    for (const auto &row : rows)
+        QTest::newRow(row.first.isEmpty() ? "nothing" : qPrintable(row.first)) << row.first << row.second;
 }
 
 void TstDefectEditor::okMarksOnlyRealChanges()
@@ -238,20 +199,13 @@ void TstDefectEditor::okMarksOnlyRealChanges()
             type->setText(QStringLiteral("x"));
             type->clear();
         }
-        editor.slotAccepted();
+        kalPress(&editor, QDialogButtonBox::Ok);
     }
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT site_journal_data_modified FROM defect WHERE id = :id"),
-                         {{QStringLiteral("id"), id}})
-                 .toInt(),
-             flag);
+    QCOMPARE(m_fx.field("defect", id, "site_journal_data_modified").toInt(), flag);
     // Without a change nothing is written, so the project stays unmodified.
     QCOMPARE(m_fx.project()->isModified(), flag == 1);
-    if (change == QLatin1String("deadline")) {
-        QCOMPARE(
-            m_fx.scalar(QStringLiteral("SELECT deadline_1 FROM defect WHERE id = :id"), {{QStringLiteral("id"), id}})
-                .toString(),
-            QStringLiteral("2030-05-17"));
-    }
+    if (change == QLatin1String("deadline"))
+        QCOMPARE(m_fx.field("defect", id, "deadline_1").toString(), QStringLiteral("2030-05-17"));
 }
 
 void TstDefectEditor::combosFollowPositions()
@@ -280,7 +234,7 @@ void TstDefectEditor::combosFollowPositions()
     QCOMPARE(plan->count(), 2);
     QCOMPARE(plan->itemText(0), QStringLiteral("Neu..."));
     QCOMPARE(plan->itemText(1), QStringLiteral("Planzuordnung aufheben"));
-    editor.reject();
+    kalPress(&editor, QDialogButtonBox::Cancel);
 }
 
 void TstDefectEditor::invalidDateKeepsDialogOpen()
@@ -291,16 +245,12 @@ void TstDefectEditor::invalidDateKeepsDialogOpen()
     auto *date = editor.findChild<KalDateEdit *>(QStringLiteral("deCorrectionDate"));
     QCOMPARE(date->date(), QDate(2031, 1, 2));
     date->setText(QStringLiteral("31.02.2020"));
-    editor.slotAccepted();
+    kalPress(&editor, QDialogButtonBox::Ok);
     QVERIFY(editor.isVisible());
     QTRY_VERIFY(m_prompt->hasTitle(QStringLiteral("Format-Fehler")));
     // The stored date is untouched.
-    QCOMPARE(
-        m_fx.scalar(QStringLiteral("SELECT correction_date FROM defect WHERE id = :id"), {{QStringLiteral("id"), id}})
-            .toString(),
-        QStringLiteral("2031-01-02"));
-    editor.reject();
-    QCoreApplication::processEvents();
+    QCOMPARE(m_fx.field("defect", id, "correction_date").toString(), QStringLiteral("2031-01-02"));
+    kalPress(&editor, QDialogButtonBox::Cancel);
 }
 
 void TstDefectEditor::newStatusFromEditor_data()
@@ -318,14 +268,14 @@ void TstDefectEditor::newStatusFromEditor()
     QFETCH(QString, name);
     QFETCH(bool, created);
 
-    const int statusesBefore = m_fx.scalar(QStringLiteral("SELECT COUNT(*) FROM status")).toInt();
+    const int statusesBefore = m_fx.count("status");
     const qint64 id = newDefect({{QStringLiteral("status_id"), 7}, {QStringLiteral("reduction"), 1}});
     QString title;
     {
         KalDefectEditor editor(m_fx.project(), rowOf(id));
         auto *status = editor.findChild<QComboBox *>(QStringLiteral("cbxStatus"));
         auto *reduction = editor.findChild<QCheckBox *>(QStringLiteral("cbReduction"));
-        ModalAnswer<QInputDialog> answer([&](QInputDialog *input) {
+        KalDialogAnswer<QInputDialog> answer([&](QInputDialog *input) {
             title = input->windowTitle();
             input->setTextValue(name);
             input->accept();
@@ -344,12 +294,10 @@ void TstDefectEditor::newStatusFromEditor()
             QVERIFY(reduction->isChecked());
         }
         // The status stays even though the defect edit is cancelled.
-        editor.reject();
+        kalPress(&editor, QDialogButtonBox::Cancel);
     }
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT COUNT(*) FROM status")).toInt(), statusesBefore + (created ? 1 : 0));
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT status_id FROM defect WHERE id = :id"), {{QStringLiteral("id"), id}})
-                 .toInt(),
-             7);
+    QCOMPARE(m_fx.count("status"), statusesBefore + (created ? 1 : 0));
+    QCOMPARE(m_fx.field("defect", id, "status_id").toInt(), 7);
     if (created) {
         QSqlQuery q(m_fx.project()->database());
         q.prepare(QStringLiteral("SELECT id, type, color, reduction_option, pos FROM status WHERE status = :name"));
@@ -370,30 +318,24 @@ void TstDefectEditor::newCompanyFromEditorStays()
     {
         KalDefectEditor editor(m_fx.project(), rowOf(id));
         auto *company = editor.findChild<QComboBox *>(QStringLiteral("cbxCompany"));
-        ModalAnswer<KalCompanyDialog> answer([&](KalCompanyDialog *dialog) {
+        KalDialogAnswer<KalCompanyDialog> answer([&](KalCompanyDialog *dialog) {
             dialog->findChild<QLineEdit *>(QStringLiteral("leCompany"))->setText(QStringLiteral("Gamma Glas"));
             dialog->findChild<QLineEdit *>(QStringLiteral("leType"))->setText(QStringLiteral("Glaser"));
-            dialog->accept();
+            kalPress(dialog, QDialogButtonBox::Ok);
         });
         choose(company, KalDefectEditor::NewEntry);
         QVERIFY(answer.seen());
         created = company->currentData().toLongLong();
         QVERIFY(created > m_companyB);
         QVERIFY(company->currentText().contains(QStringLiteral("Gamma Glas")));
-        editor.slotAccepted();
+        kalPress(&editor, QDialogButtonBox::Ok);
     }
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT company_id FROM defect WHERE id = :id"), {{QStringLiteral("id"), id}})
-                 .toLongLong(),
-             created);
-    QCOMPARE(
-        m_fx.scalar(QStringLiteral("SELECT company FROM company WHERE id = :id"), {{QStringLiteral("id"), created}})
-            .toString(),
-        QStringLiteral("Gamma Glas"));
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT site_journal_data_modified FROM defect WHERE id = :id"),
-                         {{QStringLiteral("id"), id}})
-                 .toInt(),
-             1);
+    QCOMPARE(m_fx.field("defect", id, "company_id").toLongLong(), created);
+    QCOMPARE(m_fx.field("company", created, "company").toString(), QStringLiteral("Gamma Glas"));
+    QCOMPARE(m_fx.field("defect", id, "site_journal_data_modified").toInt(), 1);
     // Clean up so the other tests keep their two companies.
-    QVERIFY(m_fx.exec(QStringLiteral("DELETE FROM company WHERE id = :id"), {{QStringLiteral("id"), created}}));
+    QVERIFY(m_fx.exec("DELETE FROM company WHERE id = :id", {{"id", created}}));
     QVERIFY(m_fx.reselect());
 }
+
+KAL_WIDGET_TEST_MAIN(TstDefectEditor)

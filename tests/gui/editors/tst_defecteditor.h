@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialogs_fixture.h"
+#include "support/KalTestProject.h"
 
 #include <QObject>
 
@@ -32,7 +32,7 @@ private:
     qint64 newDefect(const QVariantMap &values = QVariantMap());
     int rowOf(qint64 id) const;
 
-    DialogsFixture m_fx;
+    KalTestProject m_fx;
     KalScriptedPrompt *m_prompt = nullptr;
     qint64 m_companyA = -1;
     qint64 m_companyB = -1;

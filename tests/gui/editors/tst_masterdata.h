@@ -1,9 +1,8 @@
 #pragma once
 
-#include "dialogs_fixture.h"
+#include "support/KalTestProject.h"
 
 #include <QObject>
-#include <QTemporaryDir>
 
 class KalScriptedPrompt;
 
@@ -24,12 +23,8 @@ private slots:
     void addCompany();
     void outputFormat();
     void quickCompanyDialog();
-    void importPointsOutDuplicates();
-    void addressFileMapping();
 
 private:
-    DialogsFixture m_fx;
+    KalTestProject m_fx;
     KalScriptedPrompt *m_prompt = nullptr;
-    QTemporaryDir m_dir;
-    QString m_otherProject;
 };

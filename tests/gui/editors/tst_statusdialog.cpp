@@ -5,6 +5,7 @@
 #include "gui/editors/KalStatusDialog.h"
 #include "gui/widgets/KalTableView.h"
 #include "support/KalScriptedPrompt.h"
+#include "support/KalWidgetTestMain.h"
 
 #include <QHeaderView>
 #include <QLineEdit>
@@ -15,21 +16,28 @@
 #include <QtTest>
 
 namespace {
-
-const QString kDefaultNames[] = {QStringLiteral("Offen, zu beseitigen"),
-                                 QStringLiteral("Offen, in Arbeit"),
-                                 QStringLiteral("Offen, unzureichend beseitigt"),
-                                 QStringLiteral("Offen, streitig"),
-                                 QStringLiteral("Erledigt, komplett beseitigt"),
-                                 QStringLiteral("Erledigt, teilweise beseitigt"),
-                                 QStringLiteral("Erledigt, bleibt"),
-                                 QStringLiteral("Erledigt, streitig abgelehnt")};
-
+// Every status row as text, in id order.
+QStringList statusRows(KalTestProject &fx)
+{
+    QStringList rows;
+    QSqlQuery q(fx.project()->database());
+    q.exec("SELECT id, status, color, type, reduction_option, pos FROM status ORDER BY id");
+    while (q.next()) {
+        QStringList fields;
+        for (int i = 0; i < 6; ++i)
+            fields << q.value(i).toString();
+        rows << fields.join('|');
+    }
+    return rows;
+}
 } // namespace
 
 void TstStatusDialog::initTestCase()
 {
-    m_prompt = KalScriptedPrompt::install();
+    m_prompt = static_cast<KalScriptedPrompt *>(KalPrompt::instance());
+    QVERIFY(m_fx.open());
+    m_factoryRows = statusRows(m_fx);
+    QCOMPARE(m_factoryRows.size(), 8);
 }
 
 void TstStatusDialog::cleanupTestCase()
@@ -41,25 +49,12 @@ void TstStatusDialog::cleanupTestCase()
 void TstStatusDialog::init()
 {
     // Every test starts from a new project.
-    m_fx.close();
     QVERIFY(m_fx.open());
     m_prompt->clear();
 }
 
-void TstStatusDialog::newProjectHasDefaults()
+void TstStatusDialog::listedInTheirOrder()
 {
-    QSqlQuery q(m_fx.project()->database());
-    QVERIFY(q.exec(QStringLiteral("SELECT id, status, type, pos FROM status ORDER BY id")));
-    int n = 0;
-    while (q.next()) {
-        QCOMPARE(q.value(0).toInt(), n + 1);
-        QCOMPARE(q.value(1).toString(), kDefaultNames[n]);
-        QCOMPARE(q.value(2).toInt(), 1);
-        QCOMPARE(q.value(3).toInt(), n + 1);
-        ++n;
-    }
-    QCOMPARE(n, 8);
-
     // The grid lists them in their `pos` order, whatever the model's order.
     QVERIFY(m_fx.exec(QStringLiteral("UPDATE status SET pos = 0 WHERE id = 8")));
     QVERIFY(m_fx.reselect());
@@ -76,7 +71,7 @@ void TstStatusDialog::addStatus()
 {
     KalStatusDialog dialog(m_fx.project());
     dialog.tableView()->addButton()->click();
-    dialog.slotAddStatus();
+    dialog.tableView()->addButton()->click();
 
     QSqlQuery q(m_fx.project()->database());
     QVERIFY(q.exec(QStringLiteral("SELECT id, type, color, pos FROM status WHERE id > 8 ORDER BY id")));
@@ -132,16 +127,15 @@ void TstStatusDialog::factorySetting()
     QFETCH(int, answer);
     QFETCH(bool, restored);
 
-    QVERIFY(m_fx.exec(QStringLiteral("UPDATE status SET status = 'Mein Status' WHERE id = 1")));
-    QVERIFY(m_fx.exec(QStringLiteral("UPDATE status SET color = '#000000' WHERE id = 2")));
-    QVERIFY(m_fx.exec(QStringLiteral("UPDATE status SET status = 'x', color = '#ffffff' WHERE id = 8")));
-    QVERIFY(m_fx.exec(QStringLiteral("DELETE FROM status WHERE id = 5")));
+    for (const char *change :
+         {"UPDATE status SET status = 'Mein Status' WHERE id = 1", "UPDATE status SET color = '#000000' WHERE id = 2",
+          "UPDATE status SET status = 'x', color = '#ffffff' WHERE id = 8", "DELETE FROM status WHERE id = 5"})
+        QVERIFY(m_fx.exec(change));
     QVERIFY(m_fx.reselect());
 
     KalStatusDialog dialog(m_fx.project());
-    dialog.slotAddStatus();
-    const int before = m_fx.scalar(QStringLiteral("SELECT COUNT(*) FROM status")).toInt();
-    QCOMPARE(before, 8);
+    dialog.tableView()->addButton()->click();
+    QCOMPARE(m_fx.count("status"), 8);
 
     m_prompt->queueAnswerIndex(answer);
     dialog.findChild<QPushButton *>(QStringLiteral("pbDefaultStatus"))->click();
@@ -149,28 +143,11 @@ void TstStatusDialog::factorySetting()
     QCOMPARE(m_prompt->texts().value(0),
              QStringLiteral("Die Standard Status werden auf die Werkseinstellungen zurückgesetzt."));
 
-    if (!restored) {
-        QCOMPARE(m_fx.scalar(QStringLiteral("SELECT status FROM status WHERE id = 1")).toString(),
-                 QStringLiteral("Mein Status"));
-        QCOMPARE(m_fx.scalar(QStringLiteral("SELECT COUNT(*) FROM status WHERE id = 5")).toInt(), 0);
-        return;
-    }
-    const QList<KalStatusDialog::DefaultStatus> defaults = KalStatusDialog::defaultStatuses();
-    QCOMPARE(defaults.size(), 8);
-    for (const KalStatusDialog::DefaultStatus &d : defaults) {
-        QSqlQuery q(m_fx.project()->database());
-        q.prepare(QStringLiteral("SELECT status, color, type, reduction_option, pos FROM status WHERE id = :id"));
-        q.bindValue(QStringLiteral(":id"), d.id);
-        QVERIFY(q.exec() && q.next());
-        QCOMPARE(q.value(0).toString(), kDefaultNames[d.id - 1]);
-        QCOMPARE(q.value(1).toString(), d.color);
-        QCOMPARE(q.value(2).toInt(), 1);
-        QCOMPARE(q.value(3).toInt(), d.id >= 6 ? 1 : 0);
-        QCOMPARE(q.value(4).toLongLong(), d.id);
-    }
-    // The user status stays.
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT COUNT(*) FROM status WHERE type = 2")).toInt(), 1);
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT COUNT(*) FROM status")).toInt(), 9);
+    // Restored means: as in a new project, plus the user's own status.
+    const QStringList rows = statusRows(m_fx);
+    QCOMPARE(rows.mid(0, 8) == m_factoryRows, restored);
+    QCOMPARE(rows.size(), restored ? 9 : 8);
+    QCOMPARE(m_fx.count("status", "type = 2"), 1);
 }
 
 void TstStatusDialog::removeUserStatuses_data()
@@ -188,15 +165,15 @@ void TstStatusDialog::removeUserStatuses()
     QFETCH(int, userLeft);
 
     KalStatusDialog dialog(m_fx.project());
-    dialog.slotAddStatus();
-    dialog.slotAddStatus();
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT COUNT(*) FROM status WHERE type = 2")).toInt(), 2);
+    dialog.tableView()->addButton()->click();
+    dialog.tableView()->addButton()->click();
+    QCOMPARE(m_fx.count("status", "type = 2"), 2);
 
     m_prompt->queueAnswerIndex(answer);
     dialog.findChild<QPushButton *>(QStringLiteral("pbRemoveUserStatus"))->click();
     QCOMPARE(m_prompt->titles(), QStringList{QStringLiteral("Benutzerstatus löschen")});
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT COUNT(*) FROM status WHERE type = 2")).toInt(), userLeft);
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT COUNT(*) FROM status WHERE type = 1")).toInt(), 8);
+    QCOMPARE(m_fx.count("status", "type = 2"), userLeft);
+    QCOMPARE(m_fx.count("status", "type = 1"), 8);
     QCOMPARE(m_fx.model(QStringLiteral("status"))->rowCount(), 8 + userLeft);
 }
 
@@ -224,22 +201,21 @@ void TstStatusDialog::colourChoice()
         return chosen.isEmpty() ? QColor() : QColor(chosen);
     });
     KalStatusDialog dialog(m_fx.project());
-    KalSqlTableModel *model = m_fx.model(QStringLiteral("status"));
-    const int row = model->findRowById(2);
-    // Through the view's model (a sorting proxy): find the row of id 2.
-    QAbstractItemModel *shown = dialog.tableView()->model();
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    // A click on the colour cell of status 2 (the view sorts through a proxy).
+    KalSqlTableModel *model = m_fx.model("status");
+    KalTableView *view = dialog.tableView();
     QModelIndex target;
-    for (int r = 0; r < shown->rowCount(); ++r) {
-        const QModelIndex idx = shown->index(r, model->fieldIndex(QStringLiteral("color")));
-        if (shown->index(r, model->idColumn()).data(Qt::EditRole).toInt() == 2)
-            target = idx;
+    for (int r = 0; r < view->model()->rowCount(); ++r) {
+        if (view->model()->index(r, model->idColumn()).data(Qt::EditRole).toInt() == 2)
+            target = view->model()->index(r, model->fieldIndex("color"));
     }
-    QVERIFY(target.isValid());
-    QVERIFY(row >= 0);
-    dialog.slotColorEditor(target);
-    QCOMPARE(title, QStringLiteral("Statusfarbe wählen"));
+    view->scrollTo(target);
+    QTest::mouseClick(view->viewport(), Qt::LeftButton, {}, view->visualRect(target).center());
+    QTRY_COMPARE(title, QStringLiteral("Statusfarbe wählen"));
     QCOMPARE(offered, QColor(QStringLiteral("#cb2821")));
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT color FROM status WHERE id = 2")).toString(), stored);
+    QCOMPARE(m_fx.field("status", 2, "color").toString(), stored);
     KalStatusDialog::setColorChooser(KalStatusDialog::ColorChooser());
 }
 
@@ -256,10 +232,12 @@ void TstStatusDialog::widthsAndGeometryKept()
         // Written as soon as a column changes, not only on closing.
         dialog.tableView()->horizontalHeader()->resizeSection(nameColumn, 321);
         QVERIFY(QSettings().contains(QStringLiteral("TableView/status/ColumnWidths")));
-        dialog.accept();
+        dialog.findChild<QPushButton *>("pbClose")->click();
     }
     QVERIFY(!QSettings().value(QStringLiteral("StatusDialog/Geometry")).toByteArray().isEmpty());
     KalStatusDialog again(m_fx.project());
     QCOMPARE(again.tableView()->columnWidth(nameColumn), 321);
     QCOMPARE(again.size(), QSize(640, 480));
 }
+
+KAL_WIDGET_TEST_MAIN(TstStatusDialog)

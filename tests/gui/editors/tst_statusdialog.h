@@ -1,6 +1,6 @@
 #pragma once
 
-#include "dialogs_fixture.h"
+#include "support/KalTestProject.h"
 
 #include <QObject>
 
@@ -15,7 +15,7 @@ private slots:
     void cleanupTestCase();
     void init();
 
-    void newProjectHasDefaults();
+    void listedInTheirOrder();
     void addStatus();
     void renameIsWrittenAtOnce();
     void factorySetting_data();
@@ -27,6 +27,7 @@ private slots:
     void widthsAndGeometryKept();
 
 private:
-    DialogsFixture m_fx;
+    KalTestProject m_fx;
+    QStringList m_factoryRows; // the status table of a new project
     KalScriptedPrompt *m_prompt = nullptr;
 };

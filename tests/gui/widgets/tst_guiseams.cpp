@@ -4,96 +4,22 @@
 #include "gui/widgets/KalFileDialog.h"
 #include "gui/widgets/KalMessageBoxPrompt.h"
 #include "gui/widgets/KalProgressDialog.h"
+#include "support/KalDialogAnswer.h"
 #include "support/KalScriptedPrompt.h"
+#include "support/KalWidgetTestMain.h"
 
 #include <QApplication>
 #include <QCheckBox>
+#include <QDeadlineTimer>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QThread>
-#include <QTimer>
 #include <QtTest>
-#include <functional>
 
-namespace {
-QMessageBox *visibleMessageBox()
-{
-    for (QWidget *w : QApplication::topLevelWidgets()) {
-        if (auto *box = qobject_cast<QMessageBox *>(w); box && box->isVisible())
-            return box;
-    }
-    return nullptr;
-}
-
-// Runs `act` on the first message box that shows up (polling, because the
-// box runs its own event loop).
-QTimer *whenBoxShows(const std::function<void(QMessageBox *)> &act)
-{
-    auto *timer = new QTimer;
-    timer->setInterval(10);
-    QObject::connect(timer, &QTimer::timeout, [timer, act] {
-        if (QMessageBox *box = visibleMessageBox()) {
-            timer->stop();
-            timer->deleteLater();
-            act(box);
-        }
-    });
-    timer->start();
-    return timer;
-}
-
-KalPrompt::Button parseButton(const QString &code)
-{
-    if (code.startsWith(QLatin1String("+")))
-        return {KalPrompt::AcceptCustom, code.mid(1)};
-    if (code.startsWith(QLatin1String("-")))
-        return {KalPrompt::RejectCustom, code.mid(1)};
-    static const QHash<QString, KalPrompt::ButtonRole> roles{
-        {"Ok", KalPrompt::Ok},         {"Yes", KalPrompt::Yes},   {"No", KalPrompt::No},
-        {"Cancel", KalPrompt::Cancel}, {"Save", KalPrompt::Save}, {"Discard", KalPrompt::Discard},
-        {"Abort", KalPrompt::Abort}};
-    return {roles.value(code), QString()};
-}
-
-QMessageBox::StandardButton standardOf(KalPrompt::ButtonRole role)
-{
-    switch (role) {
-    case KalPrompt::Ok:
-        return QMessageBox::Ok;
-    case KalPrompt::Yes:
-        return QMessageBox::Yes;
-    case KalPrompt::No:
-        return QMessageBox::No;
-    case KalPrompt::Cancel:
-        return QMessageBox::Cancel;
-    case KalPrompt::Save:
-        return QMessageBox::Save;
-    case KalPrompt::Discard:
-        return QMessageBox::Discard;
-    case KalPrompt::Abort:
-        return QMessageBox::Abort;
-    default:
-        return QMessageBox::NoButton;
-    }
-}
-
-QAbstractButton *buttonFor(QMessageBox *box, const KalPrompt::Button &b)
-{
-    const QMessageBox::StandardButton standard = standardOf(b.role);
-    if (standard != QMessageBox::NoButton)
-        return box->button(standard);
-    for (QAbstractButton *button : box->buttons()) {
-        if (button->text() == b.text)
-            return button;
-    }
-    return nullptr;
-}
-} // namespace
+Q_DECLARE_METATYPE(QVector<KalPrompt::Button>)
 
 void TstGuiSeams::initTestCase()
 {
@@ -205,82 +131,70 @@ void TstGuiSeams::fileDialogStartsWithProposedName()
 
 // --- message boxes -------------------------------------------------------------------
 
-void TstGuiSeams::messageBoxMapsButtons_data()
+// What the user sees and presses: the buttons by their texts, Escape, and
+// which answer the program gets back.
+void TstGuiSeams::messageBoxAnswers_data()
 {
-    QTest::addColumn<QStringList>("buttons");
-    QTest::addColumn<int>("defaultButton");
+    QTest::addColumn<QVector<KalPrompt::Button>>("buttons");
     QTest::addColumn<int>("escapeButton");
-    QTest::addColumn<int>("click"); // -1: press Escape
+    QTest::addColumn<QStringList>("shown");
+    QTest::addColumn<QString>("pressed"); // empty: Escape
     QTest::addColumn<int>("answer");
 
-    const QStringList yesNo{"Yes", "No"};
-    const QStringList saveDiscardCancel{"Save", "Discard", "Cancel"};
-    const QStringList custom{"+Speichern unter", "-Abbrechen"};
-    QTest::newRow("yes") << yesNo << 0 << 1 << 0 << 0;
-    QTest::newRow("no") << yesNo << 0 << 1 << 1 << 1;
-    QTest::newRow("yes/no escape") << yesNo << 0 << 1 << -1 << 1;
-    QTest::newRow("discard") << saveDiscardCancel << -1 << 2 << 1 << 1;
-    QTest::newRow("save/discard/cancel escape") << saveDiscardCancel << -1 << 2 << -1 << 2;
-    QTest::newRow("custom accept") << custom << 0 << 1 << 0 << 0;
-    QTest::newRow("custom reject") << custom << 0 << 1 << 1 << 1;
-    QTest::newRow("custom escape") << custom << 0 << 1 << -1 << 1;
-    QTest::newRow("single ok") << QStringList() << 0 << -1 << 0 << 0;
-    QTest::newRow("ok/abort, escape defaults to last") << QStringList{"Ok", "Abort"} << 0 << -1 << -1 << 1;
+    using P = KalPrompt;
+    const QVector<P::Button> yesNo{{P::Yes, {}}, {P::No, {}}};
+    const QVector<P::Button> saveDiscardCancel{{P::Save, {}}, {P::Discard, {}}, {P::Cancel, {}}};
+    const QVector<P::Button> custom{{P::AcceptCustom, "Speichern unter"}, {P::RejectCustom, "Abbrechen"}};
+    const QStringList sdc{"Save", "Discard", "Cancel"};
+    QTest::newRow("yes") << yesNo << 1 << QStringList{"Yes", "No"} << "Yes" << 0;
+    QTest::newRow("no") << yesNo << 1 << QStringList{"Yes", "No"} << "No" << 1;
+    QTest::newRow("yes/no escape") << yesNo << 1 << QStringList{"Yes", "No"} << "" << 1;
+    QTest::newRow("discard") << saveDiscardCancel << 2 << sdc << "Discard" << 1;
+    QTest::newRow("save/discard/cancel escape") << saveDiscardCancel << 2 << sdc << "" << 2;
+    QTest::newRow("custom accept") << custom << 1 << QStringList{"Speichern unter", "Abbrechen"} << "Speichern unter"
+                                   << 0;
+    QTest::newRow("custom escape") << custom << 1 << QStringList{"Speichern unter", "Abbrechen"} << "" << 1;
+    QTest::newRow("single ok") << QVector<P::Button>() << -1 << QStringList{"OK"} << "OK" << 0;
+    QTest::newRow("ok/abort, escape takes the last")
+        << QVector<P::Button>{{P::Ok, {}}, {P::Abort, {}}} << -1 << QStringList{"OK", "Abort"} << "" << 1;
 }
 
-void TstGuiSeams::messageBoxMapsButtons()
+void TstGuiSeams::messageBoxAnswers()
 {
-    QFETCH(QStringList, buttons);
-    QFETCH(int, defaultButton);
+    QFETCH(QVector<KalPrompt::Button>, buttons);
     QFETCH(int, escapeButton);
-    QFETCH(int, click);
+    QFETCH(QStringList, shown);
+    QFETCH(QString, pressed);
     QFETCH(int, answer);
 
     KalPrompt::Message message;
     message.icon = KalPrompt::Question;
     message.title = QStringLiteral("Projekt geändert");
     message.text = QStringLiteral("Das Projekt wurde geändert. Möchten Sie die Änderungen speichern?");
-    for (const QString &code : buttons)
-        message.buttons << parseButton(code);
-    message.defaultButton = defaultButton;
+    message.buttons = buttons;
     message.escapeButton = escapeButton;
 
-    QVector<KalPrompt::Button> expected = message.buttons;
-    if (expected.isEmpty())
-        expected << KalPrompt::Button{KalPrompt::Ok, QString()};
-
-    bool seen = false;
-    QString problem;
-    whenBoxShows([&](QMessageBox *box) {
-        seen = true;
-        if (box->windowTitle() != message.title || box->text() != message.text)
-            problem = QStringLiteral("title or text differ");
-        if (box->icon() != QMessageBox::Question)
-            problem = QStringLiteral("icon");
-        if (box->buttons().size() != expected.size())
-            problem = QStringLiteral("button count %1").arg(box->buttons().size());
-        for (const KalPrompt::Button &b : expected) {
-            QAbstractButton *button = buttonFor(box, b);
-            if (!button)
-                problem = QStringLiteral("missing button ") + b.text;
-            else if (b.role == KalPrompt::AcceptCustom && box->buttonRole(button) != QMessageBox::AcceptRole)
-                problem = QStringLiteral("accept role");
-            else if (b.role == KalPrompt::RejectCustom && box->buttonRole(button) != QMessageBox::RejectRole)
-                problem = QStringLiteral("reject role");
+    QStringList texts;
+    QString title;
+    KalDialogAnswer<QMessageBox> box([&](QMessageBox *box) {
+        title = box->windowTitle() + '|' + box->text();
+        QAbstractButton *press = nullptr;
+        for (QAbstractButton *button : box->buttons()) {
+            texts << button->text().remove('&');
+            if (texts.last() == pressed)
+                press = button;
         }
-        QAbstractButton *wantedDefault = defaultButton >= 0 ? buttonFor(box, expected.value(defaultButton)) : nullptr;
-        if (!buttons.isEmpty() && box->defaultButton() != wantedDefault)
-            problem = QStringLiteral("default button");
-        if (click < 0)
-            QTest::keyClick(box, Qt::Key_Escape);
-        else if (QAbstractButton *button = buttonFor(box, expected.value(click)))
-            button->click();
+        if (press)
+            press->click();
         else
-            box->reject();
+            QTest::keyClick(box, Qt::Key_Escape);
     });
     const int result = KalPrompt::instance()->show(message);
-    QVERIFY(seen);
-    QVERIFY2(problem.isEmpty(), qPrintable(problem));
+    QVERIFY(box.seen());
+    QCOMPARE(title, message.title + '|' + message.text);
+    texts.sort();
+    shown.sort();
+    QCOMPARE(texts, shown);
     QCOMPARE(result, answer);
 }
 
@@ -296,7 +210,7 @@ void TstGuiSeams::messageBoxDontShowAgain()
     for (bool tick : {false, true}) {
         bool hadCheckBox = false;
         QString boxText;
-        whenBoxShows([&](QMessageBox *box) {
+        KalDialogAnswer<QMessageBox> answer([&](QMessageBox *box) {
             hadCheckBox = box->checkBox() != nullptr;
             if (box->checkBox()) {
                 boxText = box->checkBox()->text();
@@ -311,16 +225,10 @@ void TstGuiSeams::messageBoxDontShowAgain()
     }
 
     // Ticked once: the message does not come again.
-    bool shown = false;
-    QTimer *poller = whenBoxShows([&](QMessageBox *box) {
-        shown = true;
-        box->button(QMessageBox::Ok)->click();
-    });
+    KalDialogAnswer<QMessageBox> never([](QMessageBox *box) { box->button(QMessageBox::Ok)->click(); });
     QCOMPARE(KalPrompt::ask(message), 0);
-    QTest::qWait(50);
-    const bool wasShown = shown;
-    delete poller; // never fired: no box came
-    QVERIFY(!wasShown);
+    QCoreApplication::processEvents();
+    QVERIFY(!never.seen());
 }
 
 void TstGuiSeams::noticeHasNoButtonsAndCloses()
@@ -328,22 +236,18 @@ void TstGuiSeams::noticeHasNoButtonsAndCloses()
     int buttonCount = -1;
     bool modal = true;
     QString text;
-    whenBoxShows([&](QMessageBox *box) {
+    KalDialogAnswer<QMessageBox> notice([&](QMessageBox *box) {
         buttonCount = box->buttons().size();
         modal = box->isModal();
         text = box->text();
     });
-    QElapsedTimer clock;
-    clock.start();
     KalPrompt::instance()->notice(QStringLiteral("Datenbank bereinigen"),
-                                  QStringLiteral("Die Datenbank wird jetzt bereinigt."), 400);
-    const qint64 elapsed = clock.elapsed();
-    QVERIFY(elapsed >= 390);
-    QVERIFY(elapsed < 5000);
+                                  QStringLiteral("Die Datenbank wird jetzt bereinigt."), 200);
+    QVERIFY(notice.seen());
     QCOMPARE(text, QStringLiteral("Die Datenbank wird jetzt bereinigt."));
     QCOMPARE(buttonCount, 0);
     QVERIFY(!modal);
-    QTRY_VERIFY(!visibleMessageBox());
+    QTRY_VERIFY(!KalDialogAnswer<QMessageBox>::find());
 }
 
 // --- busy window ---------------------------------------------------------------------
@@ -363,7 +267,7 @@ void TstGuiSeams::busyWindowAppearsAfterDelay()
     QVERIFY(progress.isBusy());
     QVERIFY(QApplication::overrideCursor());
     QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-    QTest::qWait(100);
+    QCoreApplication::processEvents();
     QVERIFY(!progress.isShowing()); // short work shows nothing
     QTRY_VERIFY_WITH_TIMEOUT(progress.isShowing(), 3000);
     QProgressDialog *window = progressWindow();
@@ -385,10 +289,12 @@ void TstGuiSeams::busyWindowAppearsAfterDelay()
     progress.begin(QStringLiteral("Bilder werden importiert..."));
     progress.setProgress(1, 10);
     QVERIFY(!progress.isShowing());
-    QThread::msleep(KalProgressDialog::showDelay() + 50);
-    progress.setProgress(5, 10);
+    for (QDeadlineTimer deadline(10000); !progress.isShowing() && !deadline.hasExpired();)
+        progress.setProgress(5, 10);
     QVERIFY(progress.isShowing());
     QCOMPARE(progressWindow()->value(), 500);
     progress.end();
     QVERIFY(!progress.isShowing());
 }
+
+KAL_WIDGET_TEST_MAIN(TstGuiSeams)

@@ -13,8 +13,8 @@ private slots:
     void fileDialogRemembersFolderPerKind();
     void fileDialogCancelRemembersNothing();
     void fileDialogStartsWithProposedName();
-    void messageBoxMapsButtons_data();
-    void messageBoxMapsButtons();
+    void messageBoxAnswers_data();
+    void messageBoxAnswers();
     void messageBoxDontShowAgain();
     void noticeHasNoButtonsAndCloses();
     void busyWindowAppearsAfterDelay();

@@ -5,10 +5,10 @@
 #include "gui/textaids/KalCompleterLineEdit.h"
 #include "gui/textaids/KalCompleterTextEdit.h"
 #include "gui/textaids/KalDateEdit.h"
-#include "gui/widgets/KalHeaderView.h"
 #include "gui/widgets/KalItemDelegate.h"
 #include "gui/widgets/KalTableView.h"
 #include "support/KalScriptedPrompt.h"
+#include "support/KalWidgetTestMain.h"
 
 #include <QDir>
 #include <QHeaderView>
@@ -44,95 +44,37 @@ QSet<qint64> toSet(const QList<qint64> &ids)
 }
 } // namespace
 
-TstTableView::TstTableView() = default;
-TstTableView::~TstTableView() = default;
-
 void TstTableView::initTestCase()
 {
-    m_prompt = KalScriptedPrompt::install();
-    m_project.reset(new KalProject);
-    QVERIFY(m_project->newProject());
-    QVERIFY(model(QStringLiteral("defect")));
+    m_prompt = static_cast<KalScriptedPrompt *>(KalPrompt::instance());
+    QVERIFY(m_fx.open());
 }
 
 void TstTableView::cleanupTestCase()
 {
-    if (m_project)
-        m_project->closeProject();
-    m_project.reset();
+    m_fx.close();
 }
 
 void TstTableView::init()
 {
     m_prompt->clear();
-    QSqlQuery q(m_project->database());
-    QVERIFY(q.exec(QStringLiteral("DELETE FROM defect")));
-    QVERIFY(q.exec(QStringLiteral("DELETE FROM company")));
-    QVERIFY(q.exec(QStringLiteral("DELETE FROM photo_info")));
-    QVERIFY(q.exec(QStringLiteral("DELETE FROM status WHERE type = 2")));
-    for (const char *table : {"defect", "company", "photo_info", "status"})
-        QVERIFY(model(QLatin1String(table))->select());
-}
-
-KalSqlTableModel *TstTableView::model(const QString &table) const
-{
-    return m_project->model(table);
-}
-
-qint64 TstTableView::insertRow(const QString &table, QVariantMap values)
-{
-    if (!values.contains(QStringLiteral("id")))
-        values.insert(QStringLiteral("id"), m_project->nextId(table));
-    QStringList names;
-    QStringList holders;
-    for (auto it = values.constBegin(); it != values.constEnd(); ++it) {
-        names << it.key();
-        holders << QLatin1Char(':') + it.key();
-    }
-    QSqlQuery q(m_project->database());
-    q.prepare(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                  .arg(table, names.join(QLatin1Char(',')), holders.join(QLatin1Char(','))));
-    for (auto it = values.constBegin(); it != values.constEnd(); ++it)
-        q.bindValue(QLatin1Char(':') + it.key(), it.value());
-    if (!q.exec()) {
-        qWarning("insert into %s: %s", qPrintable(table), qPrintable(q.lastError().text()));
-        return -1;
-    }
-    return values.value(QStringLiteral("id")).toLongLong();
+    for (const char *table : {"defect", "company", "photo_info"})
+        QVERIFY(m_fx.exec(QStringLiteral("DELETE FROM %1").arg(table)));
+    QVERIFY(m_fx.exec("DELETE FROM status WHERE type = 2"));
+    QVERIFY(m_fx.reselect());
 }
 
 qint64 TstTableView::insertDefect(const QString &number, const QVariantMap &extra)
 {
-    QVariantMap values{
-        {"number", number}, {"description", QStringLiteral("Mangel ") + number}, {"site_journal_data_modified", 0}};
+    QVariantMap values{{"number", number}, {"description", "Mangel " + number}, {"site_journal_data_modified", 0}};
     for (auto it = extra.constBegin(); it != extra.constEnd(); ++it)
         values.insert(it.key(), it.value());
-    return insertRow(QStringLiteral("defect"), values);
+    return m_fx.addDefect(values);
 }
 
 qint64 TstTableView::insertCompany(const QString &name)
 {
-    return insertRow(QStringLiteral("company"), {{"type", "Rohbau"},
-                                                 {"firstname", ""},
-                                                 {"lastname", ""},
-                                                 {"company", name},
-                                                 {"street", ""},
-                                                 {"plz", ""},
-                                                 {"city", "Köln"},
-                                                 {"telephone", ""},
-                                                 {"telefax", ""},
-                                                 {"mobile", ""},
-                                                 {"email", ""},
-                                                 {"pos", 1},
-                                                 {"modified", 0}});
-}
-
-int TstTableView::count(const QString &sql) const
-{
-    QSqlQuery q(m_project->database());
-    if (!q.exec(sql) || !q.next())
-        return -1;
-    return q.value(0).toInt();
+    return m_fx.addCompany(name, "Rohbau", {{"city", "Köln"}, {"modified", 0}});
 }
 
 // --- deleting ------------------------------------------------------------------
@@ -144,15 +86,16 @@ void TstTableView::deleteAsksPerTable_data()
     QTest::addColumn<QString>("answer");
     QTest::addColumn<bool>("removed");
 
-    QTest::newRow("status yes") << "status" << false << "Ja" << true;
-    QTest::newRow("status no") << "status" << false << "Nein" << false;
-    QTest::newRow("status key yes") << "status" << true << "Ja" << true;
-    QTest::newRow("company yes") << "company" << false << "Ja" << true;
-    QTest::newRow("company no") << "company" << false << "Nein" << false;
-    QTest::newRow("company key no") << "company" << true << "Nein" << false;
-    QTest::newRow("defect yes") << "defect" << false << "Ja" << true;
-    QTest::newRow("defect key yes") << "defect" << true << "Ja" << true;
-    QTest::newRow("defect no") << "defect" << false << "Nein" << false;
+    auto row = [](const char *table, bool key, const char *answer, bool removed) {
+        QTest::newRow(qPrintable(QStringLiteral("%1%2 %3").arg(table, key ? " key" : "", answer)))
+            << QString(table) << key << QString(answer) << removed;
+    };
+    for (const char *table : {"status", "company", "defect"}) {
+        row(table, false, "Ja", true);
+        row(table, false, "Nein", false);
+        row(table, true, "Ja", true);
+        row(table, true, "Nein", false);
+    }
 }
 
 void TstTableView::deleteAsksPerTable()
@@ -164,8 +107,8 @@ void TstTableView::deleteAsksPerTable()
 
     qint64 id = -1;
     if (table == QLatin1String("status"))
-        id = insertRow(table,
-                       {{"status", "Prüfen"}, {"color", "#00ff00"}, {"type", 2}, {"reduction_option", 0}, {"pos", 50}});
+        id = m_fx.insert(
+            table, {{"status", "Prüfen"}, {"color", "#00ff00"}, {"type", 2}, {"reduction_option", 0}, {"pos", 50}});
     else if (table == QLatin1String("company"))
         id = insertCompany(QStringLiteral("Maler Schulz"));
     else
@@ -332,33 +275,22 @@ void TstTableView::setModelDataMarksOnlyRealChanges_data()
     QTest::addColumn<QVariant>("expected");
     QTest::addColumn<bool>("changed");
 
-    QTest::newRow("company same text") << "company"
-                                       << "company" << QVariant("Bau GmbH") << "Bau GmbH" << QVariant("Bau GmbH")
-                                       << false;
-    QTest::newRow("company new city") << "company"
-                                      << "city" << QVariant("Köln") << "Bonn" << QVariant("Bonn") << true;
-    QTest::newRow("company email cleared") << "company"
-                                           << "email" << QVariant("a@b.de") << "" << QVariant("") << true;
-    QTest::newRow("photo caption same") << "photo_info"
-                                        << "caption" << QVariant("Foto") << "Foto" << QVariant("Foto") << false;
-    QTest::newRow("photo caption new") << "photo_info"
-                                       << "caption" << QVariant("Foto") << "Riss Decke" << QVariant("Riss Decke")
-                                       << true;
-    QTest::newRow("photo comment new") << "photo_info"
-                                       << "comment" << QVariant("") << "siehe Plan" << QVariant("siehe Plan") << true;
-    QTest::newRow("defect date new") << "defect"
-                                     << "correction_date" << QVariant(QDate(2024, 4, 3)) << "04.04.2024"
-                                     << QVariant(QDate(2024, 4, 4)) << true;
-    QTest::newRow("defect date same, short notation")
-        << "defect"
-        << "correction_date" << QVariant(QDate(2024, 4, 3)) << "3.4.24" << QVariant(QDate(2024, 4, 3)) << false;
-    QTest::newRow("defect date cleared") << "defect"
-                                         << "deadline_1" << QVariant(QDate(2024, 4, 3)) << "" << QVariant(QDate())
-                                         << true;
-    QTest::newRow("defect empty date stays empty") << "defect"
-                                                   << "deadline_2" << QVariant() << "  " << QVariant(QDate()) << false;
-    QTest::newRow("status text new") << "status"
-                                     << "status" << QVariant("Prüfen") << "Geprüft" << QVariant("Geprüft") << true;
+    auto row = [](const char *name, const char *table, const char *field, const QVariant &stored, const char *typed,
+                  const QVariant &expected, bool changed) {
+        QTest::newRow(name) << QString(table) << QString(field) << stored << QString(typed) << expected << changed;
+    };
+    const QDate april3(2024, 4, 3);
+    row("company same text", "company", "company", "Bau GmbH", "Bau GmbH", "Bau GmbH", false);
+    row("company new city", "company", "city", "Köln", "Bonn", "Bonn", true);
+    row("company email cleared", "company", "email", "a@b.de", "", "", true);
+    row("photo caption same", "photo_info", "caption", "Foto", "Foto", "Foto", false);
+    row("photo caption new", "photo_info", "caption", "Foto", "Riss Decke", "Riss Decke", true);
+    row("photo comment new", "photo_info", "comment", "", "siehe Plan", "siehe Plan", true);
+    row("defect date new", "defect", "correction_date", april3, "04.04.2024", QDate(2024, 4, 4), true);
+    row("defect date same, short notation", "defect", "correction_date", april3, "3.4.24", april3, false);
+    row("defect date cleared", "defect", "deadline_1", april3, "", QDate(), true);
+    row("defect empty date stays empty", "defect", "deadline_2", QVariant(), "  ", QDate(), false);
+    row("status text new", "status", "status", "Prüfen", "Geprüft", "Geprüft", true);
 }
 
 void TstTableView::setModelDataMarksOnlyRealChanges()
@@ -373,19 +305,20 @@ void TstTableView::setModelDataMarksOnlyRealChanges()
     qint64 id = -1;
     if (table == QLatin1String("company")) {
         id = insertCompany(QStringLiteral("Bau GmbH"));
-        QSqlQuery q(m_project->database());
+        QSqlQuery q(m_fx.project()->database());
         q.prepare(QStringLiteral("UPDATE company SET %1 = :v WHERE id = :id").arg(field));
         q.bindValue(QStringLiteral(":v"), stored);
         q.bindValue(QStringLiteral(":id"), id);
         QVERIFY(q.exec());
     } else if (table == QLatin1String("photo_info")) {
         const qint64 defect = insertDefect(QStringLiteral("1"));
-        id = insertRow(table, {{"defect_id", defect}, {"pos", 1}, {field, stored}, {"site_journal_data_modified", 0}});
+        id =
+            m_fx.insert(table, {{"defect_id", defect}, {"pos", 1}, {field, stored}, {"site_journal_data_modified", 0}});
     } else if (table == QLatin1String("defect")) {
         id = insertDefect(QStringLiteral("1"), {{field, stored}});
     } else {
-        id = insertRow(table,
-                       {{"status", stored}, {"color", "#00ff00"}, {"type", 2}, {"reduction_option", 0}, {"pos", 50}});
+        id = m_fx.insert(table,
+                         {{"status", stored}, {"color", "#00ff00"}, {"type", 2}, {"reduction_option", 0}, {"pos", 50}});
     }
     QVERIFY(id > 0);
     KalSqlTableModel *m = model(table);
@@ -458,7 +391,7 @@ void TstTableView::cellEditsAreWrittenUnlessTheOwnerDecides()
     QTest::keyClick(editor, Qt::Key_Return);
     QCoreApplication::processEvents();
     QCOMPARE(m->isDirty(), !submitEdits);
-    QSqlQuery q(m_project->database());
+    QSqlQuery q(m_fx.project()->database());
     QVERIFY(q.exec(QStringLiteral("SELECT city, modified FROM company WHERE id = %1").arg(id)) && q.next());
     QCOMPARE(q.value(0).toString(), submitEdits ? QStringLiteral("Ulm") : QStringLiteral("Köln"));
     QCOMPARE(q.value(1).toInt(), submitEdits ? 1 : 0);
@@ -531,11 +464,11 @@ void TstTableView::invalidDateInGridWarnsOnce()
     else
         elsewhere->setFocus();
     QTRY_VERIFY(!view->indexWidget(index));
-    QTest::qWait(50);
-
+    QTRY_COMPARE(m_prompt->titles(), QStringList{QStringLiteral("Format-Fehler")});
+    QCoreApplication::processEvents();
+    QCOMPARE(m_prompt->shown().size(), 1);
     QCOMPARE(m->data(index, Qt::EditRole).toDate(), QDate(2024, 4, 3));
     QVERIFY(!m->isDirty());
-    QCOMPARE(m_prompt->titles(), QStringList{QStringLiteral("Format-Fehler")});
 }
 
 void TstTableView::multiLineEditorWritesText()
@@ -569,68 +502,46 @@ void TstTableView::editorsPerColumn_data()
 {
     QTest::addColumn<QString>("table");
     QTest::addColumn<QString>("field");
-    QTest::addColumn<int>("editorNumber");
-    QTest::addColumn<bool>("hasEditor");
-    QTest::addColumn<QString>("editorClass");
-
-    QTest::newRow("defect reduction (Bool)") << "defect"
-                                             << "reduction" << 9 << false << "";
-    QTest::newRow("defect photo count") << "defect"
-                                        << "image_cnt" << 5 << false << "";
-    QTest::newRow("defect deadline") << "defect"
-                                     << "correction_date" << 4 << true << "KalDateEdit";
-    QTest::newRow("defect third deadline (Date)") << "defect"
-                                                  << "deadline_3" << 4 << true << "KalDateEdit";
-    QTest::newRow("defect number: Qt's editor") << "defect"
-                                                << "number" << 0 << true << "";
+    QTest::addColumn<QString>("editorClass"); // empty: not edited in the grid; "-": Qt's own editor
+    auto row = [](const char *table, const char *field, const char *editorClass) {
+        QTest::newRow(qPrintable(QStringLiteral("%1 %2").arg(table, field)))
+            << QString(table) << QString(field) << QString(editorClass);
+    };
+    row("defect", "reduction", "");
+    row("defect", "image_cnt", "");
+    row("defect", "correction_date", "KalDateEdit");
+    row("defect", "deadline_3", "KalDateEdit");
+    row("defect", "number", "-");
     // Ids shown as names are chosen in the defect editor, never typed.
-    QTest::newRow("defect company id") << "defect"
-                                       << "company_id" << 0 << false << "";
-    QTest::newRow("defect status id") << "defect"
-                                      << "status_id" << 0 << false << "";
-    QTest::newRow("defect plan id") << "defect"
-                                    << "plan_info_id" << 0 << false << "";
-    QTest::newRow("status type") << "status"
-                                 << "type" << 9 << false << "";
-    QTest::newRow("status text") << "status"
-                                 << "status" << 1 << true << "QLineEdit";
-    QTest::newRow("company email") << "company"
-                                   << "email" << 6 << true << "QLineEdit";
-    QTest::newRow("photo caption") << "photo_info"
-                                   << "caption" << 8 << true << "QLineEdit";
-    QTest::newRow("photo comment") << "photo_info"
-                                   << "comment" << 2 << true << "KalCompleterLineEdit";
-    QTest::newRow("photo date") << "photo_info"
-                                << "date" << 4 << true << "KalDateEdit";
-    QTest::newRow("plan name") << "plan_info"
-                               << "plan_name" << 2 << true << "KalCompleterLineEdit";
-    QTest::newRow("plan index") << "plan_info"
-                                << "plan_index" << 2 << true << "KalCompleterLineEdit";
-    QTest::newRow("plan date") << "plan_info"
-                               << "date" << 4 << true << "KalDateEdit";
+    row("defect", "company_id", "");
+    row("defect", "status_id", "");
+    row("defect", "plan_info_id", "");
+    row("status", "type", "");
+    row("status", "status", "QLineEdit");
+    row("company", "email", "QLineEdit");
+    row("photo_info", "caption", "QLineEdit");
+    row("photo_info", "comment", "KalCompleterLineEdit");
+    row("photo_info", "date", "KalDateEdit");
+    row("plan_info", "plan_name", "KalCompleterLineEdit");
+    row("plan_info", "date", "KalDateEdit");
 }
 
 void TstTableView::editorsPerColumn()
 {
     QFETCH(QString, table);
     QFETCH(QString, field);
-    QFETCH(int, editorNumber);
-    QFETCH(bool, hasEditor);
     QFETCH(QString, editorClass);
 
-    qint64 id = -1;
+    qint64 id = 1; // a standard status
     if (table == QLatin1String("defect"))
         id = insertDefect(QStringLiteral("1"));
     else if (table == QLatin1String("company"))
         id = insertCompany(QStringLiteral("Dach AG"));
     else if (table == QLatin1String("photo_info"))
-        id = insertRow(table, {{"defect_id", insertDefect(QStringLiteral("2"))}, {"pos", 1}});
+        id = m_fx.insert(table, {{"defect_id", insertDefect(QStringLiteral("2"))}, {"pos", 1}});
     else if (table == QLatin1String("plan_info"))
-        id = insertRow(table, {{"plan_name", "EG"}, {"pos", 1}});
-    else
-        id = 1; // a standard status
+        id = m_fx.insert(table, {{"plan_name", "EG"}, {"pos", 1}});
     KalSqlTableModel *m = model(table);
-    QVERIFY(m);
     QVERIFY(m->select());
 
     KalTableView view;
@@ -640,35 +551,26 @@ void TstTableView::editorsPerColumn()
     QVERIFY(QTest::qWaitForWindowExposed(&view));
     const QModelIndex index = m->index(m->findRowById(id), m->fieldIndex(field));
     QVERIFY(index.isValid());
-    QCOMPARE(view.kalDelegate()->editorNumber(index.column()), editorNumber);
 
-    QStyleOptionViewItem option;
-    std::unique_ptr<QWidget> editor(view.kalDelegate()->createEditor(view.viewport(), option, index));
-    QCOMPARE(bool(editor), hasEditor);
-    if (!editorClass.isEmpty())
-        QCOMPARE(QString::fromLatin1(editor->metaObject()->className()), editorClass);
-    if (editorNumber == 1 || editorNumber == 4 || editorNumber == 6 || editorNumber == 8) {
-        auto *line = qobject_cast<QLineEdit *>(editor.get());
-        QVERIFY(line);
-        QVERIFY(!line->hasFrame());
-        QCOMPARE(line->focusPolicy(), Qt::StrongFocus);
-    }
-
-    // Through the view as the user would start editing.
+    // As the user would start editing.
     view.setCurrentIndex(index);
     if (!(m->flags(index) & Qt::ItemIsEnabled))
         QTest::ignoreMessage(QtWarningMsg, "edit: editing failed");
     view.edit(index);
-    QCOMPARE(view.indexWidget(index) != nullptr, hasEditor);
-    if (hasEditor) {
-        // The editor commits when its editing is finished.
-        auto *line = qobject_cast<QLineEdit *>(view.indexWidget(index));
-        if (line && editorNumber != 0 && editorNumber != 4) {
-            line->setText(QStringLiteral("X1"));
-            emit line->editingFinished();
-            QCOMPARE(m->data(index, Qt::EditRole).toString(), QStringLiteral("X1"));
-            QTRY_VERIFY(!view.indexWidget(index));
-        }
+    QWidget *editor = view.indexWidget(index);
+    QCOMPARE(editor != nullptr, !editorClass.isEmpty());
+    if (editorClass.isEmpty() || editorClass == "-") {
+        m->revertAll();
+        return;
+    }
+    QCOMPARE(QString::fromLatin1(editor->metaObject()->className()), editorClass);
+    // A text editor commits when its editing is finished.
+    auto *line = qobject_cast<QLineEdit *>(editor);
+    if (line && editorClass != QLatin1String("KalDateEdit")) {
+        line->setText(QStringLiteral("X1"));
+        emit line->editingFinished();
+        QCOMPARE(m->data(index, Qt::EditRole).toString(), QStringLiteral("X1"));
+        QTRY_VERIFY(!view.indexWidget(index));
     }
     m->revertAll();
 }
@@ -739,7 +641,6 @@ void TstTableView::emptyTableHint()
     QLabel *hint = view.emptyHintLabel();
     QVERIFY(hint->isVisible());
     QCOMPARE(hint->text(), QStringLiteral("Doppelklick für neue Zeile"));
-    QCOMPARE(hint->styleSheet(), QStringLiteral("QLabel {color:rgb(154,152,150);}"));
     QVERIFY(view.viewport()->rect().contains(hint->geometry()));
 
     const qint64 id = insertCompany(QStringLiteral("Neu"));
@@ -751,10 +652,6 @@ void TstTableView::emptyTableHint()
     view.deleteButton()->click();
     QCOMPARE(m->rowCount(), 0);
     QVERIFY(hint->isVisible());
-
-    QCOMPARE(view.horizontalHeader()->styleSheet(), KalHeaderView::styleSheetText());
-    QCOMPARE(view.verticalHeader()->styleSheet(),
-             QStringLiteral("border: 1px solid lightgrey;border-left: 0px;border-right: 0px;border-top: 0px;"));
 }
 
 void TstTableView::cornerButtons()
@@ -824,7 +721,7 @@ void TstTableView::statusColourPressReportsId()
     // Another column of the same row reports nothing.
     const QModelIndex text = m->index(row, m->fieldIndex(QStringLiteral("status")));
     QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, view.visualRect(text).center());
-    QTest::qWait(20);
+    QCoreApplication::processEvents();
     QCOMPARE(spy.count(), 1);
 
     // The same press in another table's grid reports nothing either.
@@ -839,7 +736,7 @@ void TstTableView::statusColourPressReportsId()
     KalSqlTableModel *cm = model(QStringLiteral("company"));
     const QModelIndex cell = cm->index(cm->findRowById(id), 5);
     QTest::mouseClick(companies.viewport(), Qt::LeftButton, Qt::NoModifier, companies.visualRect(cell).center());
-    QTest::qWait(20);
+    QCoreApplication::processEvents();
     QCOMPARE(other.count(), 0);
 }
 
@@ -874,15 +771,15 @@ void TstTableView::colourAndCameraCellsArePainted()
     QVERIFY(darkPixels(cameraCell.adjusted(0, 0, -cameraCell.width() / 2, 0)) > 20); // the camera on the left
 
     // A status's colour cell shows its colour, also in a selected row.
-    insertRow(
+    m_fx.insert(
         QStringLiteral("status"),
         {{"id", 77}, {"status", "Lila"}, {"color", "#8020c0"}, {"type", 2}, {"reduction_option", 0}, {"pos", 77}});
-    insertRow(QStringLiteral("status"), {{"id", 78},
-                                         {"status", "Unbekannt"},
-                                         {"color", "keine Farbe"},
-                                         {"type", 2},
-                                         {"reduction_option", 0},
-                                         {"pos", 78}});
+    m_fx.insert(QStringLiteral("status"), {{"id", 78},
+                                           {"status", "Unbekannt"},
+                                           {"color", "keine Farbe"},
+                                           {"type", 2},
+                                           {"reduction_option", 0},
+                                           {"pos", 78}});
     KalSqlTableModel *status = model(QStringLiteral("status"));
     QVERIFY(status->select());
     KalTableView statusView;
@@ -909,43 +806,20 @@ void TstTableView::colourAndCameraCellsArePainted()
 
 // --- icons ------------------------------------------------------------------------------
 
-void TstTableView::iconsAreCompiledIn_data()
+// Every icon compiled into the program loads, square and with transparency.
+void TstTableView::iconsAreCompiledIn()
 {
-    QTest::addColumn<QString>("path");
-    const QStringList names{
-        "datei-neu.ico", "datei-öffnen.ico", "datei-speichern.ico", "datei-speichern-als.ico", "datei-recent.ico",
-        "icon-add-defect.ico", "icon-datei-datenbank.ico", "icon-help.ico", "icon-help-off.ico",
-        "icon-datenimport-automatisch-ein.ico", "icon-datenimport-automatisch-aus.ico", "icon-defect-editor.ico",
-        "icon-status-editor.ico", "tableview-plus.png", "tableview-minus.png", "icon-tableview-copy.png",
-        "icon-camera.png", "icon-allgemein-ok.png", "icon-allgemein-cancel.png", "icon-marker-1.png",
-        "icon-marker-2.png", "icon-marker-3.png", "icon-marker-4.png", "icon-fotoeditor-arrow-1-left.png",
-        "icon-fotoeditor-triangle-left.png", "icon-fotoeditor-symbol-asterisk.png",
-        "icon-fotoeditor-rotate-image-left.png", "pellwick.png",
-        // the other actions of the main window
-        "icon-plaene.ico", "icon-status.ico", "icon-projektdaten.ico", "icon-firmen.ico", "icon-firmen-format.ico",
-        "icon-logo.ico", "icon-drucken-kompakt.ico", "icon-drucken-detailliert.ico", "icon-druckvorschau.ico",
-        "icon-datenimport.ico", "icon-datenimport-aktualisieren.ico", "icon-datenimport-app.ico",
-        "icon-firmen-import.ico", "icon-sprache.ico", "icon-texte.ico", "icon-rechtschreibung.ico",
-        "icon-plangroesse.ico", "icon-fotogroesse.ico", "icon-marker.ico", "icon-marker-text.ico", "icon-info.ico",
-        "icon-update.ico"};
-    for (const QString &name : names)
-        QTest::newRow(qPrintable(name)) << QStringLiteral(":/KalMainWindow/Resources/") + name;
-    QTest::newRow("window icon") << QStringLiteral(":/KalDatabase/Pellwick.ico");
-    // Whatever else is compiled in must load as well.
     const QDir folder(QStringLiteral(":/KalMainWindow/Resources"));
-    for (const QString &name : folder.entryList({QStringLiteral("*.png"), QStringLiteral("*.ico")}, QDir::Files)) {
-        if (!names.contains(name))
-            QTest::newRow(qPrintable(QStringLiteral("compiled in: ") + name)) << folder.filePath(name);
+    QStringList paths{QStringLiteral(":/KalDatabase/Pellwick.ico")};
+    for (const QString &name : folder.entryList({QStringLiteral("*.png"), QStringLiteral("*.ico")}, QDir::Files))
+        paths << folder.filePath(name);
+    QVERIFY(paths.size() > 40);
+    for (const QString &path : paths) {
+        QImageReader reader(path);
+        const QImage image = reader.read();
+        QVERIFY2(!image.isNull(), qPrintable(path + QStringLiteral(": ") + reader.errorString()));
+        QVERIFY2(image.width() >= 16 && image.width() == image.height() && image.hasAlphaChannel(), qPrintable(path));
     }
 }
 
-void TstTableView::iconsAreCompiledIn()
-{
-    QFETCH(QString, path);
-    QImageReader reader(path);
-    const QImage image = reader.read();
-    QVERIFY2(!image.isNull(), qPrintable(path + QStringLiteral(": ") + reader.errorString()));
-    QVERIFY(image.width() >= 16 && image.width() == image.height());
-    QVERIFY(image.hasAlphaChannel());
-    QVERIFY(!QIcon(path).pixmap(16, 16).isNull());
-}
+KAL_WIDGET_TEST_MAIN(TstTableView)

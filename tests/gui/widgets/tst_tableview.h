@@ -1,20 +1,15 @@
 #pragma once
 
-#include <QObject>
-#include <QVariantMap>
-#include <memory>
+#include "support/KalTestProject.h"
 
-class KalProject;
+#include <QObject>
+
 class KalScriptedPrompt;
 class KalSqlTableModel;
 
 class TstTableView : public QObject
 {
     Q_OBJECT
-
-public:
-    TstTableView();
-    ~TstTableView() override;
 
 private slots:
     void initTestCase();
@@ -42,16 +37,14 @@ private slots:
     void cornerButtons();
     void statusColourPressReportsId();
     void colourAndCameraCellsArePainted();
-    void iconsAreCompiledIn_data();
     void iconsAreCompiledIn();
 
 private:
-    KalSqlTableModel *model(const QString &table) const;
-    qint64 insertRow(const QString &table, QVariantMap values);
+    KalSqlTableModel *model(const QString &table) const { return m_fx.model(table); }
     qint64 insertDefect(const QString &number, const QVariantMap &extra = {});
     qint64 insertCompany(const QString &name);
-    int count(const QString &sql) const;
+    int count(const QString &sql) { return m_fx.value(sql).toInt(); }
 
     KalScriptedPrompt *m_prompt = nullptr;
-    std::unique_ptr<KalProject> m_project;
+    KalTestProject m_fx;
 };
