@@ -10,6 +10,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QSqlQuery>
@@ -745,34 +746,31 @@ private slots:
         QDir().mkpath(mountPoint);
         if (QProcess::execute("mount", {"-t", "tmpfs", "-o", "size=600k", "tmpfs", mountPoint}) != 0)
             QSKIP("cannot mount a small file system here");
+        // Declared before the project: unmounted after it is closed, also
+        // when an assertion returns early.
+        const auto unmount = qScopeGuard([&] { QProcess::execute("umount", {mountPoint}); });
         const QString file = mountPoint + "/p.pwp";
-        bool created = createProject(file, 1);
-        if (created) {
-            KalProject project;
-            // The volume reports plenty of room: the write itself must fail.
-            KalEnvironment::setVolumeInfoFunction([](const QString &) {
-                return KalEnvironment::VolumeInfo{true, true, qint64(1) << 40, "tmpfs"};
-            });
-            QVERIFY(project.openProject(file));
-            QVERIFY(project.beginTransaction());
-            QSqlQuery q(project.database());
-            q.prepare("INSERT INTO filter_state (id, key, value) VALUES (:id, 'ballast', :v)");
-            for (int i = 1; i <= 4; ++i) {
-                q.bindValue(":id", i);
-                q.bindValue(":v", QString(60000, QChar('a' + i)));
-                q.exec();
-            }
-            project.commitTransaction();
-            const QByteArray before = fileHash(file);
-            QCOMPARE(project.saveProject(), int(KalProject::SaveFailed));
-            QCOMPARE(fileHash(file), before);
-            QCOMPARE(integrity(file), QStringLiteral("ok"));
-            QVERIFY(project.isOpen());
-            KalEnvironment::setVolumeInfoFunction({});
-            project.closeProject();
+        QVERIFY(createProject(file, 1));
+        KalProject project;
+        // The volume reports plenty of room: the write itself must fail.
+        KalEnvironment::setVolumeInfoFunction([](const QString &) {
+            return KalEnvironment::VolumeInfo{true, true, qint64(1) << 40, "tmpfs"};
+        });
+        QVERIFY(project.openProject(file));
+        QVERIFY(project.beginTransaction());
+        QSqlQuery q(project.database());
+        q.prepare("INSERT INTO filter_state (id, key, value) VALUES (:id, 'ballast', :v)");
+        for (int i = 1; i <= 4; ++i) {
+            q.bindValue(":id", i);
+            q.bindValue(":v", QString(60000, QChar('a' + i)));
+            q.exec();
         }
-        QProcess::execute("umount", {mountPoint});
-        QVERIFY(created);
+        project.commitTransaction();
+        const QByteArray before = fileHash(file);
+        QCOMPARE(project.saveProject(), int(KalProject::SaveFailed));
+        QCOMPARE(fileHash(file), before);
+        QCOMPARE(integrity(file), QStringLiteral("ok"));
+        QVERIFY(project.isOpen());
     }
 
     void folderRefusingWrites()
