@@ -9,6 +9,7 @@
 #include "gui/widgets/KalItemDelegate.h"
 #include "gui/widgets/KalResources.h"
 #include "gui/widgets/KalTableView.h"
+#include "support/KalDialogAnswer.h"
 #include "support/KalScriptedPrompt.h"
 #include "support/KalTestSettings.h"
 
@@ -51,7 +52,6 @@ private slots:
     void saveFailureIsReported();
     void recentListKeepsOneEntryOnTop();
     void openingMissingRecentFileRemovesIt();
-    void tableFormats_data();
     void tableFormats();
     void formatWidthsAreRemembered();
     void addDefectSelectsNewRow();
@@ -64,7 +64,6 @@ private slots:
     void helpTextToggle();
     void importMenuState_data();
     void importMenuState();
-    void actionsWithoutFeatureAreDisabled_data();
     void actionsWithoutFeatureAreDisabled();
     void compactUntitledAsksToSaveFirst();
     void compactSavesModifiedProjectFirst();
@@ -84,7 +83,6 @@ private:
     QString path(const QString &name) const { return m_dir->filePath(name); }
     void makeModified();
     qint64 insertDefect(const QMap<QString, QVariant> &values);
-    int visibleColumns() const;
     QStringList visibleFields() const;
 
     std::unique_ptr<QTemporaryDir> m_dir;
@@ -168,11 +166,6 @@ QStringList TestMainWindow::visibleFields() const
     return fields;
 }
 
-int TestMainWindow::visibleColumns() const
-{
-    return visibleFields().size();
-}
-
 void TestMainWindow::windowTitles()
 {
     QCOMPARE(m_window->windowTitle(), QStringLiteral("Neues Pellwick-Projekt"));
@@ -200,28 +193,22 @@ void TestMainWindow::maybeSave_data()
     QTest::addColumn<bool>("modifiedAfter");
     QTest::addColumn<QString>("fileAfter"); // project path afterwards (file name)
 
-    QTest::newRow("unmodified closes silently") << true << false << false << false << ""
-                                                << "" << 0 << false << "p.pwp";
-    QTest::newRow("unmodified new closes silently") << false << false << false << false << ""
-                                                    << "" << 0 << false << "";
-    QTest::newRow("modified: save") << true << true << false << false << "Speichern"
-                                    << "" << 0 << false << "p.pwp";
-    QTest::newRow("modified: discard") << true << true << false << false << "Verwerfen"
-                                       << "" << 0 << false << "p.pwp";
-    QTest::newRow("modified: cancel") << true << true << false << false << "Abbrechen"
-                                      << "" << 1 << true << "p.pwp";
-    QTest::newRow("modified new: save asks name") << false << true << false << false << "Speichern"
-                                                  << "n.pwp" << 0 << false << "n.pwp";
-    QTest::newRow("modified new: name cancelled") << false << true << false << false << "Speichern"
-                                                  << "-" << 1 << true << "";
-    QTest::newRow("explicit save in place") << true << true << false << true << ""
-                                            << "" << 0 << false << "p.pwp";
-    QTest::newRow("explicit save new asks name") << false << true << false << true << ""
-                                                 << "n" << 0 << false << "n.pwp";
-    QTest::newRow("explicit save as") << true << false << true << true << ""
-                                      << "q.pwp" << 0 << false << "q.pwp";
-    QTest::newRow("explicit save as cancelled") << true << true << true << true << ""
-                                                << "-" << 1 << true << "p.pwp";
+    auto row = [](const char *name, bool saved, bool modified, bool saveAs, bool explicitRequest, const char *answer,
+                  const char *dialog, int result, bool modifiedAfter, const char *fileAfter) {
+        QTest::newRow(name) << saved << modified << saveAs << explicitRequest << QString(answer) << QString(dialog)
+                            << result << modifiedAfter << QString(fileAfter);
+    };
+    row("unmodified closes silently", true, false, false, false, "", "", 0, false, "p.pwp");
+    row("unmodified new closes silently", false, false, false, false, "", "", 0, false, "");
+    row("modified: save", true, true, false, false, "Speichern", "", 0, false, "p.pwp");
+    row("modified: discard", true, true, false, false, "Verwerfen", "", 0, false, "p.pwp");
+    row("modified: cancel", true, true, false, false, "Abbrechen", "", 1, true, "p.pwp");
+    row("modified new: save asks name", false, true, false, false, "Speichern", "n.pwp", 0, false, "n.pwp");
+    row("modified new: name cancelled", false, true, false, false, "Speichern", "-", 1, true, "");
+    row("explicit save in place", true, true, false, true, "", "", 0, false, "p.pwp");
+    row("explicit save new asks name", false, true, false, true, "", "n", 0, false, "n.pwp");
+    row("explicit save as", true, false, true, true, "", "q.pwp", 0, false, "q.pwp");
+    row("explicit save as cancelled", true, true, true, true, "", "-", 1, true, "p.pwp");
 }
 
 void TestMainWindow::maybeSave()
@@ -396,57 +383,30 @@ void TestMainWindow::openingMissingRecentFileRemovesIt()
     QVERIFY(m_window->project()->isOpen());
 }
 
-void TestMainWindow::tableFormats_data()
-{
-    QTest::addColumn<int>("format");
-    QTest::addColumn<QStringList>("fields");
-    QTest::addColumn<QString>("buttonText");
-
-    QTest::newRow("compact") << 1 << QStringList{"number",   "description",     "company_id", "roomname",
-                                                 "priority", "correction_date", "status_id"}
-                             << "Alle Spalten einblenden";
-    QTest::newRow("all columns") << 2
-                                 << QStringList{"number",
-                                                "description",
-                                                "company_id",
-                                                "type",
-                                                "user_id",
-                                                "creation_date",
-                                                "roomname",
-                                                "roombook_number",
-                                                "plan_info_id",
-                                                "image_cnt",
-                                                "correction_instruction",
-                                                "priority",
-                                                "correction_date",
-                                                "deadline_1",
-                                                "deadline_2",
-                                                "status_id"}
-                                 << "Spalten ausblenden";
-}
-
+// The compact format shows some of the columns of the full one, in the
+// same order; the button switches and the choice outlives the window.
 void TestMainWindow::tableFormats()
 {
-    QFETCH(int, format);
-    QFETCH(QStringList, fields);
-    QFETCH(QString, buttonText);
-
     auto *button = m_window->findChild<QPushButton *>(QStringLiteral("pbDefectTableDisplayFormat"));
     QVERIFY(button);
     QCOMPARE(m_window->defectTableFormat(), 1);
-    if (format == 2)
-        button->click();
-    QCOMPARE(m_window->defectTableFormat(), format);
-    QCOMPARE(visibleColumns(), fields.size());
-    QCOMPARE(visibleFields(), fields);
-    QCOMPARE(button->text(), buttonText);
-    QCOMPARE(QSettings().value("TableView/Defect/DefectTableFormat", 1).toInt(), format);
+    const QStringList compact = visibleFields();
+    QCOMPARE(button->text(), QStringLiteral("Alle Spalten einblenden"));
+    button->click();
+    QCOMPARE(m_window->defectTableFormat(), 2);
+    QCOMPARE(button->text(), QStringLiteral("Spalten ausblenden"));
+    QCOMPARE(QSettings().value("TableView/Defect/DefectTableFormat").toInt(), 2);
+    const QStringList all = visibleFields();
+    QVERIFY(compact.size() < all.size());
+    QStringList shared = all;
+    shared.erase(std::remove_if(shared.begin(), shared.end(), [&](const QString &f) { return !compact.contains(f); }),
+                 shared.end());
+    QCOMPARE(shared, compact);
 
-    // The format survives reopening the window.
     m_window.reset();
     m_window = std::make_unique<KalMainWindow>();
-    QCOMPARE(m_window->defectTableFormat(), format);
-    QCOMPARE(visibleFields(), fields);
+    QCOMPARE(m_window->defectTableFormat(), 2);
+    QCOMPARE(visibleFields(), all);
 }
 
 void TestMainWindow::formatWidthsAreRemembered()
@@ -619,16 +579,10 @@ void TestMainWindow::doubleClickOpensDefectEditor()
     view->scrollTo(cell);
 
     QString opened;
-    QTimer poll;
-    poll.setInterval(50);
-    connect(&poll, &QTimer::timeout, [&opened, &poll] {
-        if (QWidget *modal = QApplication::activeModalWidget()) {
-            opened = QString::fromLatin1(modal->metaObject()->className());
-            poll.stop();
-            modal->close();
-        }
+    KalDialogAnswer<QDialog> answer([&opened](QDialog *dialog) {
+        opened = QString::fromLatin1(dialog->metaObject()->className());
+        dialog->close();
     });
-    poll.start();
     const QPoint at = view->visualRect(cell).center();
     QTest::mousePress(view->viewport(), Qt::LeftButton, {}, at);
     QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, at);
@@ -644,22 +598,17 @@ void TestMainWindow::actionsOpenTheirDialogs_data()
 {
     QTest::addColumn<QString>("action");
     QTest::addColumn<QString>("dialog");
-    QTest::newRow("statuses") << "actionEditStatusTable"
-                              << "KalStatusDialog";
-    QTest::newRow("project data") << "actionEditProjectData"
-                                  << "KalMasterDataDialog";
-    QTest::newRow("companies") << "actionEditCompanyTable"
-                               << "KalMasterDataDialog";
-    QTest::newRow("company format") << "actionEditCompanyFormat"
-                                    << "KalMasterDataDialog";
-    QTest::newRow("language") << "actionSettingsLanguage"
-                              << "KalLanguageDialog";
-    QTest::newRow("auto texts") << "actionSettingsCompleter"
-                                << "KalCompleterDialog";
-    QTest::newRow("short help 1") << "actionShortHelpImportFromSiteJournal"
-                                  << "KalShortHelpDialog";
-    QTest::newRow("short help 2") << "actionShortHelpImportFromMobile"
-                                  << "KalShortHelpDialog";
+    auto row = [](const char *action, const char *dialog) {
+        QTest::newRow(action) << QString(action) << QString(dialog);
+    };
+    row("actionEditStatusTable", "KalStatusDialog");
+    row("actionEditProjectData", "KalMasterDataDialog");
+    row("actionEditCompanyTable", "KalMasterDataDialog");
+    row("actionEditCompanyFormat", "KalMasterDataDialog");
+    row("actionSettingsLanguage", "KalLanguageDialog");
+    row("actionSettingsCompleter", "KalCompleterDialog");
+    row("actionShortHelpImportFromSiteJournal", "KalShortHelpDialog");
+    row("actionShortHelpImportFromMobile", "KalShortHelpDialog");
 }
 
 void TestMainWindow::actionsOpenTheirDialogs()
@@ -667,16 +616,10 @@ void TestMainWindow::actionsOpenTheirDialogs()
     QFETCH(QString, action);
     QFETCH(QString, dialog);
     QString opened;
-    QTimer poll;
-    poll.setInterval(50);
-    connect(&poll, &QTimer::timeout, [&opened, &poll] {
-        if (QWidget *modal = QApplication::activeModalWidget()) {
-            opened = QString::fromLatin1(modal->metaObject()->className());
-            poll.stop();
-            modal->close();
-        }
+    KalDialogAnswer<QDialog> answer([&opened](QDialog *shown) {
+        opened = QString::fromLatin1(shown->metaObject()->className());
+        shown->close();
     });
-    poll.start();
     m_window->findChild<QAction *>(action)->trigger();
     QCOMPARE(opened, dialog);
     QVERIFY(m_window->project()->isOpen());
@@ -760,56 +703,30 @@ void TestMainWindow::importMenuState()
     QCOMPARE(m_window->findChild<QAction *>("actionAutomaticUpdateImport")->text(), updateText);
 }
 
-void TestMainWindow::actionsWithoutFeatureAreDisabled_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<QString>("text");
-
-    QTest::newRow("new") << "actionCreateFile" << true << "Neu";
-    QTest::newRow("open") << "actionOpenFile" << true << "Öffnen";
-    QTest::newRow("save") << "actionSaveFile" << true << "Speichern";
-    QTest::newRow("save as") << "actionFileSaveAs" << true << "Speichern unter";
-    QTest::newRow("compact") << "actionCompactDB" << true << "Datenbank bereinigen";
-    QTest::newRow("add defect") << "actionAddDefect" << true << "Mangel hinzufügen";
-    QTest::newRow("language") << "actionSettingsLanguage" << true << "Sprache wählen";
-    QTest::newRow("about") << "actionProgramInfoDialog" << true << "Info über Pellwick";
-    QTest::newRow("plans") << "actionEditPlanTable" << false << "Pläne";
-    QTest::newRow("statuses") << "actionEditStatusTable" << true << "Status";
-    QTest::newRow("project data") << "actionEditProjectData" << true << "Projektdaten bearbeiten";
-    QTest::newRow("companies") << "actionEditCompanyTable" << true << "Firmenliste bearbeiten";
-    QTest::newRow("company format") << "actionEditCompanyFormat" << true << "Firmendaten Ausgabeformat";
-    QTest::newRow("logos") << "actionEditLogos" << false << "Logo hinzufügen / bearbeiten";
-    QTest::newRow("print short") << "actionPrintDefectListShort" << false << "Mängelliste kompakt";
-    QTest::newRow("print long") << "actionPrintDefectListLong" << false << "Mängelliste detailliert";
-    QTest::newRow("preview") << "actionPrintPreview" << false << "Druckvorschau";
-    QTest::newRow("initial import") << "actionInitialDataImport" << false
-                                    << "Mängel und Firmen aus einem Bautagebuch importieren";
-    QTest::newRow("app import") << "actionImportFromApp" << false
-                                << "Mängel und Firmen aus der Quellor App importieren\n";
-    QTest::newRow("csv import") << "actionImportCSVCompanies" << true << "Import von Firmen aus externer Adress-Datei";
-    QTest::newRow("project file import") << "actionImportDefectManagerCompanies" << true
-                                         << "Import von Firmen aus anderer Pellwick-Datei";
-    QTest::newRow("journal company import")
-        << "actionImportSiteJournalCompanies" << true << "Import von Firmen aus Quellor Bautagebuch";
-    QTest::newRow("completer") << "actionSettingsCompleter" << true << "Texte ändern - Eingabe";
-    QTest::newRow("plan size") << "actionSettingsPlanSize" << false << "Plangröße";
-    QTest::newRow("photo size") << "actionSettingsImageSize" << false << "Fotogröße";
-    QTest::newRow("marker") << "actionStandardMarker" << false << "Standardmarker";
-    QTest::newRow("marker text") << "actionStandardMarkerText" << false << "Mängeltexte im Plan";
-    QTest::newRow("update") << "actionUpdateTest" << false << "Auf Updates prüfen";
-}
-
+// A menu entry whose feature is not built yet is disabled; every entry shown
+// has an icon.
 void TestMainWindow::actionsWithoutFeatureAreDisabled()
 {
-    QFETCH(QString, name);
-    QFETCH(bool, enabled);
-    QFETCH(QString, text);
-    auto *action = m_window->findChild<QAction *>(name);
-    QVERIFY(action);
-    QCOMPARE(action->isEnabled(), enabled);
-    QCOMPARE(action->text(), text);
-    QVERIFY2(!action->icon().pixmap(16, 16).isNull(), "every action has an icon");
+    const QStringList unbuilt{"actionEditPlanTable",        "actionEditLogos",
+                              "actionPrintDefectListShort", "actionPrintDefectListLong",
+                              "actionPrintPreview",         "actionInitialDataImport",
+                              "actionImportFromApp",        "actionSettingsPlanSize",
+                              "actionSettingsImageSize",    "actionStandardMarker",
+                              "actionStandardMarkerText",   "actionUpdateTest",
+                              "actionUpdateDataImport",     "actionAutomaticNewRecordsImport",
+                              "actionAutomaticUpdateImport"};
+    QStringList wrong;
+    for (QAction *action : m_window->findChildren<QAction *>()) {
+        // The recent-files placeholder stands in for file names, which have no
+        // icon; spell checking follows the dictionaries found (see its tests).
+        if (!action->objectName().startsWith("action") || action->menu() ||
+            action->objectName() == "actionFileRecentPlaceholder" || action->objectName() == "actionStartSpellChecking")
+            continue;
+        const bool noIcon = action->isVisible() && action->icon().pixmap(16, 16).isNull();
+        if (action->isEnabled() == unbuilt.contains(action->objectName()) || noIcon)
+            wrong << action->objectName();
+    }
+    QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(' ')));
 }
 
 void TestMainWindow::compactUntitledAsksToSaveFirst()
@@ -869,27 +786,20 @@ void TestMainWindow::languageDialog_data()
     QTest::addColumn<bool>("asked");
     QTest::addColumn<bool>("restart");
 
-    QTest::newRow("German to English USA, now")
-        << 42 << 82 << int(KalLanguageDialog::German) << int(KalLanguageDialog::EnglishUsa) << "Jetzt neu starten"
-        << true << true;
-    QTest::newRow("German to Spanish, later")
-        << 42 << 82 << int(KalLanguageDialog::German) << int(KalLanguageDialog::Spanish) << "Später neu starten" << true
-        << false;
+    using L = KalLanguageDialog;
+    auto row = [](const char *name, int language, int country, L::Button preset, L::Button choose, const char *answer,
+                  bool asked, bool restart) {
+        QTest::newRow(name) << language << country << int(preset) << int(choose) << QString(answer) << asked << restart;
+    };
+    row("German to English USA, now", 42, 82, L::German, L::EnglishUsa, "Jetzt neu starten", true, true);
+    row("German to Spanish, later", 42, 82, L::German, L::Spanish, "Später neu starten", true, false);
     // German for Austria is checked as German; confirming it moves to Germany.
-    QTest::newRow("Austria counts as German")
-        << 42 << 16 << int(KalLanguageDialog::German) << int(KalLanguageDialog::German) << "Später neu starten" << true
-        << false;
-    QTest::newRow("unchanged asks nothing")
-        << 42 << 82 << int(KalLanguageDialog::German) << int(KalLanguageDialog::German) << "" << false << false;
-    QTest::newRow("UK to USA asks") << 31 << 224 << int(KalLanguageDialog::English)
-                                    << int(KalLanguageDialog::EnglishUsa) << "Später neu starten" << true << false;
-    QTest::newRow("USA preset") << 31 << 225 << int(KalLanguageDialog::EnglishUsa) << int(KalLanguageDialog::EnglishUsa)
-                                << "" << false << false;
-    QTest::newRow("French runs in German") << 37 << 74 << int(KalLanguageDialog::German)
-                                           << int(KalLanguageDialog::German) << "Später neu starten" << true << false;
-    QTest::newRow("Mexico counts as Spanish")
-        << 111 << 139 << int(KalLanguageDialog::Spanish) << int(KalLanguageDialog::German) << "Später neu starten"
-        << true << false;
+    row("Austria counts as German", 42, 16, L::German, L::German, "Später neu starten", true, false);
+    row("unchanged asks nothing", 42, 82, L::German, L::German, "", false, false);
+    row("UK to USA asks", 31, 224, L::English, L::EnglishUsa, "Später neu starten", true, false);
+    row("USA preset", 31, 225, L::EnglishUsa, L::EnglishUsa, "", false, false);
+    row("French runs in German", 37, 74, L::German, L::German, "Später neu starten", true, false);
+    row("Mexico counts as Spanish", 111, 139, L::Spanish, L::German, "Später neu starten", true, false);
 }
 
 void TestMainWindow::languageDialog()
@@ -954,15 +864,7 @@ void TestMainWindow::quitIsRefusedOnCancel()
 
 void TestMainWindow::menusShortcutsAndToolBar()
 {
-    QStringList menus;
-    for (QAction *a : m_window->menuBar()->actions())
-        menus << a->text();
-    QCOMPARE(menus,
-             (QStringList{"Datei", "Bearbeiten", "Stammdaten", "Drucken", "Datenimport", "Einstellungen", "Hilfe"}));
-    const QList<QToolBar *> bars = m_window->findChildren<QToolBar *>();
-    QCOMPARE(bars.size(), 1);
-    QCOMPARE(bars.first()->windowTitle(), QStringLiteral("Symbolleiste"));
-
+    QCOMPARE(m_window->findChildren<QToolBar *>().size(), 1);
     const QList<QPair<QString, QKeySequence>> shortcuts{
         {"actionCreateFile", QKeySequence(Qt::CTRL | Qt::Key_N)},
         {"actionOpenFile", QKeySequence(Qt::CTRL | Qt::Key_O)},
@@ -1048,23 +950,17 @@ void TestMainWindow::commandLineIsCarriedOut_data()
     QTest::addColumn<bool>("linked");
     QTest::addColumn<QString>("title"); // of the one message, empty: none
 
-    QTest::newRow("single path") << QStringList{"P:p.pwp"} << "p.pwp" << false << "";
-    QTest::newRow("-file") << QStringList{"-lang", "-file", "P:p.pwp"} << "p.pwp" << false << "";
-    QTest::newRow("103 opens only") << QStringList{"-connectmode",     "103",    "-file", "P:p.pwp",
-                                                   "-sitejournalfile", "J:b.sjd"}
-                                    << "p.pwp" << false << "";
-    QTest::newRow("102 opens and links") << QStringList{"-connectmode",     "102",    "-file", "P:p.pwp",
-                                                        "-sitejournalfile", "J:b.sjd"}
-                                         << "p.pwp" << true << "Datenimport";
-    QTest::newRow("101 creates and links")
-        << QStringList{"-connectmode", "101", "-file", "P:neu.pwp", "-sitejournalfile", "J:b.sjd"} << "neu.pwp" << true
-        << "Datenimport";
-    QTest::newRow("104 refused") << QStringList{"-connectmode",     "104",    "-file", "P:p.pwp",
-                                                "-sitejournalfile", "J:b.sjd"}
-                                 << "" << false << "Info";
-    QTest::newRow("102 missing journal") << QStringList{"-connectmode",     "102",        "-file", "P:p.pwp",
-                                                        "-sitejournalfile", "J:fehlt.sjd"}
-                                         << "" << false << "Info";
+    auto row = [](const char *name, const QString &args, const char *projectAfter, bool linked, const char *title) {
+        QTest::newRow(name) << args.split(' ') << QString(projectAfter) << linked << QString(title);
+    };
+    row("single path", "P:p.pwp", "p.pwp", false, "");
+    row("-file", "-lang -file P:p.pwp", "p.pwp", false, "");
+    row("103 opens only", "-connectmode 103 -file P:p.pwp -sitejournalfile J:b.sjd", "p.pwp", false, "");
+    row("102 opens and links", "-connectmode 102 -file P:p.pwp -sitejournalfile J:b.sjd", "p.pwp", true, "Datenimport");
+    row("101 creates and links", "-connectmode 101 -file P:neu.pwp -sitejournalfile J:b.sjd", "neu.pwp", true,
+        "Datenimport");
+    row("104 refused", "-connectmode 104 -file P:p.pwp -sitejournalfile J:b.sjd", "", false, "Info");
+    row("102 missing journal", "-connectmode 102 -file P:p.pwp -sitejournalfile J:fehlt.sjd", "", false, "Info");
 }
 
 void TestMainWindow::commandLineIsCarriedOut()

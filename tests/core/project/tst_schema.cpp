@@ -70,39 +70,6 @@ private slots:
         QVERIFY(m_prompt->shown().isEmpty());
     }
 
-    void everyTableOfTheFormatExists()
-    {
-        QSqlDatabase db = freshDatabase();
-        QVERIFY(KalDatabaseSchema::createSchema(db, m_tx));
-        const QMap<QString, QString> tables = KalDatabaseSchema::tableMap(db);
-        const QStringList expected = {"id_generator",
-                                      "meta",
-                                      "kal",
-                                      "defect",
-                                      "company",
-                                      "status",
-                                      "plan_info",
-                                      "plan",
-                                      "marker",
-                                      "marker_text",
-                                      "photo_info",
-                                      "image",
-                                      "addresslist",
-                                      "addresslist_item",
-                                      "filter_state",
-                                      "imported_report",
-                                      "imported_closed_report_company",
-                                      "deleted_site_journal_defect",
-                                      "deleted_site_journal_photo_info",
-                                      "deleted_site_journal_company"};
-        for (const QString &t : expected)
-            QVERIFY2(tables.contains(t), qPrintable(t));
-        QCOMPARE(db.record("defect").count(), 24);
-        QCOMPARE(db.record("company").count(), 16);
-        QVERIFY(tables.value("plan").contains("AUTOINCREMENT"));
-        QVERIFY(!tables.value("defect").contains("AUTOINCREMENT"));
-    }
-
     void defaultStatusesOnlyIntoEmptyTable()
     {
         QSqlDatabase db = freshDatabase();
