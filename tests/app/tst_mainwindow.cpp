@@ -11,6 +11,7 @@
 #include "gui/widgets/KalTableView.h"
 #include "support/KalDialogAnswer.h"
 #include "support/KalScriptedPrompt.h"
+#include "support/KalTestFiles.h"
 #include "support/KalTestSettings.h"
 
 #include <QAction>
@@ -72,10 +73,6 @@ private slots:
     void restartWritesAndConsumesReopenKey();
     void quitIsRefusedOnCancel();
     void menusShortcutsAndToolBar();
-    void missingDisplay_data();
-    void missingDisplay();
-    void scalingPercent_data();
-    void scalingPercent();
     void commandLineIsCarriedOut_data();
     void commandLineIsCarriedOut();
 
@@ -441,31 +438,30 @@ void TestMainWindow::addDefectSelectsNewRow()
 
 void TestMainWindow::copyTakesOnlyTheListedFields()
 {
-    const QMap<QString, QVariant> source{
-        {"number", "0042"},
-        {"description", "Riss im Putz"},
-        {"company_id", 3},
-        {"type", "Mangel nach Abnahme"},
-        {"user_id", "Bauleiter"},
-        {"creation_date", "2026-03-01"},
-        {"roomname", "Küche"},
-        {"roombook_number", "1.07"},
-        {"plan_info_id", 5},
-        {"image_cnt", 3},
-        {"correction_instruction", "Neu verputzen"},
-        {"priority", "Hoch"},
-        {"correction_date", "2026-04-01"},
-        {"deadline_1", "2026-04-15"},
-        {"deadline_2", "2026-05-01"},
-        {"deadline_3", "2026-05-15"},
-        {"status_id", 2},
-        {"reduction", 1},
-        {"plan_id", 7},
-        {"site_journal_data_modified", 1},
-        {"imported_report_id", 11},
-        {"site_journal_id", 12},
-        {"delete_on_import", 0},
-    };
+    // Every field set, so that a field copied by mistake shows.
+    const QMap<QString, QVariant> source{{"number", "0042"},
+                                         {"description", "Riss im Putz"},
+                                         {"company_id", 3},
+                                         {"type", "Mangel nach Abnahme"},
+                                         {"user_id", "Bauleiter"},
+                                         {"creation_date", "2026-03-01"},
+                                         {"roomname", "Küche"},
+                                         {"roombook_number", "1.07"},
+                                         {"plan_info_id", 5},
+                                         {"image_cnt", 3},
+                                         {"correction_instruction", "Neu verputzen"},
+                                         {"priority", "Hoch"},
+                                         {"correction_date", "2026-04-01"},
+                                         {"deadline_1", "2026-04-15"},
+                                         {"deadline_2", "2026-05-01"},
+                                         {"deadline_3", "2026-05-15"},
+                                         {"status_id", 2},
+                                         {"reduction", 1},
+                                         {"plan_id", 7},
+                                         {"site_journal_data_modified", 1},
+                                         {"imported_report_id", 11},
+                                         {"site_journal_id", 12},
+                                         {"delete_on_import", 0}};
     const qint64 sourceId = insertDefect(source);
     QVERIFY(sourceId > 0);
 
@@ -762,18 +758,7 @@ void TestMainWindow::compactSavesModifiedProjectFirst()
     for (const QString &t : m_prompt->texts())
         reported = reported || t.startsWith(QStringLiteral("Die Datenbank wurde erfolgreich bereinigt."));
     QVERIFY2(reported, qPrintable(m_prompt->texts().join('|')));
-    // The saved file holds the defects.
-    QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "compactcheck");
-    db.setDatabaseName(path("c.pwp"));
-    QVERIFY(db.open());
-    {
-        QSqlQuery q(db);
-        QVERIFY(q.exec("SELECT COUNT(*) FROM defect") && q.next());
-        QCOMPARE(q.value(0).toInt(), 20);
-    }
-    db.close();
-    db = QSqlDatabase();
-    QSqlDatabase::removeDatabase("compactcheck");
+    QCOMPARE(KalTestFiles::countRows(path("c.pwp"), "defect"), 20); // the saved file holds the defects
 }
 
 void TestMainWindow::languageDialog_data()
@@ -877,70 +862,6 @@ void TestMainWindow::menusShortcutsAndToolBar()
     KalFileDialog::queueChoice(path("kurz.pwp"));
     QTest::keyClick(m_window.get(), Qt::Key_S, Qt::ControlModifier);
     QCOMPARE(QFileInfo(m_window->project()->projectPath()).fileName(), QStringLiteral("kurz.pwp"));
-}
-
-void TestMainWindow::missingDisplay_data()
-{
-    QTest::addColumn<QByteArray>("platform");
-    QTest::addColumn<QByteArray>("display");
-    QTest::addColumn<QByteArray>("wayland");
-    QTest::addColumn<bool>("refused");
-
-    QTest::newRow("nothing set") << QByteArray() << QByteArray() << QByteArray() << true;
-    QTest::newRow("xcb without display") << QByteArray("xcb") << QByteArray() << QByteArray() << true;
-    QTest::newRow("offscreen needs none") << QByteArray("offscreen") << QByteArray() << QByteArray() << false;
-    QTest::newRow("wayland") << QByteArray() << QByteArray() << QByteArray("wayland-0") << false;
-    QTest::newRow("remote X") << QByteArray() << QByteArray("host.example:0") << QByteArray() << false;
-    QTest::newRow("local X without server") << QByteArray() << QByteArray(":987") << QByteArray() << true;
-}
-
-void TestMainWindow::missingDisplay()
-{
-    QFETCH(QByteArray, platform);
-    QFETCH(QByteArray, display);
-    QFETCH(QByteArray, wayland);
-    QFETCH(bool, refused);
-
-    const QByteArray oldPlatform = qgetenv("QT_QPA_PLATFORM");
-    const QByteArray oldDisplay = qgetenv("DISPLAY");
-    const QByteArray oldWayland = qgetenv("WAYLAND_DISPLAY");
-    auto set = [](const char *name, const QByteArray &value) {
-        if (value.isEmpty())
-            qunsetenv(name);
-        else
-            qputenv(name, value);
-    };
-    set("QT_QPA_PLATFORM", platform);
-    set("DISPLAY", display);
-    set("WAYLAND_DISPLAY", wayland);
-    const QString reason = KalStartup::missingDisplayReason();
-    set("QT_QPA_PLATFORM", oldPlatform);
-    set("DISPLAY", oldDisplay);
-    set("WAYLAND_DISPLAY", oldWayland);
-    QCOMPARE(!reason.isEmpty(), refused);
-}
-
-void TestMainWindow::scalingPercent_data()
-{
-    QTest::addColumn<qreal>("dpi");
-    QTest::addColumn<int>("percent");
-    QTest::newRow("96") << qreal(96) << 100;
-    QTest::newRow("100 is not scaled") << qreal(100) << 100;
-    QTest::newRow("120") << qreal(120) << 125;
-    QTest::newRow("144") << qreal(144) << 150;
-    QTest::newRow("192") << qreal(192) << 200;
-    QTest::newRow("72") << qreal(72) << 75;
-}
-
-void TestMainWindow::scalingPercent()
-{
-    QFETCH(qreal, dpi);
-    QFETCH(int, percent);
-    QCOMPARE(KalStartup::scalingPercent(dpi), percent);
-    QVERIFY(KalStartup::scalingNoticeText(percent).startsWith(
-        QStringLiteral("Sie verwenden eine Bildschirm-Skalierung von %1%. Dies kann es zu Problemen bei der "
-                       "Darstellung des Pellwicks führen.")
-            .arg(percent)));
 }
 
 void TestMainWindow::commandLineIsCarriedOut_data()

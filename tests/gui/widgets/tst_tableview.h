@@ -18,18 +18,13 @@ private slots:
 
     void deleteAsksPerTable_data();
     void deleteAsksPerTable();
-    void deleteRemovesEverySelectedRow();
-    void selectionKeptAcrossSubmit();
-    void selectionKeptAcrossSort();
     void selectionAndDeleteThroughProxy();
     void setModelDataMarksOnlyRealChanges_data();
     void setModelDataMarksOnlyRealChanges();
     void cellEditsAreWrittenUnlessTheOwnerDecides_data();
     void cellEditsAreWrittenUnlessTheOwnerDecides();
-    void invalidDateIsRefused();
     void invalidDateInGridWarnsOnce_data();
     void invalidDateInGridWarnsOnce();
-    void multiLineEditorWritesText();
     void editorsPerColumn_data();
     void editorsPerColumn();
     void columnWidthsPerTableAndFormat();
