@@ -1,5 +1,3 @@
-#include "tst_masterdata.h"
-
 #include "core/project/KalCompanyFormat.h"
 #include "core/project/KalPrivacyNotice.h"
 #include "core/project/KalProject.h"
@@ -9,6 +7,7 @@
 #include "gui/widgets/KalTableView.h"
 #include "support/KalDialogAnswer.h"
 #include "support/KalScriptedPrompt.h"
+#include "support/KalTestProject.h"
 #include "support/KalWidgetTestMain.h"
 
 #include <QCheckBox>
@@ -21,232 +20,241 @@
 #include <QToolButton>
 #include <QtTest>
 
-void TstMasterData::initTestCase()
+class TstMasterData : public QObject
 {
-    m_prompt = static_cast<KalScriptedPrompt *>(KalPrompt::instance());
-    QVERIFY(m_fx.open());
-}
+    Q_OBJECT
 
-void TstMasterData::cleanupTestCase()
-{
-    m_fx.close();
-}
+private:
+    KalTestProject m_fx;
+    KalScriptedPrompt *m_prompt = nullptr;
 
-void TstMasterData::init()
-{
-    m_prompt->clear();
-    QVERIFY(m_fx.exec("UPDATE kal SET projectname = 'Haus am See', headline_left = 'Haus am See', headline_center "
-                      "= '', headline_right = '', footer_right = 'www', project_data_modified = 0"));
-    QVERIFY(m_fx.exec("DELETE FROM company"));
-    QVERIFY(m_fx.reselect());
-}
-
-void TstMasterData::projectDataModified_data()
-{
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<int>("flag");
-
-    auto row = [](const char *name, const char *field, const char *text, int flag) {
-        QTest::newRow(name) << QString(field) << QString(text) << flag;
-    };
-    row("nothing changed", "", "", 0);
-    row("same text typed again", "leProjectName", "Haus am See", 0);
-    row("project name", "leProjectName", "Haus am Berg", 1);
-    row("project number", "leProjectNumber", "2026-17", 1);
-    row("footer right", "leFooterRight", "www.example.org", 1);
-    row("header centre", "leHeaderCenter", "Bauabschnitt 2", 1);
-}
-
-void TstMasterData::projectDataModified()
-{
-    QFETCH(QString, field);
-    QFETCH(QString, text);
-    QFETCH(int, flag);
-
-    m_fx.project()->setModified(false);
+private slots:
+    void initTestCase()
     {
-        KalMasterDataDialog dialog(m_fx.project());
-        if (!field.isEmpty())
-            dialog.findChild<QLineEdit *>(field)->setText(text);
-        kalPress(&dialog, QDialogButtonBox::Ok);
-        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        m_prompt = static_cast<KalScriptedPrompt *>(KalPrompt::instance());
+        QVERIFY(m_fx.open());
     }
-    QCOMPARE(m_fx.value("SELECT project_data_modified FROM kal").toInt(), flag);
-    QCOMPARE(m_fx.project()->isModified(), flag == 1);
-    if (field == QLatin1String("leProjectName"))
-        QCOMPARE(m_fx.value("SELECT projectname FROM kal").toString(), text);
-}
 
-void TstMasterData::cancelReverts()
-{
-    const qint64 existing = m_fx.addCompany("Alpha Bau", "Maurer");
-    QVERIFY(m_fx.reselect());
-    KalSqlTableModel *companies = m_fx.model(QStringLiteral("company"));
+    void cleanupTestCase() { m_fx.close(); }
+
+    void init()
     {
-        KalMasterDataDialog dialog(m_fx.project());
-        dialog.findChild<QLineEdit *>(QStringLiteral("leProjectName"))->setText(QStringLiteral("Anderes"));
-        dialog.companyView()->addButton()->click();
-        const int row = companies->findRowById(existing);
-        companies->setData(companies->index(row, companies->fieldIndex(QStringLiteral("company"))),
-                           QStringLiteral("Umbenannt"));
-        QCOMPARE(companies->rowCount(), 2);
-        kalPress(&dialog, QDialogButtonBox::Cancel);
-        QCOMPARE(dialog.result(), int(QDialog::Rejected));
+        m_prompt->clear();
+        QVERIFY(m_fx.exec("UPDATE kal SET projectname = 'Haus am See', headline_left = 'Haus am See', headline_center "
+                          "= '', headline_right = '', footer_right = 'www', project_data_modified = 0"));
+        QVERIFY(m_fx.exec("DELETE FROM company"));
+        QVERIFY(m_fx.reselect());
     }
-    QCOMPARE(companies->rowCount(), 1);
-    QCOMPARE(m_fx.count("company"), 1);
-    QCOMPARE(m_fx.value("SELECT company FROM company").toString(), QStringLiteral("Alpha Bau"));
-    QCOMPARE(m_fx.value("SELECT projectname FROM kal").toString(), QStringLiteral("Haus am See"));
-    QCOMPARE(m_fx.value("SELECT project_data_modified FROM kal").toInt(), 0);
-    // A second opening shows the stored texts again.
-    KalMasterDataDialog again(m_fx.project());
-    QCOMPARE(again.findChild<QLineEdit *>(QStringLiteral("leProjectName"))->text(), QStringLiteral("Haus am See"));
-}
 
-void TstMasterData::headerReminder_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("left");
-    QTest::addColumn<QString>("center");
-    QTest::addColumn<QString>("right");
-    QTest::addColumn<bool>("shown");
-
-    auto row = [](const char *name, const char *project, const char *left, const char *center, const char *right,
-                  bool shown) {
-        QTest::newRow(name) << QString(project) << QString(left) << QString(center) << QString(right) << shown;
-    };
-    row("name on the left", "Haus am See", "Haus am See", "", "", false);
-    row("name inside a longer text", "Haus am See", "BV Haus am See, 2. BA", "", "", false);
-    row("name in the centre", "Haus am See", "Bauherr", "Haus am See", "", false);
-    row("name on the right", "Haus am See", "", "", "haus am see", false);
-    row("name nowhere", "Haus am See", "Bauherr", "Los 3", "", true);
-    row("all empty", "Haus am See", "", "", "", true);
-    row("no project name", "", "Bauherr", "", "", false);
-}
-
-void TstMasterData::headerReminder()
-{
-    QFETCH(QString, name);
-    QFETCH(QString, left);
-    QFETCH(QString, center);
-    QFETCH(QString, right);
-    QFETCH(bool, shown);
-
-    KalMasterDataDialog dialog(m_fx.project());
-    dialog.findChild<QLineEdit *>(QStringLiteral("leProjectName"))->setText(name);
-    dialog.findChild<QLineEdit *>(QStringLiteral("leHeaderCenter"))->setText(center);
-    dialog.findChild<QLineEdit *>(QStringLiteral("leHeaderRight"))->setText(right);
-    auto *headerLeft = dialog.findChild<QLineEdit *>(QStringLiteral("leHeaderLeft"));
-    headerLeft->setText(left);
-    emit headerLeft->editingFinished();
-
-    QCOMPARE(m_prompt->hasTitle(QStringLiteral("Projektname")), shown);
-    if (shown) {
-        QCOMPARE(m_prompt->texts().value(0),
-                 QStringLiteral("Bitte denken Sie daran, den Projektnamen in der Kopfzeile zu platzieren "
-                                "(empfohlen)!"));
-        // Reminded once per dialog, not on every focus change.
-        emit headerLeft->editingFinished();
-        QCOMPARE(m_prompt->shown().size(), 1);
-    }
-    kalPress(&dialog, QDialogButtonBox::Cancel);
-}
-
-void TstMasterData::addCompany()
-{
-    const qint64 existing = m_fx.addCompany("Alpha Bau", "Maurer", {{"pos", 7}});
-    QVERIFY(m_fx.reselect());
-    const qint64 counter = m_fx.value("SELECT id_counter FROM id_generator WHERE id_table = 'company'").toLongLong();
-    QCOMPARE(counter, existing);
+    void projectDataModified_data()
     {
-        KalMasterDataDialog dialog(m_fx.project());
-        dialog.setCurrentPage(KalMasterDataDialog::CompanyPage);
-        dialog.companyView()->addButton()->click();
-        QCOMPARE(dialog.companyView()->selectedIds(), QList<qint64>{counter + 1});
-        // Not written before OK.
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("flag");
+
+        auto row = [](const char *name, const char *field, const char *text, int flag) {
+            QTest::newRow(name) << QString(field) << QString(text) << flag;
+        };
+        row("nothing changed", "", "", 0);
+        row("same text typed again", "leProjectName", "Haus am See", 0);
+        row("project name", "leProjectName", "Haus am Berg", 1);
+        row("project number", "leProjectNumber", "2026-17", 1);
+        row("footer right", "leFooterRight", "www.example.org", 1);
+        row("header centre", "leHeaderCenter", "Bauabschnitt 2", 1);
+    }
+
+    void projectDataModified()
+    {
+        QFETCH(QString, field);
+        QFETCH(QString, text);
+        QFETCH(int, flag);
+
+        m_fx.project()->setModified(false);
+        {
+            KalMasterDataDialog dialog(m_fx.project());
+            if (!field.isEmpty())
+                dialog.findChild<QLineEdit *>(field)->setText(text);
+            kalPress(&dialog, QDialogButtonBox::Ok);
+            QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        }
+        QCOMPARE(m_fx.value("SELECT project_data_modified FROM kal").toInt(), flag);
+        QCOMPARE(m_fx.project()->isModified(), flag == 1);
+        if (field == QLatin1String("leProjectName"))
+            QCOMPARE(m_fx.value("SELECT projectname FROM kal").toString(), text);
+    }
+
+    void cancelReverts()
+    {
+        const qint64 existing = m_fx.addCompany("Alpha Bau", "Maurer");
+        QVERIFY(m_fx.reselect());
+        KalSqlTableModel *companies = m_fx.model(QStringLiteral("company"));
+        {
+            KalMasterDataDialog dialog(m_fx.project());
+            dialog.findChild<QLineEdit *>(QStringLiteral("leProjectName"))->setText(QStringLiteral("Anderes"));
+            dialog.companyView()->addButton()->click();
+            const int row = companies->findRowById(existing);
+            companies->setData(companies->index(row, companies->fieldIndex(QStringLiteral("company"))),
+                               QStringLiteral("Umbenannt"));
+            QCOMPARE(companies->rowCount(), 2);
+            kalPress(&dialog, QDialogButtonBox::Cancel);
+            QCOMPARE(dialog.result(), int(QDialog::Rejected));
+        }
+        QCOMPARE(companies->rowCount(), 1);
         QCOMPARE(m_fx.count("company"), 1);
-        kalPress(&dialog, QDialogButtonBox::Ok);
+        QCOMPARE(m_fx.value("SELECT company FROM company").toString(), QStringLiteral("Alpha Bau"));
+        QCOMPARE(m_fx.value("SELECT projectname FROM kal").toString(), QStringLiteral("Haus am See"));
+        QCOMPARE(m_fx.value("SELECT project_data_modified FROM kal").toInt(), 0);
+        // A second opening shows the stored texts again.
+        KalMasterDataDialog again(m_fx.project());
+        QCOMPARE(again.findChild<QLineEdit *>(QStringLiteral("leProjectName"))->text(), QStringLiteral("Haus am See"));
     }
-    QSqlQuery q(m_fx.project()->database());
-    QVERIFY(q.exec(QStringLiteral("SELECT id, pos, modified, company, type, email FROM company ORDER BY pos")));
-    QVERIFY(q.next());
-    QCOMPARE(q.value(0).toLongLong(), existing);
-    QVERIFY(q.next());
-    QCOMPARE(q.value(0).toLongLong(), counter + 1);
-    QCOMPARE(q.value(1).toInt(), 8);
-    QCOMPARE(q.value(2).toInt(), 1);
-    QVERIFY(!q.value(3).isNull() && q.value(3).toString().isEmpty());
-    QVERIFY(!q.value(5).isNull());
-    QVERIFY(!q.next());
-}
 
-void TstMasterData::outputFormat()
-{
-    KalMasterDataDialog dialog(m_fx.project());
-    auto *field1 = dialog.findChild<QComboBox *>(QStringLiteral("cbxOutputField1"));
-    auto *field3 = dialog.findChild<QComboBox *>(QStringLiteral("cbxOutputField3"));
-    auto *brackets3 = dialog.findChild<QCheckBox *>(QStringLiteral("cbField3InBrackets"));
-    auto *example = dialog.findChild<QLabel *>(QStringLiteral("lblExample"));
-    QVERIFY(field1 && field3 && brackets3 && example);
+    void headerReminder_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("left");
+        QTest::addColumn<QString>("center");
+        QTest::addColumn<QString>("right");
+        QTest::addColumn<bool>("shown");
 
-    // Each change is stored at once and shown in the example.
-    field1->setCurrentIndex(KalCompanyFormat::LastName);
-    QCOMPARE(QSettings().value(QStringLiteral("MasterDataDialog/CompanyOutputFormats/FormatField1")).toInt(),
-             int(KalCompanyFormat::LastName));
-    QVERIFY(example->text().startsWith(QStringLiteral("Mustermann  Mustermann & Söhne")));
-    brackets3->setChecked(false);
-    field3->setCurrentIndex(KalCompanyFormat::City);
-    QCOMPARE(example->text(), QStringLiteral("Mustermann  Mustermann & Söhne  Musterstadt"));
+        auto row = [](const char *name, const char *project, const char *left, const char *center, const char *right,
+                      bool shown) {
+            QTest::newRow(name) << QString(project) << QString(left) << QString(center) << QString(right) << shown;
+        };
+        row("name on the left", "Haus am See", "Haus am See", "", "", false);
+        row("name inside a longer text", "Haus am See", "BV Haus am See, 2. BA", "", "", false);
+        row("name in the centre", "Haus am See", "Bauherr", "Haus am See", "", false);
+        row("name on the right", "Haus am See", "", "", "haus am see", false);
+        row("name nowhere", "Haus am See", "Bauherr", "Los 3", "", true);
+        row("all empty", "Haus am See", "", "", "", true);
+        row("no project name", "", "Bauherr", "", "", false);
+    }
 
-    // The defect grid's company texts follow the format.
-    const qint64 id = m_fx.addCompany("Beta Elektro", "Elektriker");
-    QVERIFY(m_fx.reselect());
-    KalSqlTableModel *companies = m_fx.model("company");
-    QCOMPARE(KalSqlTableModel::companyText(companies->record(companies->findRowById(id))),
-             QStringLiteral("Beta Elektro"));
+    void headerReminder()
+    {
+        QFETCH(QString, name);
+        QFETCH(QString, left);
+        QFETCH(QString, center);
+        QFETCH(QString, right);
+        QFETCH(bool, shown);
 
-    dialog.findChild<QPushButton *>("pbCompaniesOutputFormatDefaults")->click();
-    QCOMPARE(field1->currentIndex(), 0);
-    QVERIFY(brackets3->isChecked());
-    QCOMPARE(example->text(), QStringLiteral("Mustermann & Söhne  (Architekt)"));
-    QCOMPARE(KalSqlTableModel::companyText(companies->record(companies->findRowById(id))),
-             QStringLiteral("Beta Elektro  (Elektriker)"));
-    kalPress(&dialog, QDialogButtonBox::Cancel);
-}
+        KalMasterDataDialog dialog(m_fx.project());
+        dialog.findChild<QLineEdit *>(QStringLiteral("leProjectName"))->setText(name);
+        dialog.findChild<QLineEdit *>(QStringLiteral("leHeaderCenter"))->setText(center);
+        dialog.findChild<QLineEdit *>(QStringLiteral("leHeaderRight"))->setText(right);
+        auto *headerLeft = dialog.findChild<QLineEdit *>(QStringLiteral("leHeaderLeft"));
+        headerLeft->setText(left);
+        emit headerLeft->editingFinished();
 
-void TstMasterData::quickCompanyDialog()
-{
-    QSettings().remove(KalPrivacyNotice::settingsKey());
-    KalCompanyDialog dialog(m_fx.project());
-    dialog.show();
-    QTRY_VERIFY(m_prompt->hasTitle(QStringLiteral("Erfassung personenbezogener Daten")));
-    const QString notice =
-        m_prompt->texts().value(m_prompt->titles().indexOf(QStringLiteral("Erfassung personenbezogener Daten")));
-    QVERIFY(notice.contains(QStringLiteral("Wenn Sie hier personenbezogene Daten (gem. Art. 4 DSGVO) erfassen und "
-                                           "Berichte mit diesen Daten veröffentlichen,")));
-    dialog.findChild<QLineEdit *>(QStringLiteral("leType"))->setText(QStringLiteral("Dachdecker"));
-    dialog.findChild<QLineEdit *>(QStringLiteral("leCompany"))->setText(QStringLiteral("Ziegel KG"));
-    kalPress(&dialog, QDialogButtonBox::Ok);
-    QVERIFY(dialog.companyId() > 0);
-    QSqlQuery q(m_fx.project()->database());
-    q.prepare(QStringLiteral("SELECT type, company, firstname, street, pos FROM company WHERE id = :id"));
-    q.bindValue(QStringLiteral(":id"), dialog.companyId());
-    QVERIFY(q.exec() && q.next());
-    QCOMPARE(q.value(0).toString(), QStringLiteral("Dachdecker"));
-    QCOMPARE(q.value(1).toString(), QStringLiteral("Ziegel KG"));
-    QVERIFY(!q.value(2).isNull() && !q.value(3).isNull());
-    QCOMPARE(q.value(4).toInt(), 1);
+        QCOMPARE(m_prompt->hasTitle(QStringLiteral("Projektname")), shown);
+        if (shown) {
+            QCOMPARE(m_prompt->texts().value(0),
+                     QStringLiteral("Bitte denken Sie daran, den Projektnamen in der Kopfzeile zu platzieren "
+                                    "(empfohlen)!"));
+            // Reminded once per dialog, not on every focus change.
+            emit headerLeft->editingFinished();
+            QCOMPARE(m_prompt->shown().size(), 1);
+        }
+        kalPress(&dialog, QDialogButtonBox::Cancel);
+    }
 
-    // With "don't show again" set the notice stays away.
-    QSettings().setValue(KalPrivacyNotice::settingsKey(), true);
-    m_prompt->clear();
-    KalCompanyDialog second(m_fx.project());
-    second.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&second));
-    QCoreApplication::processEvents();
-    QVERIFY(!m_prompt->hasTitle(QStringLiteral("Erfassung personenbezogener Daten")));
-    kalPress(&second, QDialogButtonBox::Cancel);
-}
+    void addCompany()
+    {
+        const qint64 existing = m_fx.addCompany("Alpha Bau", "Maurer", {{"pos", 7}});
+        QVERIFY(m_fx.reselect());
+        const qint64 counter =
+            m_fx.value("SELECT id_counter FROM id_generator WHERE id_table = 'company'").toLongLong();
+        QCOMPARE(counter, existing);
+        {
+            KalMasterDataDialog dialog(m_fx.project());
+            dialog.setCurrentPage(KalMasterDataDialog::CompanyPage);
+            dialog.companyView()->addButton()->click();
+            QCOMPARE(dialog.companyView()->selectedIds(), QList<qint64>{counter + 1});
+            // Not written before OK.
+            QCOMPARE(m_fx.count("company"), 1);
+            kalPress(&dialog, QDialogButtonBox::Ok);
+        }
+        QSqlQuery q(m_fx.project()->database());
+        QVERIFY(q.exec(QStringLiteral("SELECT id, pos, modified, company, type, email FROM company ORDER BY pos")));
+        QVERIFY(q.next());
+        QCOMPARE(q.value(0).toLongLong(), existing);
+        QVERIFY(q.next());
+        QCOMPARE(q.value(0).toLongLong(), counter + 1);
+        QCOMPARE(q.value(1).toInt(), 8);
+        QCOMPARE(q.value(2).toInt(), 1);
+        QVERIFY(!q.value(3).isNull() && q.value(3).toString().isEmpty());
+        QVERIFY(!q.value(5).isNull());
+        QVERIFY(!q.next());
+    }
+
+    void outputFormat()
+    {
+        KalMasterDataDialog dialog(m_fx.project());
+        auto *field1 = dialog.findChild<QComboBox *>(QStringLiteral("cbxOutputField1"));
+        auto *field3 = dialog.findChild<QComboBox *>(QStringLiteral("cbxOutputField3"));
+        auto *brackets3 = dialog.findChild<QCheckBox *>(QStringLiteral("cbField3InBrackets"));
+        auto *example = dialog.findChild<QLabel *>(QStringLiteral("lblExample"));
+        QVERIFY(field1 && field3 && brackets3 && example);
+
+        // Each change is stored at once and shown in the example.
+        field1->setCurrentIndex(KalCompanyFormat::LastName);
+        QCOMPARE(QSettings().value(QStringLiteral("MasterDataDialog/CompanyOutputFormats/FormatField1")).toInt(),
+                 int(KalCompanyFormat::LastName));
+        QVERIFY(example->text().startsWith(QStringLiteral("Mustermann  Mustermann & Söhne")));
+        brackets3->setChecked(false);
+        field3->setCurrentIndex(KalCompanyFormat::City);
+        QCOMPARE(example->text(), QStringLiteral("Mustermann  Mustermann & Söhne  Musterstadt"));
+
+        // The defect grid's company texts follow the format.
+        const qint64 id = m_fx.addCompany("Beta Elektro", "Elektriker");
+        QVERIFY(m_fx.reselect());
+        KalSqlTableModel *companies = m_fx.model("company");
+        QCOMPARE(KalSqlTableModel::companyText(companies->record(companies->findRowById(id))),
+                 QStringLiteral("Beta Elektro"));
+
+        dialog.findChild<QPushButton *>("pbCompaniesOutputFormatDefaults")->click();
+        QCOMPARE(field1->currentIndex(), 0);
+        QVERIFY(brackets3->isChecked());
+        QCOMPARE(example->text(), QStringLiteral("Mustermann & Söhne  (Architekt)"));
+        QCOMPARE(KalSqlTableModel::companyText(companies->record(companies->findRowById(id))),
+                 QStringLiteral("Beta Elektro  (Elektriker)"));
+        kalPress(&dialog, QDialogButtonBox::Cancel);
+    }
+
+    void quickCompanyDialog()
+    {
+        QSettings().remove(KalPrivacyNotice::settingsKey());
+        KalCompanyDialog dialog(m_fx.project());
+        dialog.show();
+        QTRY_VERIFY(m_prompt->hasTitle(QStringLiteral("Erfassung personenbezogener Daten")));
+        const QString notice =
+            m_prompt->texts().value(m_prompt->titles().indexOf(QStringLiteral("Erfassung personenbezogener Daten")));
+        QVERIFY(notice.contains(QStringLiteral("Wenn Sie hier personenbezogene Daten (gem. Art. 4 DSGVO) erfassen und "
+                                               "Berichte mit diesen Daten veröffentlichen,")));
+        dialog.findChild<QLineEdit *>(QStringLiteral("leType"))->setText(QStringLiteral("Dachdecker"));
+        dialog.findChild<QLineEdit *>(QStringLiteral("leCompany"))->setText(QStringLiteral("Ziegel KG"));
+        kalPress(&dialog, QDialogButtonBox::Ok);
+        QVERIFY(dialog.companyId() > 0);
+        QSqlQuery q(m_fx.project()->database());
+        q.prepare(QStringLiteral("SELECT type, company, firstname, street, pos FROM company WHERE id = :id"));
+        q.bindValue(QStringLiteral(":id"), dialog.companyId());
+        QVERIFY(q.exec() && q.next());
+        QCOMPARE(q.value(0).toString(), QStringLiteral("Dachdecker"));
+        QCOMPARE(q.value(1).toString(), QStringLiteral("Ziegel KG"));
+        QVERIFY(!q.value(2).isNull() && !q.value(3).isNull());
+        QCOMPARE(q.value(4).toInt(), 1);
+
+        // With "don't show again" set the notice stays away.
+        QSettings().setValue(KalPrivacyNotice::settingsKey(), true);
+        m_prompt->clear();
+        KalCompanyDialog second(m_fx.project());
+        second.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&second));
+        QCoreApplication::processEvents();
+        QVERIFY(!m_prompt->hasTitle(QStringLiteral("Erfassung personenbezogener Daten")));
+        kalPress(&second, QDialogButtonBox::Cancel);
+    }
+};
 
 KAL_WIDGET_TEST_MAIN(TstMasterData)
+#include "tst_masterdata.moc"
