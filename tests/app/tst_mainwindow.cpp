@@ -29,6 +29,7 @@
 #include <QSqlRecord>
 #include <QTemporaryDir>
 #include <QToolBar>
+#include <QToolButton>
 #include <QtTest>
 
 #include <memory>
@@ -70,14 +71,17 @@ private slots:
     void compactSavesModifiedProjectFirst();
     void languageDialog_data();
     void languageDialog();
-    void restartWritesAndConsumesReopenKey();
     void quitIsRefusedOnCancel();
     void menusShortcutsAndToolBar();
     void commandLineIsCarriedOut_data();
     void commandLineIsCarriedOut();
+    // Last: a restart ends the application's event loop, and no modal dialog
+    // runs after it.
+    void restartWritesAndConsumesReopenKey();
 
 private:
     QString path(const QString &name) const { return m_dir->filePath(name); }
+    void addDefect();
     void makeModified();
     qint64 insertDefect(const QMap<QString, QVariant> &values);
     QStringList visibleFields() const;
@@ -120,9 +124,19 @@ void TestMainWindow::cleanup()
     m_dir.reset();
 }
 
+// "Mangel hinzufügen" as the user does it: the editor of the new defect
+// opens and is closed with OK.
+void TestMainWindow::addDefect()
+{
+    KalDialogAnswer<QDialog> editor([](QDialog *dialog) { kalPress(dialog, QDialogButtonBox::Ok); });
+    m_window->findChild<QAction *>("actionAddDefect")->trigger();
+    QVERIFY(editor.seen());
+}
+
 void TestMainWindow::makeModified()
 {
-    QVERIFY(m_window->addDefect() > 0);
+    addDefect();
+    QCOMPARE(m_window->defectModel()->rowCount(), 1);
     QVERIFY(m_window->project()->isModified());
     m_prompt->clear();
 }
@@ -423,13 +437,13 @@ void TestMainWindow::formatWidthsAreRemembered()
 
 void TestMainWindow::addDefectSelectsNewRow()
 {
-    const qint64 first = m_window->addDefect();
-    const qint64 second = m_window->addDefect();
-    QVERIFY(first > 0 && second > first);
+    addDefect();
+    addDefect();
     KalSqlTableModel *model = m_window->defectModel();
     QCOMPARE(model->rowCount(), 2);
-    QCOMPARE(m_window->selectedDefectIds(), QList<qint64>{second});
-    const QSqlRecord rec = model->record(model->findRowById(second));
+    const QList<qint64> selected = m_window->selectedDefectIds();
+    QCOMPARE(selected.size(), 1);
+    const QSqlRecord rec = model->record(model->findRowById(selected.first()));
     QCOMPARE(rec.value("number").toString(), QStringLiteral("0002"));
     QCOMPARE(rec.value("priority").toString(), QStringLiteral("Normal"));
     QCOMPARE(rec.value("plan_info_id").toInt(), -1);
@@ -465,9 +479,11 @@ void TestMainWindow::copyTakesOnlyTheListedFields()
     const qint64 sourceId = insertDefect(source);
     QVERIFY(sourceId > 0);
 
-    const QList<qint64> copies = m_window->copyDefects({sourceId});
+    m_window->selectDefects({sourceId});
+    m_window->defectTable()->copyButton()->click();
+    const QList<qint64> copies = m_window->selectedDefectIds();
     QCOMPARE(copies.size(), 1);
-    QCOMPARE(m_window->selectedDefectIds(), copies);
+    QVERIFY(copies.first() != sourceId);
 
     QSqlQuery q(m_window->project()->database());
     QVERIFY(q.prepare("SELECT * FROM defect WHERE id = :id"));
@@ -544,7 +560,7 @@ void TestMainWindow::selectionSurvivesSortAndSubmit()
 
 void TestMainWindow::planPanelShowsHintForDefectWithoutPlan()
 {
-    m_window->addDefect();
+    addDefect();
     auto *view = m_window->findChild<QGraphicsView *>(QStringLiteral("gvPlan"));
     QVERIFY(view);
     QStringList texts;
@@ -743,7 +759,7 @@ void TestMainWindow::compactSavesModifiedProjectFirst()
     KalFileDialog::queueChoice(path("c.pwp"));
     QCOMPARE(m_window->maybeSave(true, true), 0);
     for (int i = 0; i < 20; ++i)
-        m_window->addDefect();
+        addDefect();
     QVERIFY(m_window->project()->isModified());
     m_prompt->clear();
     m_prompt->queueAnswer(QStringLiteral("Datenbank bereinigen"));
