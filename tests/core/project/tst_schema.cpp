@@ -59,8 +59,6 @@ private slots:
         QCOMPARE(scalar(db, "SELECT COUNT(*) FROM status").toInt(), 8);
         QCOMPARE(scalar(db, "SELECT MIN(id) || '-' || MAX(id) FROM status").toString(), QStringLiteral("1-8"));
         QCOMPARE(scalar(db, "SELECT id_counter FROM id_generator WHERE id_table='status'").toInt(), 8);
-        QCOMPARE(scalar(db, "SELECT reduction_option FROM status WHERE id=6").toInt(), 1);
-        QCOMPARE(scalar(db, "SELECT color FROM status WHERE id=5").toString(), QStringLiteral("#88ff00"));
         QCOMPARE(scalar(db, "SELECT COUNT(*) FROM kal").toInt(), 1);
         QCOMPARE(scalar(db, "SELECT projectname FROM kal").toString(), QStringLiteral("Neues Projekt"));
         QCOMPARE(scalar(db, "SELECT logo_align FROM kal").toInt(), 2);
