@@ -31,18 +31,6 @@ private:
 
     static QVariantMap defect(const QString &description) { return {{QStringLiteral("description"), description}}; }
 
-    // Opens, adds a defect, saves in place, closes: one "save after a fresh opening".
-    bool openAddSave(const QString &file, const QString &description)
-    {
-        KalProject project;
-        if (!project.openProject(file))
-            return false;
-        if (project.insertDefect(defect(description)) < 0)
-            return false;
-        const int result = project.saveProject();
-        return project.closeProject() && result == KalProject::Saved;
-    }
-
 private slots:
     void initTestCase()
     {
@@ -178,56 +166,44 @@ private slots:
         QCOMPARE(KalProject::backupFileName("/x/p.pwp", slot), name);
     }
 
-    void backupChainRotatesOncePerOpening()
+    // Backups move down the chain once per opening; further saves in the
+    // same opening only replace the newest.
+    void backups_data()
     {
-        QSettings().setValue("File/NumberOfBackups", 3);
+        QTest::addColumn<int>("kept");           // the "File/NumberOfBackups" setting
+        QTest::addColumn<QString>("openings");   // saves per opening, one digit each
+        QTest::addColumn<QList<int>>("defects"); // in the file, .bak, .01.bak, ...; -1: no such file
+        QTest::newRow("one backup per opening") << 3 << "111" << QList<int>{3, 2, 1, 0, -1};
+        QTest::newRow("the oldest goes first") << 3 << "1111" << QList<int>{4, 3, 2, 1, -1};
+        QTest::newRow("a second save replaces the newest") << 3 << "12" << QList<int>{3, 2, 0, -1};
+        QTest::newRow("switched off") << 0 << "1" << QList<int>{1, -1};
+    }
+
+    void backups()
+    {
+        QFETCH(int, kept);
+        QFETCH(QString, openings);
+        QFETCH(QList<int>, defects);
+        QSettings().setValue("File/NumberOfBackups", kept);
         const QString file = path("p.pwp");
         QVERIFY(createProject(file, 0));
-        for (int i = 1; i <= 3; ++i)
-            QVERIFY(openAddSave(file, QStringLiteral("save %1").arg(i)));
-        // Newest backup holds the state before the last save.
-        QCOMPARE(countRows(file, "defect"), 3);
-        QCOMPARE(countRows(file + ".bak", "defect"), 2);
-        QCOMPARE(countRows(file + ".01.bak", "defect"), 1);
-        QCOMPARE(countRows(file + ".02.bak", "defect"), 0);
-        QVERIFY(!QFileInfo::exists(file + ".03.bak"));
-
-        QVERIFY(openAddSave(file, "save 4"));
-        QCOMPARE(countRows(file + ".bak", "defect"), 3);
-        QCOMPARE(countRows(file + ".01.bak", "defect"), 2);
-        QCOMPARE(countRows(file + ".02.bak", "defect"), 1); // the oldest went first
-        QVERIFY(!QFileInfo::exists(file + ".03.bak"));
+        for (const QChar saves : openings) {
+            KalProject project;
+            QVERIFY(project.openProject(file));
+            for (int i = 0; i < saves.digitValue(); ++i) {
+                QVERIFY(project.insertDefect(defect("neu")) > 0);
+                QCOMPARE(project.saveProject(), int(KalProject::Saved));
+            }
+            QVERIFY(project.closeProject());
+        }
+        for (int slot = -1; slot + 1 < defects.size(); ++slot) {
+            const QString name = slot < 0 ? file : KalProject::backupFileName(file, slot);
+            if (defects.at(slot + 1) < 0)
+                QVERIFY2(!QFileInfo::exists(name), qPrintable(name));
+            else
+                QCOMPARE(countRows(name, "defect"), defects.at(slot + 1));
+        }
         QVERIFY(m_prompt->shown().isEmpty());
-    }
-
-    void secondSaveReplacesOnlyNewestBackup()
-    {
-        QSettings().setValue("File/NumberOfBackups", 3);
-        const QString file = path("p.pwp");
-        QVERIFY(createProject(file, 0));
-        QVERIFY(openAddSave(file, "a"));
-        KalProject project;
-        QVERIFY(project.openProject(file));
-        project.insertDefect(defect("b"));
-        QCOMPARE(project.saveProject(), int(KalProject::Saved));
-        project.insertDefect(defect("c"));
-        QCOMPARE(project.saveProject(), int(KalProject::Saved));
-        QCOMPARE(countRows(file, "defect"), 3);
-        // The first save pushed the chain, the second only replaced the newest.
-        QCOMPARE(countRows(file + ".bak", "defect"), 2);
-        QCOMPARE(countRows(file + ".01.bak", "defect"), 0);
-        QVERIFY(!QFileInfo::exists(file + ".02.bak"));
-        QVERIFY(project.closeProject());
-    }
-
-    void noBackupsWhenSwitchedOff()
-    {
-        QSettings().setValue("File/NumberOfBackups", 0);
-        const QString file = path("p.pwp");
-        QVERIFY(createProject(file, 0));
-        QVERIFY(openAddSave(file, "a"));
-        QCOMPARE(countRows(file, "defect"), 1);
-        QVERIFY(!QFileInfo::exists(file + ".bak"));
     }
 
     void restoreNaming_data()
