@@ -1,10 +1,10 @@
 // Company imports: address files as people have them, other project files,
 // site journals, and appending to the open project.
-#include "CompanyTestData.h"
 #include "core/import/KalAddressFile.h"
 #include "core/import/KalCompanyImport.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
+#include "support/KalCompanyTestData.h"
 #include "support/KalTestFiles.h"
 #include "support/KalTestSettings.h"
 

@@ -1,16 +1,15 @@
-// The defect list as CSV: in the program and through pellwick-cli.
-#include "CompanyTestData.h"
+// The defect list as CSV: layout, cells, quoting and order, the same from
+// the grid's model and from the file.
 #include "core/project/KalCompanyFormat.h"
 #include "core/project/KalDefectCsv.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
+#include "support/KalCompanyTestData.h"
 #include "support/KalTestFiles.h"
 #include "support/KalTestSettings.h"
 
 #include <QDir>
 #include <QFile>
-#include <QProcess>
-#include <QSettings>
 #include <QSqlDatabase>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -18,24 +17,6 @@
 using namespace CompanyTestData;
 
 namespace {
-
-struct Run
-{
-    int code = -1;
-    QByteArray out;
-    QString err;
-};
-
-Run cli(const QStringList &args)
-{
-    QProcess p;
-    p.start(KalTestSettings::binDir() + "/pellwick-cli", args);
-    p.closeWriteChannel();
-    if (!p.waitForFinished(60000))
-        return Run{};
-    return Run{p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -2, p.readAllStandardOutput(),
-               QString::fromUtf8(p.readAllStandardError())};
-}
 
 QByteArray readAll(const QString &path)
 {
@@ -267,123 +248,6 @@ private slots:
         QCOMPARE(KalTestFiles::folderState(m_dir.path()), before);
         QVERIFY(KalDefectCsv::writeFile(target, "neu", &error));
         QCOMPARE(readAll(target), QByteArray("neu"));
-    }
-
-    // --- pellwick-cli export-defects -----------------------------------------
-
-    void cliUsage_data()
-    {
-        QTest::addColumn<QStringList>("args");
-        QTest::addColumn<int>("code");
-        QTest::newRow("no file") << QStringList{"export-defects"} << 2;
-        QTest::newRow("option instead of file") << QStringList{"export-defects", "--output", "x.csv"} << 2;
-        QTest::newRow("unknown columns") << QStringList{"export-defects", "%p", "--columns", "wide"} << 2;
-        QTest::newRow("output without value") << QStringList{"export-defects", "%p", "--output"} << 2;
-        QTest::newRow("unknown option") << QStringList{"export-defects", "%p", "--json"} << 2;
-        QTest::newRow("missing file") << QStringList{"export-defects", "/nirgends/x.pwp"} << 1;
-        QTest::newRow("not a project") << QStringList{"export-defects", "%junk"} << 1;
-        QTest::newRow("output into the project") << QStringList{"export-defects", "%p", "--output", "%p"} << 1;
-        QTest::newRow("output folder missing")
-            << QStringList{"export-defects", "%p", "--output", "%d/fehlt/x.csv"} << 1;
-    }
-
-    void cliUsage()
-    {
-        QFETCH(QStringList, args);
-        QFETCH(int, code);
-        QTemporaryDir dir;
-        const QString project = dir.filePath("p.pwp");
-        QVERIFY(QFile::copy(m_project, project));
-        {
-            QFile junk(dir.filePath("junk.pwp"));
-            QVERIFY(junk.open(QIODevice::WriteOnly));
-            junk.write(QByteArray(3000, '\x07') + "keine Datenbank");
-        }
-        for (QString &arg : args) {
-            arg.replace("%p", project);
-            arg.replace("%junk", dir.filePath("junk.pwp"));
-            arg.replace("%d", dir.path());
-        }
-        const QByteArray hash = KalTestFiles::fileHash(project);
-        const QStringList before = KalTestFiles::folderState(dir.path());
-        const Run run = cli(args);
-        QCOMPARE(run.code, code);
-        QVERIFY(!run.err.isEmpty());
-        QVERIFY(run.out.isEmpty());
-        QCOMPARE(KalTestFiles::folderState(dir.path()), before);
-        QCOMPARE(KalTestFiles::fileHash(project), hash);
-    }
-
-    void cliExport_data()
-    {
-        QTest::addColumn<QStringList>("options");
-        QTest::addColumn<KalDefectCsv::Columns>("columns");
-        QTest::newRow("default is compact") << QStringList() << KalDefectCsv::Compact;
-        QTest::newRow("compact") << QStringList{"--columns", "compact"} << KalDefectCsv::Compact;
-        QTest::newRow("all") << QStringList{"--columns", "all"} << KalDefectCsv::All;
-    }
-
-    void cliExport()
-    {
-        QFETCH(QStringList, options);
-        QFETCH(KalDefectCsv::Columns, columns);
-        QTemporaryDir dir;
-        const QString project = dir.filePath("p.pwp");
-        QVERIFY(QFile::copy(m_project, project));
-        const QByteArray hash = KalTestFiles::fileHash(project);
-        const QStringList before = KalTestFiles::folderState(dir.path());
-
-        const Run toStdout = cli(QStringList{"export-defects", project} + options);
-        QCOMPARE(toStdout.code, 0);
-        // Read-only: no working copy, no user file, no byte changed.
-        QCOMPARE(KalTestFiles::folderState(dir.path()), before);
-        QCOMPARE(KalTestFiles::fileHash(project), hash);
-
-        const QString output = dir.filePath("liste.csv");
-        const Run toFile = cli(QStringList{"export-defects", project, "--output", output} + options);
-        QCOMPARE(toFile.code, 0);
-        QVERIFY(toFile.out.isEmpty());
-        QCOMPARE(readAll(output), toStdout.out);
-        QCOMPARE(KalTestFiles::fileHash(project), hash);
-
-        QCOMPARE(toStdout.out, exportFromFile(columns, KalCompanyFormat::factoryDefaults()));
-    }
-
-    void cliFollowsSettings_data()
-    {
-        QTest::addColumn<int>("language");
-        QTest::addColumn<int>("country");
-        QTest::addColumn<QString>("deadline");
-        QTest::newRow("German") << int(QLocale::German) << int(QLocale::Germany) << "05.03.2024";
-        QTest::newRow("English (US)") << int(QLocale::English) << int(QLocale::UnitedStates) << "03/05/2024";
-    }
-
-    // Dates in the program's notation and companies in the user's format.
-    void cliFollowsSettings()
-    {
-        QFETCH(int, language);
-        QFETCH(int, country);
-        QFETCH(QString, deadline);
-        QSettings settings;
-        settings.setValue("Language", language);
-        settings.setValue("Country", country);
-        KalCompanyFormat format;
-        format.field1 = KalCompanyFormat::Empty;
-        format.field2 = KalCompanyFormat::Type;
-        format.field3 = KalCompanyFormat::Empty;
-        format.field2InBrackets = true;
-        format.save();
-        settings.sync();
-        const Run run = cli({"export-defects", m_project});
-        settings.clear();
-        settings.sync();
-        QCOMPARE(run.code, 0);
-        const QList<QStringList> rows = parseCsv(run.out);
-        QCOMPARE(rows.size(), 5);
-        const QStringList ten = rows.at(3);
-        QCOMPARE(ten.first(), QStringLiteral("10"));
-        QCOMPARE(ten.at(rows.first().indexOf("Frist")), deadline);
-        QCOMPARE(ten.at(rows.first().indexOf("Firma")), QStringLiteral("(Maler"));
     }
 };
 

@@ -1,4 +1,4 @@
-#include "CompanyTestData.h"
+#include "KalCompanyTestData.h"
 
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
