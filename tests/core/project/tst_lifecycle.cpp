@@ -276,13 +276,22 @@ private slots:
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("textStart");
-        QTest::newRow("zero bytes") << QByteArray() << "Datenbankfehler"
-                                    << "Tabelle KAL fehlt";
-        QTest::newRow("random bytes") << QByteArray("\x13\x37 definitely not sqlite \xff\xfe", 28).repeated(500)
-                                      << "Beschädigte Datenbank-Datei"
-                                      << "Die interne Struktur der Mängel-Datenbank ist beschädigt.";
-        QTest::newRow("text file") << QByteArray("Mangel;Firma\n1;Maler\n") << "Beschädigte Datenbank-Datei"
-                                   << "Die interne Struktur der Mängel-Datenbank ist beschädigt.";
+        const QString damaged = "Die interne Struktur der Mängel-Datenbank ist beschädigt.";
+        auto row = [](const char *name, const QByteArray &content, const char *title, const QString &text) {
+            QTest::newRow(name) << content << QString(title) << text;
+        };
+        // Another program's SQLite file: a database, but not a project.
+        QTemporaryDir dir;
+        const QString other = dir.filePath("fremd.db");
+        QVERIFY(execute(other, {"CREATE TABLE meta (key TEXT PRIMARY KEY, value TEXT NOT NULL)",
+                                "CREATE TABLE rechnung (id INTEGER PRIMARY KEY, betrag REAL)"}));
+        QFile file(other);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        row("zero bytes", QByteArray(), "Datenbankfehler", "Tabelle KAL fehlt");
+        row("other SQLite file", file.readAll(), "Datenbankfehler", "Tabelle KAL fehlt");
+        row("random bytes", QByteArray("\x13\x37 definitely not sqlite \xff\xfe", 28).repeated(500),
+            "Beschädigte Datenbank-Datei", damaged);
+        row("text file", "Mangel;Firma\n1;Maler\n", "Beschädigte Datenbank-Datei", damaged);
     }
 
     void hostileFiles()
@@ -304,19 +313,6 @@ private slots:
         QVERIFY2(m_prompt->shown().first().text.startsWith(textStart), qPrintable(m_prompt->shown().first().text));
         QCOMPARE(folderState(m_dir->path()), before);
         QVERIFY(!project.isOpen());
-    }
-
-    void sqliteFileWithoutProjectTable()
-    {
-        const QString file = path("fremd.pwp");
-        QVERIFY(execute(file, {"CREATE TABLE meta (key TEXT PRIMARY KEY, value TEXT NOT NULL)",
-                               "CREATE TABLE rechnung (id INTEGER PRIMARY KEY, betrag REAL)"}));
-        const QStringList before = folderState(m_dir->path());
-        KalProject project;
-        QVERIFY(!project.openProject(file));
-        QCOMPARE(m_prompt->titles(), QStringList{"Datenbankfehler"});
-        QCOMPARE(m_prompt->texts(), QStringList{"Tabelle KAL fehlt"});
-        QCOMPARE(folderState(m_dir->path()), before);
     }
 
     void damagedFile_data()
