@@ -23,6 +23,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSettings>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -779,53 +780,57 @@ void TestMainWindow::compactSavesModifiedProjectFirst()
 
 void TestMainWindow::languageDialog_data()
 {
-    QTest::addColumn<int>("storedLanguage");
-    QTest::addColumn<int>("storedCountry");
-    QTest::addColumn<int>("preset");
-    QTest::addColumn<int>("choose");
-    QTest::addColumn<QString>("answer");
-    QTest::addColumn<bool>("asked");
+    QTest::addColumn<QLocale>("stored");
+    QTest::addColumn<QString>("preset"); // the radio button checked on opening
+    QTest::addColumn<QString>("choose");
+    QTest::addColumn<QString>("answer"); // to the restart question, empty: none expected
     QTest::addColumn<bool>("restart");
+    QTest::addColumn<QLocale>("after"); // what lands in the settings
 
-    using L = KalLanguageDialog;
-    auto row = [](const char *name, int language, int country, L::Button preset, L::Button choose, const char *answer,
-                  bool asked, bool restart) {
-        QTest::newRow(name) << language << country << int(preset) << int(choose) << QString(answer) << asked << restart;
+    const QLocale de(QLocale::German, QLocale::Germany);
+    const QLocale es(QLocale::Spanish, QLocale::Spain);
+    const QLocale us(QLocale::English, QLocale::UnitedStates);
+    const QString now = "Jetzt neu starten";
+    const QString later = "Später neu starten";
+    auto row = [](const char *name, const QLocale &stored, const char *preset, const char *choose,
+                  const QString &answer, bool restart, const QLocale &after) {
+        QTest::newRow(name) << stored << QString(preset) << QString(choose) << answer << restart << after;
     };
-    row("German to English USA, now", 42, 82, L::German, L::EnglishUsa, "Jetzt neu starten", true, true);
-    row("German to Spanish, later", 42, 82, L::German, L::Spanish, "Später neu starten", true, false);
+    row("German to English USA, now", de, "rbGerman", "rbEnglishUsa", now, true, us);
+    row("German to Spanish, later", de, "rbGerman", "rbSpanish", later, false, es);
     // German for Austria is checked as German; confirming it moves to Germany.
-    row("Austria counts as German", 42, 16, L::German, L::German, "Später neu starten", true, false);
-    row("unchanged asks nothing", 42, 82, L::German, L::German, "", false, false);
-    row("UK to USA asks", 31, 224, L::English, L::EnglishUsa, "Später neu starten", true, false);
-    row("USA preset", 31, 225, L::EnglishUsa, L::EnglishUsa, "", false, false);
-    row("French runs in German", 37, 74, L::German, L::German, "Später neu starten", true, false);
-    row("Mexico counts as Spanish", 111, 139, L::Spanish, L::German, "Später neu starten", true, false);
+    row("Austria counts as German", QLocale(QLocale::German, QLocale::Austria), "rbGerman", "rbGerman", later, false,
+        de);
+    row("unchanged asks nothing", de, "rbGerman", "rbGerman", "", false, de);
+    row("UK to USA asks", QLocale(QLocale::English, QLocale::UnitedKingdom), "rbEnglish", "rbEnglishUsa", later, false,
+        us);
+    row("USA preset", us, "rbEnglishUsa", "rbEnglishUsa", "", false, us);
+    row("French runs in German", QLocale(QLocale::French, QLocale::France), "rbGerman", "rbGerman", later, false, de);
+    row("Mexico counts as Spanish", QLocale(QLocale::Spanish, QLocale::Mexico), "rbSpanish", "rbGerman", later, false,
+        de);
 }
 
 void TestMainWindow::languageDialog()
 {
-    QFETCH(int, storedLanguage);
-    QFETCH(int, storedCountry);
-    QFETCH(int, preset);
-    QFETCH(int, choose);
+    QFETCH(QLocale, stored);
+    QFETCH(QString, preset);
+    QFETCH(QString, choose);
     QFETCH(QString, answer);
-    QFETCH(bool, asked);
     QFETCH(bool, restart);
+    QFETCH(QLocale, after);
 
-    QSettings().setValue("Language", storedLanguage);
-    QSettings().setValue("Country", storedCountry);
+    QSettings().setValue("Language", int(stored.language()));
+    QSettings().setValue("Country", int(stored.country()));
     KalLanguageDialog dialog(true);
-    QCOMPARE(int(dialog.checkedButton()), preset);
-    dialog.setCheckedButton(KalLanguageDialog::Button(choose));
+    QVERIFY(dialog.findChild<QRadioButton *>(preset)->isChecked());
+    dialog.findChild<QRadioButton *>(choose)->click();
     if (!answer.isEmpty())
         m_prompt->queueAnswer(answer);
-    dialog.accept();
+    kalPress(&dialog, QDialogButtonBox::Ok);
 
-    const KalLanguageDialog::Choice expected = KalLanguageDialog::choiceOf(KalLanguageDialog::Button(choose));
-    QCOMPARE(QSettings().value("Language").toInt(), expected.language);
-    QCOMPARE(QSettings().value("Country").toInt(), expected.country);
-    QCOMPARE(m_prompt->hasTitle(QStringLiteral("Sprache wurde geändert")), asked);
+    QCOMPARE(QSettings().value("Language").toInt(), int(after.language()));
+    QCOMPARE(QSettings().value("Country").toInt(), int(after.country()));
+    QCOMPARE(m_prompt->hasTitle(QStringLiteral("Sprache wurde geändert")), !answer.isEmpty());
     QCOMPARE(dialog.restartRequested(), restart);
 }
 
