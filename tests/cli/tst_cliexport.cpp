@@ -2,6 +2,7 @@
 // stdout or a file, and the user's date notation and company format.
 #include "core/project/KalCompanyFormat.h"
 #include "core/project/KalDefectCsv.h"
+#include "support/KalCliRun.h"
 #include "support/KalCompanyTestData.h"
 #include "support/KalTestFiles.h"
 #include "support/KalTestSettings.h"
@@ -16,24 +17,6 @@
 using namespace CompanyTestData;
 
 namespace {
-struct Run
-{
-    int code = -1;
-    QByteArray out;
-    QString err;
-};
-
-Run cli(const QStringList &args)
-{
-    QProcess p;
-    p.start(KalTestSettings::binDir() + "/pellwick-cli", args);
-    p.closeWriteChannel();
-    if (!p.waitForFinished(60000))
-        return Run{};
-    return Run{p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -2, p.readAllStandardOutput(),
-               QString::fromUtf8(p.readAllStandardError())};
-}
-
 QByteArray readAll(const QString &path)
 {
     QFile file(path);
@@ -113,7 +96,7 @@ private slots:
         }
         const QByteArray hash = KalTestFiles::fileHash(project);
         const QStringList before = KalTestFiles::folderState(dir.path());
-        const Run run = cli(args);
+        const KalCliRun run = kalCli(args);
         QCOMPARE(run.code, code);
         QVERIFY(!run.err.isEmpty());
         QVERIFY(run.out.isEmpty());
@@ -140,14 +123,14 @@ private slots:
         const QByteArray hash = KalTestFiles::fileHash(project);
         const QStringList before = KalTestFiles::folderState(dir.path());
 
-        const Run toStdout = cli(QStringList{"export-defects", project} + options);
+        const KalCliRun toStdout = kalCli(QStringList{"export-defects", project} + options);
         QCOMPARE(toStdout.code, 0);
         // Read-only: no working copy, no user file, no byte changed.
         QCOMPARE(KalTestFiles::folderState(dir.path()), before);
         QCOMPARE(KalTestFiles::fileHash(project), hash);
 
         const QString output = dir.filePath("liste.csv");
-        const Run toFile = cli(QStringList{"export-defects", project, "--output", output} + options);
+        const KalCliRun toFile = kalCli(QStringList{"export-defects", project, "--output", output} + options);
         QCOMPARE(toFile.code, 0);
         QVERIFY(toFile.out.isEmpty());
         QCOMPARE(readAll(output), toStdout.out);
@@ -181,7 +164,7 @@ private slots:
         format.field2InBrackets = true;
         format.save();
         settings.sync();
-        const Run run = cli({"export-defects", m_project});
+        const KalCliRun run = kalCli({"export-defects", m_project});
         settings.clear();
         settings.sync();
         QCOMPARE(run.code, 0);
