@@ -263,7 +263,6 @@ private slots:
         QVERIFY(progress.isBusy());
         QVERIFY(QApplication::overrideCursor());
         QCOMPARE(QApplication::overrideCursor()->shape(), Qt::WaitCursor);
-        QCoreApplication::processEvents();
         QVERIFY(!progress.isShowing()); // short work shows nothing
         QTRY_VERIFY_WITH_TIMEOUT(progress.isShowing(), 3000);
         QProgressDialog *window = progressWindow();
