@@ -12,6 +12,7 @@
 #include "support/KalDialogAnswer.h"
 #include "support/KalScriptedPrompt.h"
 #include "support/KalTestFiles.h"
+#include "support/KalTestProject.h"
 #include "support/KalTestSettings.h"
 
 #include <QAction>
@@ -84,7 +85,7 @@ private:
     QString path(const QString &name) const { return m_dir->filePath(name); }
     void addDefect();
     void makeModified();
-    qint64 insertDefect(const QMap<QString, QVariant> &values);
+    qint64 insertDefect(const QVariantMap &values);
     QStringList visibleFields() const;
 
     std::unique_ptr<QTemporaryDir> m_dir;
@@ -142,25 +143,9 @@ void TestMainWindow::makeModified()
     m_prompt->clear();
 }
 
-qint64 TestMainWindow::insertDefect(const QMap<QString, QVariant> &values)
+qint64 TestMainWindow::insertDefect(const QVariantMap &values)
 {
-    KalProject *project = m_window->project();
-    const qint64 id = project->nextId(QStringLiteral("defect"));
-    QStringList fields{"id"};
-    QStringList holders{":id"};
-    for (auto it = values.begin(); it != values.end(); ++it) {
-        fields << it.key();
-        holders << QLatin1Char(':') + it.key();
-    }
-    QSqlQuery q(project->database());
-    q.prepare(QStringLiteral("INSERT INTO defect (%1) VALUES (%2)").arg(fields.join(','), holders.join(',')));
-    q.bindValue(QStringLiteral(":id"), id);
-    for (auto it = values.begin(); it != values.end(); ++it)
-        q.bindValue(QLatin1Char(':') + it.key(), it.value());
-    if (!q.exec()) {
-        qWarning("%s", qPrintable(q.lastError().text()));
-        return -1;
-    }
+    const qint64 id = kalInsertRow(m_window->project(), "defect", values);
     m_window->defectModel()->select();
     return id;
 }

@@ -75,17 +75,17 @@ int KalTestProject::count(const QString &table, const QString &where)
     return value(QStringLiteral("SELECT COUNT(*) FROM %1 WHERE %2").arg(table, where)).toInt();
 }
 
-qint64 KalTestProject::insert(const QString &table, QVariantMap values)
+qint64 kalInsertRow(KalProject *project, const QString &table, QVariantMap values)
 {
     // Tables whose ids SQLite counts itself.
     const bool ownIds = table == QLatin1String("image") || table == QLatin1String("plan");
     if (!values.contains(QStringLiteral("id")) && !ownIds)
-        values.insert(QStringLiteral("id"), m_project->nextId(table));
+        values.insert(QStringLiteral("id"), project->nextId(table));
     const QStringList names = values.keys();
     QStringList holders;
     for (const QString &name : names)
         holders << QLatin1Char(':') + name;
-    QSqlQuery q(m_project->database());
+    QSqlQuery q(project->database());
     const QString sql =
         QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)").arg(table, names.join(','), holders.join(','));
     if (!run(q, sql, values))

@@ -7,6 +7,11 @@
 class KalProject;
 class KalSqlTableModel;
 
+// Inserts a row into any open project (a window's, say) as an import or
+// another program would, with an id from the allocator unless one is given;
+// returns the id or -1.
+qint64 kalInsertRow(KalProject *project, const QString &table, QVariantMap values);
+
 // A new untitled project for a test class, with direct reads and writes of
 // its working copy (as an import or another program would write it).
 class KalTestProject
@@ -30,9 +35,7 @@ public:
     QVariant field(const QString &table, qint64 id, const QString &column);
     int count(const QString &table, const QString &where = QStringLiteral("1"));
 
-    // Inserts a row, with an id from the allocator unless one is given;
-    // returns the id or -1.
-    qint64 insert(const QString &table, QVariantMap values);
+    qint64 insert(const QString &table, const QVariantMap &values) { return kalInsertRow(project(), table, values); }
     qint64 addCompany(const QString &name, const QString &trade = QString(), const QVariantMap &more = {});
     // A defect numbered "1" with a description unless `values` say otherwise.
     qint64 addDefect(const QVariantMap &values = {});
