@@ -192,9 +192,8 @@ private slots:
         QVERIFY(createProject(file, 5));
         qint64 leftoverCommitted = -1; // committed rows the killed run left in its working copy
         // PELLWICK_KILL_SEED replays the kill moments of an earlier run.
-        const quint32 seed = qEnvironmentVariableIsSet("PELLWICK_KILL_SEED")
-                                 ? quint32(qEnvironmentVariableIntValue("PELLWICK_KILL_SEED"))
-                                 : QRandomGenerator::global()->generate();
+        const quint32 seed = qEnvironmentVariableIsSet("PELLWICK_KILL_SEED") ? qgetenv("PELLWICK_KILL_SEED").toUInt()
+                                                                             : QRandomGenerator::global()->generate();
         qInfo("kill moments: PELLWICK_KILL_SEED=%u", seed);
         QRandomGenerator random(seed);
         for (int round = 0; round < kills; ++round) {
