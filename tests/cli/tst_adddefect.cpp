@@ -2,7 +2,7 @@
 // file whose id counter lags behind its rows still takes new defects.
 #include "core/project/KalDefects.h"
 #include "core/project/KalProject.h"
-#include "support/KalCliRunner.h"
+#include "support/KalCliRun.h"
 #include "support/KalScriptedPrompt.h"
 #include "support/KalTestFiles.h"
 #include "support/KalTestSettings.h"
@@ -21,9 +21,9 @@ namespace {
 // The login name is set on purpose: it must never become the author.
 const char *const kLogin = "mueller";
 
-KalCliResult cli(const QStringList &args)
+KalCliRun cli(const QStringList &args)
 {
-    return kalRunCli(args, kLogin);
+    return kalCli(args, kLogin);
 }
 
 // Every column of one defect, read from the saved file.
@@ -142,9 +142,9 @@ private slots:
             QVERIFY(project.closeProject());
         }
 
-        const KalCliResult run = cli(QStringList{"add-defect", path("cli.pwp")} + options);
+        const KalCliRun run = cli(QStringList{"add-defect", path("cli.pwp")} + options);
         QCOMPARE(run.code, 0);
-        QCOMPARE(run.out.trimmed().toLongLong(), listId);
+        QCOMPARE(run.text().trimmed().toLongLong(), listId);
 
         const QVariantMap fromList = defectRow(path("list.pwp"), listId);
         const QVariantMap fromCli = defectRow(path("cli.pwp"), listId);
@@ -185,14 +185,14 @@ private slots:
         QVERIFY(execute(file, damage));
         const QByteArray before = fileHash(file);
         for (int attempt = 0; attempt < 2; ++attempt) {
-            const KalCliResult run = cli({"add-defect", file, "--description", "neu"});
+            const KalCliRun run = cli({"add-defect", file, "--description", "neu"});
             if (ids.isEmpty()) {
                 QCOMPARE(run.code, 1);
                 QVERIFY2(run.err.startsWith("Datenbankfehler: "), qPrintable(run.err));
                 QCOMPARE(fileHash(file), before);
             } else {
                 QCOMPARE(run.code, 0);
-                QCOMPARE(run.out.trimmed().toLongLong(), ids.at(attempt));
+                QCOMPARE(run.text().trimmed().toLongLong(), ids.at(attempt));
             }
         }
         QCOMPARE(countRows(file, "defect"), ids.isEmpty() ? 3 : 5);

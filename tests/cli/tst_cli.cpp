@@ -1,6 +1,6 @@
 // pellwick-cli driven as a user's script would: real processes, real files.
 #include "core/project/KalProject.h"
-#include "support/KalCliRunner.h"
+#include "support/KalCliRun.h"
 #include "support/KalTestFiles.h"
 #include "support/KalTestSettings.h"
 
@@ -13,14 +13,6 @@
 #include <QtTest>
 
 using namespace KalTestFiles;
-
-namespace {
-using Run = KalCliResult;
-Run cli(const QStringList &args, const QByteArray &user = "erika")
-{
-    return kalRunCli(args, user);
-}
-} // namespace
 
 class TstCli : public QObject
 {
@@ -60,12 +52,12 @@ private slots:
     {
         QFETCH(QStringList, args);
         QFETCH(int, code);
-        const Run run = cli(args);
+        const KalCliRun run = kalCli(args);
         QCOMPARE(run.code, code);
         if (args == QStringList{"--help"})
-            QVERIFY(run.out.contains("add-defect FILE.pwp --description TEXT"));
+            QVERIFY(run.text().contains("add-defect FILE.pwp --description TEXT"));
         if (args == QStringList{"--version"})
-            QVERIFY(run.out.startsWith("pellwick-cli "));
+            QVERIFY(run.text().startsWith("pellwick-cli "));
         if (code == 1)
             QVERIFY2(run.err.startsWith("Dateifehler: Die Datei"), qPrintable(run.err));
     }
@@ -73,12 +65,12 @@ private slots:
     void newRefusesExistingFile()
     {
         const QString file = path("bau.pwp");
-        QCOMPARE(cli({"new", file}).code, 0);
+        QCOMPARE(kalCli({"new", file}).code, 0);
         QVERIFY(QFileInfo::exists(file));
         QVERIFY(!QFileInfo::exists(file + ".workingcopy"));
         QCOMPARE(countRows(file, "status"), 8);
         const QByteArray hash = fileHash(file);
-        const Run again = cli({"new", file});
+        const KalCliRun again = kalCli({"new", file});
         QCOMPARE(again.code, 1);
         QVERIFY(again.err.startsWith("Dateifehler: "));
         QCOMPARE(fileHash(file), hash);
@@ -89,9 +81,9 @@ private slots:
         const QString file = path("bau.pwp");
         QVERIFY(createProject(file, 4));
         const QStringList before = folderState(m_dir->path());
-        const Run run = cli({"info", file, "--json"});
+        const KalCliRun run = kalCli({"info", file, "--json"});
         QCOMPARE(run.code, 0);
-        const QJsonObject info = QJsonDocument::fromJson(run.out.toUtf8()).object();
+        const QJsonObject info = QJsonDocument::fromJson(run.out).object();
         QCOMPARE(info.value("fileversion").toString(), QStringLiteral("0.1"));
         QCOMPARE(info.value("integrity").toString(), QStringLiteral("ok"));
         QCOMPARE(info.value("projectname").toString(), QStringLiteral("Neues Projekt"));
@@ -99,9 +91,9 @@ private slots:
         QCOMPARE(info.value("tables").toObject().value("status").toInt(), 8);
         QCOMPARE(folderState(m_dir->path()), before);
 
-        const Run text = cli({"info", file});
+        const KalCliRun text = kalCli({"info", file});
         QCOMPARE(text.code, 0);
-        QVERIFY(text.out.contains("Integrity:    ok"));
+        QVERIFY(text.text().contains("Integrity:    ok"));
         QCOMPARE(folderState(m_dir->path()), before);
     }
 
@@ -109,10 +101,10 @@ private slots:
     {
         const QString file = path("bau.pwp");
         QVERIFY(createProject(file, 2));
-        const Run run = cli({"add-defect", file, "--description", "Riss im Putz", "--number", "17", "--room", "Küche",
-                             "--status", "3"});
+        const KalCliRun run = kalCli({"add-defect", file, "--description", "Riss im Putz", "--number", "17", "--room",
+                                      "Küche", "--status", "3"});
         QCOMPARE(run.code, 0);
-        QCOMPARE(run.out.trimmed(), QStringLiteral("3"));
+        QCOMPARE(run.text().trimmed(), QStringLiteral("3"));
         QCOMPARE(countRows(file, "defect"), 3);
         QCOMPARE(scalar(file, "SELECT description || '|' || number || '|' || roomname || '|' || status_id || '|' || "
                               "priority || '|' || creation_date FROM defect WHERE id = 3"),
@@ -123,7 +115,7 @@ private slots:
         QVERIFY(!QFileInfo::exists(file + ".udf"));
         // Ids come from the allocator, also after a deletion.
         QVERIFY(execute(file, {"DELETE FROM defect WHERE id = 3"}));
-        QCOMPARE(cli({"add-defect", file, "--description", "danach"}).out.trimmed(), QStringLiteral("4"));
+        QCOMPARE(kalCli({"add-defect", file, "--description", "danach"}).text().trimmed(), QStringLiteral("4"));
     }
 
     void addDefectRefusesUnknownReferences_data()
@@ -139,7 +131,7 @@ private slots:
         const QString file = path("bau.pwp");
         QVERIFY(createProject(file, 1));
         const QByteArray hash = fileHash(file);
-        const Run run = cli(QStringList{"add-defect", file, "--description", "x"} + extra);
+        const KalCliRun run = kalCli(QStringList{"add-defect", file, "--description", "x"} + extra);
         QCOMPARE(run.code, 1);
         QVERIFY(run.err.startsWith("Fehler: "));
         QCOMPARE(fileHash(file), hash);
@@ -150,16 +142,16 @@ private slots:
     {
         const QString file = path("bau.pwp");
         QVERIFY(createProject(file, 300));
-        QCOMPARE(cli({"add-defect", file, "--description", "x"}).code, 0);
-        Run run = cli({"check", file});
+        QCOMPARE(kalCli({"add-defect", file, "--description", "x"}).code, 0);
+        KalCliRun run = kalCli({"check", file});
         QCOMPARE(run.code, 0);
-        QVERIFY(run.out.contains(QDir::toNativeSeparators(file) + ": ok"));
-        QVERIFY(run.out.contains(QDir::toNativeSeparators(file + ".bak") + ": ok"));
+        QVERIFY(run.text().contains(QDir::toNativeSeparators(file) + ": ok"));
+        QVERIFY(run.text().contains(QDir::toNativeSeparators(file + ".bak") + ": ok"));
         QFile f(file);
         QVERIFY(f.resize(f.size() / 2));
-        run = cli({"check", file});
+        run = kalCli({"check", file});
         QCOMPARE(run.code, 1);
-        QVERIFY(run.out.contains(QDir::toNativeSeparators(file + ".bak") + ": ok"));
+        QVERIFY(run.text().contains(QDir::toNativeSeparators(file + ".bak") + ": ok"));
     }
 
     void damagedFileAnswers_data()
@@ -176,13 +168,13 @@ private slots:
         QFETCH(int, code);
         const QString file = path("bau.pwp");
         QVERIFY(createProject(file, 300));
-        QCOMPARE(cli({"add-defect", file, "--description", "x"}).code, 0);
+        QCOMPARE(kalCli({"add-defect", file, "--description", "x"}).code, 0);
         QFile f(file);
         QVERIFY(f.resize(f.size() / 2));
         QStringList args{"add-defect", file, "--description", "nach Wiederherstellung"};
         if (yes)
             args.prepend("--yes");
-        const Run run = cli(args);
+        const KalCliRun run = kalCli(args);
         QCOMPARE(run.code, code);
         QVERIFY(run.err.contains("Beschädigte Datenbank-Datei: Die interne Struktur"));
         QVERIFY(run.err.contains(yes ? "-> Backup wiederherstellen" : "-> Abbrechen"));
@@ -206,7 +198,7 @@ private slots:
         ballast << "DELETE FROM filter_state";
         QVERIFY(execute(file, ballast));
         const qint64 before = QFileInfo(file).size();
-        const Run run = cli({"vacuum", file});
+        const KalCliRun run = kalCli({"vacuum", file});
         QCOMPARE(run.code, 0);
         QVERIFY(run.err.contains("Datenbank bereinigen: Die Datenbank wurde erfolgreich bereinigt."));
         QVERIFY(QFileInfo(file).size() < before);
@@ -220,7 +212,7 @@ private slots:
         KalProject holder; // this test process holds it open
         qputenv("USERNAME", "alice");
         QVERIFY(holder.openProject(file));
-        const Run run = cli({"add-defect", file, "--description", "x"});
+        const KalCliRun run = kalCli({"add-defect", file, "--description", "x"});
         QCOMPARE(run.code, 1);
         QVERIFY2(run.err.startsWith("Datenbank in Bearbeitung: Die Datei konnte nicht geöffnet werden, da sie in "
                                     "Bearbeitung ist von\nUser: alice"),

@@ -11,6 +11,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
+#include <QScopeGuard>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QSqlQuery>
@@ -30,18 +31,6 @@ private:
     QString path(const QString &name) const { return m_dir->filePath(name); }
 
     static QVariantMap defect(const QString &description) { return {{QStringLiteral("description"), description}}; }
-
-    // Opens, adds a defect, saves in place, closes: one "save after a fresh opening".
-    bool openAddSave(const QString &file, const QString &description)
-    {
-        KalProject project;
-        if (!project.openProject(file))
-            return false;
-        if (KalDefects(project).add(defect(description)) < 0)
-            return false;
-        const int result = project.saveProject();
-        return project.closeProject() && result == KalProject::Saved;
-    }
 
 private slots:
     void initTestCase()
@@ -178,56 +167,44 @@ private slots:
         QCOMPARE(KalProject::backupFileName("/x/p.pwp", slot), name);
     }
 
-    void backupChainRotatesOncePerOpening()
+    // Backups move down the chain once per opening; further saves in the
+    // same opening only replace the newest.
+    void backups_data()
     {
-        QSettings().setValue("File/NumberOfBackups", 3);
+        QTest::addColumn<int>("kept");           // the "File/NumberOfBackups" setting
+        QTest::addColumn<QString>("openings");   // saves per opening, one digit each
+        QTest::addColumn<QList<int>>("defects"); // in the file, .bak, .01.bak, ...; -1: no such file
+        QTest::newRow("one backup per opening") << 3 << "111" << QList<int>{3, 2, 1, 0, -1};
+        QTest::newRow("the oldest goes first") << 3 << "1111" << QList<int>{4, 3, 2, 1, -1};
+        QTest::newRow("a second save replaces the newest") << 3 << "12" << QList<int>{3, 2, 0, -1};
+        QTest::newRow("switched off") << 0 << "1" << QList<int>{1, -1};
+    }
+
+    void backups()
+    {
+        QFETCH(int, kept);
+        QFETCH(QString, openings);
+        QFETCH(QList<int>, defects);
+        QSettings().setValue("File/NumberOfBackups", kept);
         const QString file = path("p.pwp");
         QVERIFY(createProject(file, 0));
-        for (int i = 1; i <= 3; ++i)
-            QVERIFY(openAddSave(file, QStringLiteral("save %1").arg(i)));
-        // Newest backup holds the state before the last save.
-        QCOMPARE(countRows(file, "defect"), 3);
-        QCOMPARE(countRows(file + ".bak", "defect"), 2);
-        QCOMPARE(countRows(file + ".01.bak", "defect"), 1);
-        QCOMPARE(countRows(file + ".02.bak", "defect"), 0);
-        QVERIFY(!QFileInfo::exists(file + ".03.bak"));
-
-        QVERIFY(openAddSave(file, "save 4"));
-        QCOMPARE(countRows(file + ".bak", "defect"), 3);
-        QCOMPARE(countRows(file + ".01.bak", "defect"), 2);
-        QCOMPARE(countRows(file + ".02.bak", "defect"), 1); // the oldest went first
-        QVERIFY(!QFileInfo::exists(file + ".03.bak"));
+        for (const QChar saves : openings) {
+            KalProject project;
+            QVERIFY(project.openProject(file));
+            for (int i = 0; i < saves.digitValue(); ++i) {
+                QVERIFY(KalDefects(project).add(defect("neu")) > 0);
+                QCOMPARE(project.saveProject(), int(KalProject::Saved));
+            }
+            QVERIFY(project.closeProject());
+        }
+        for (int slot = -1; slot + 1 < defects.size(); ++slot) {
+            const QString name = slot < 0 ? file : KalProject::backupFileName(file, slot);
+            if (defects.at(slot + 1) < 0)
+                QVERIFY2(!QFileInfo::exists(name), qPrintable(name));
+            else
+                QCOMPARE(countRows(name, "defect"), defects.at(slot + 1));
+        }
         QVERIFY(m_prompt->shown().isEmpty());
-    }
-
-    void secondSaveReplacesOnlyNewestBackup()
-    {
-        QSettings().setValue("File/NumberOfBackups", 3);
-        const QString file = path("p.pwp");
-        QVERIFY(createProject(file, 0));
-        QVERIFY(openAddSave(file, "a"));
-        KalProject project;
-        QVERIFY(project.openProject(file));
-        KalDefects(project).add(defect("b"));
-        QCOMPARE(project.saveProject(), int(KalProject::Saved));
-        KalDefects(project).add(defect("c"));
-        QCOMPARE(project.saveProject(), int(KalProject::Saved));
-        QCOMPARE(countRows(file, "defect"), 3);
-        // The first save pushed the chain, the second only replaced the newest.
-        QCOMPARE(countRows(file + ".bak", "defect"), 2);
-        QCOMPARE(countRows(file + ".01.bak", "defect"), 0);
-        QVERIFY(!QFileInfo::exists(file + ".02.bak"));
-        QVERIFY(project.closeProject());
-    }
-
-    void noBackupsWhenSwitchedOff()
-    {
-        QSettings().setValue("File/NumberOfBackups", 0);
-        const QString file = path("p.pwp");
-        QVERIFY(createProject(file, 0));
-        QVERIFY(openAddSave(file, "a"));
-        QCOMPARE(countRows(file, "defect"), 1);
-        QVERIFY(!QFileInfo::exists(file + ".bak"));
     }
 
     void restoreNaming_data()
@@ -300,13 +277,22 @@ private slots:
         QTest::addColumn<QByteArray>("content");
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("textStart");
-        QTest::newRow("zero bytes") << QByteArray() << "Datenbankfehler"
-                                    << "Tabelle KAL fehlt";
-        QTest::newRow("random bytes") << QByteArray("\x13\x37 definitely not sqlite \xff\xfe", 28).repeated(500)
-                                      << "Beschädigte Datenbank-Datei"
-                                      << "Die interne Struktur der Mängel-Datenbank ist beschädigt.";
-        QTest::newRow("text file") << QByteArray("Mangel;Firma\n1;Maler\n") << "Beschädigte Datenbank-Datei"
-                                   << "Die interne Struktur der Mängel-Datenbank ist beschädigt.";
+        const QString damaged = "Die interne Struktur der Mängel-Datenbank ist beschädigt.";
+        auto row = [](const char *name, const QByteArray &content, const char *title, const QString &text) {
+            QTest::newRow(name) << content << QString(title) << text;
+        };
+        // Another program's SQLite file: a database, but not a project.
+        QTemporaryDir dir;
+        const QString other = dir.filePath("fremd.db");
+        QVERIFY(execute(other, {"CREATE TABLE meta (key TEXT PRIMARY KEY, value TEXT NOT NULL)",
+                                "CREATE TABLE rechnung (id INTEGER PRIMARY KEY, betrag REAL)"}));
+        QFile file(other);
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        row("zero bytes", QByteArray(), "Datenbankfehler", "Tabelle KAL fehlt");
+        row("other SQLite file", file.readAll(), "Datenbankfehler", "Tabelle KAL fehlt");
+        row("random bytes", QByteArray("\x13\x37 definitely not sqlite \xff\xfe", 28).repeated(500),
+            "Beschädigte Datenbank-Datei", damaged);
+        row("text file", "Mangel;Firma\n1;Maler\n", "Beschädigte Datenbank-Datei", damaged);
     }
 
     void hostileFiles()
@@ -328,19 +314,6 @@ private slots:
         QVERIFY2(m_prompt->shown().first().text.startsWith(textStart), qPrintable(m_prompt->shown().first().text));
         QCOMPARE(folderState(m_dir->path()), before);
         QVERIFY(!project.isOpen());
-    }
-
-    void sqliteFileWithoutProjectTable()
-    {
-        const QString file = path("fremd.pwp");
-        QVERIFY(execute(file, {"CREATE TABLE meta (key TEXT PRIMARY KEY, value TEXT NOT NULL)",
-                               "CREATE TABLE rechnung (id INTEGER PRIMARY KEY, betrag REAL)"}));
-        const QStringList before = folderState(m_dir->path());
-        KalProject project;
-        QVERIFY(!project.openProject(file));
-        QCOMPARE(m_prompt->titles(), QStringList{"Datenbankfehler"});
-        QCOMPARE(m_prompt->texts(), QStringList{"Tabelle KAL fehlt"});
-        QCOMPARE(folderState(m_dir->path()), before);
     }
 
     void damagedFile_data()
@@ -746,34 +719,31 @@ private slots:
         QDir().mkpath(mountPoint);
         if (QProcess::execute("mount", {"-t", "tmpfs", "-o", "size=600k", "tmpfs", mountPoint}) != 0)
             QSKIP("cannot mount a small file system here");
+        // Declared before the project: unmounted after it is closed, also
+        // when an assertion returns early.
+        const auto unmount = qScopeGuard([&] { QProcess::execute("umount", {mountPoint}); });
         const QString file = mountPoint + "/p.pwp";
-        bool created = createProject(file, 1);
-        if (created) {
-            KalProject project;
-            // The volume reports plenty of room: the write itself must fail.
-            KalEnvironment::setVolumeInfoFunction([](const QString &) {
-                return KalEnvironment::VolumeInfo{true, true, qint64(1) << 40, "tmpfs"};
-            });
-            QVERIFY(project.openProject(file));
-            QVERIFY(project.beginTransaction());
-            QSqlQuery q(project.database());
-            q.prepare("INSERT INTO filter_state (id, key, value) VALUES (:id, 'ballast', :v)");
-            for (int i = 1; i <= 4; ++i) {
-                q.bindValue(":id", i);
-                q.bindValue(":v", QString(60000, QChar('a' + i)));
-                q.exec();
-            }
-            project.commitTransaction();
-            const QByteArray before = fileHash(file);
-            QCOMPARE(project.saveProject(), int(KalProject::SaveFailed));
-            QCOMPARE(fileHash(file), before);
-            QCOMPARE(integrity(file), QStringLiteral("ok"));
-            QVERIFY(project.isOpen());
-            KalEnvironment::setVolumeInfoFunction({});
-            project.closeProject();
+        QVERIFY(createProject(file, 1));
+        KalProject project;
+        // The volume reports plenty of room: the write itself must fail.
+        KalEnvironment::setVolumeInfoFunction([](const QString &) {
+            return KalEnvironment::VolumeInfo{true, true, qint64(1) << 40, "tmpfs"};
+        });
+        QVERIFY(project.openProject(file));
+        QVERIFY(project.beginTransaction());
+        QSqlQuery q(project.database());
+        q.prepare("INSERT INTO filter_state (id, key, value) VALUES (:id, 'ballast', :v)");
+        for (int i = 1; i <= 4; ++i) {
+            q.bindValue(":id", i);
+            q.bindValue(":v", QString(60000, QChar('a' + i)));
+            q.exec();
         }
-        QProcess::execute("umount", {mountPoint});
-        QVERIFY(created);
+        project.commitTransaction();
+        const QByteArray before = fileHash(file);
+        QCOMPARE(project.saveProject(), int(KalProject::SaveFailed));
+        QCOMPARE(fileHash(file), before);
+        QCOMPARE(integrity(file), QStringLiteral("ok"));
+        QVERIFY(project.isOpen());
     }
 
     void folderRefusingWrites()

@@ -191,7 +191,11 @@ private slots:
         const QString file = m_dir->filePath("dauerlauf.pwp");
         QVERIFY(createProject(file, 5));
         qint64 leftoverCommitted = -1; // committed rows the killed run left in its working copy
-        auto *random = QRandomGenerator::global();
+        // PELLWICK_KILL_SEED replays the kill moments of an earlier run.
+        const quint32 seed = qEnvironmentVariableIsSet("PELLWICK_KILL_SEED") ? qgetenv("PELLWICK_KILL_SEED").toUInt()
+                                                                             : QRandomGenerator::global()->generate();
+        qInfo("kill moments: PELLWICK_KILL_SEED=%u", seed);
+        QRandomGenerator random(seed);
         for (int round = 0; round < kills; ++round) {
             const int before = countRows(file, "defect");
             Holder holder("saveloop", file, "erika", "BAUBUERO");
@@ -201,7 +205,7 @@ private slots:
             if (leftoverCommitted >= 0)
                 QVERIFY2(start >= leftoverCommitted,
                          qPrintable(QStringLiteral("%1 < %2").arg(start).arg(leftoverCommitted)));
-            QThread::msleep(random->bounded(5, 400));
+            QThread::msleep(random.bounded(5, 400)); // the kill moment, not a bound
             holder.kill();
             const qint64 saved = holder.last("saved");
             const qint64 committed = holder.last("committed");

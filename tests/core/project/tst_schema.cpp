@@ -59,8 +59,6 @@ private slots:
         QCOMPARE(scalar(db, "SELECT COUNT(*) FROM status").toInt(), 8);
         QCOMPARE(scalar(db, "SELECT MIN(id) || '-' || MAX(id) FROM status").toString(), QStringLiteral("1-8"));
         QCOMPARE(scalar(db, "SELECT id_counter FROM id_generator WHERE id_table='status'").toInt(), 8);
-        QCOMPARE(scalar(db, "SELECT reduction_option FROM status WHERE id=6").toInt(), 1);
-        QCOMPARE(scalar(db, "SELECT color FROM status WHERE id=5").toString(), QStringLiteral("#88ff00"));
         QCOMPARE(scalar(db, "SELECT COUNT(*) FROM kal").toInt(), 1);
         QCOMPARE(scalar(db, "SELECT projectname FROM kal").toString(), QStringLiteral("Neues Projekt"));
         QCOMPARE(scalar(db, "SELECT logo_align FROM kal").toInt(), 2);
@@ -68,39 +66,6 @@ private slots:
         QCOMPARE(KalDatabaseSchema::automaticImportMode(db), -1);
         QCOMPARE(KalDatabaseSchema::nextId(db, m_tx, QStringLiteral("status")), 9);
         QVERIFY(m_prompt->shown().isEmpty());
-    }
-
-    void everyTableOfTheFormatExists()
-    {
-        QSqlDatabase db = freshDatabase();
-        QVERIFY(KalDatabaseSchema::createSchema(db, m_tx));
-        const QMap<QString, QString> tables = KalDatabaseSchema::tableMap(db);
-        const QStringList expected = {"id_generator",
-                                      "meta",
-                                      "kal",
-                                      "defect",
-                                      "company",
-                                      "status",
-                                      "plan_info",
-                                      "plan",
-                                      "marker",
-                                      "marker_text",
-                                      "photo_info",
-                                      "image",
-                                      "addresslist",
-                                      "addresslist_item",
-                                      "filter_state",
-                                      "imported_report",
-                                      "imported_closed_report_company",
-                                      "deleted_site_journal_defect",
-                                      "deleted_site_journal_photo_info",
-                                      "deleted_site_journal_company"};
-        for (const QString &t : expected)
-            QVERIFY2(tables.contains(t), qPrintable(t));
-        QCOMPARE(db.record("defect").count(), 24);
-        QCOMPARE(db.record("company").count(), 16);
-        QVERIFY(tables.value("plan").contains("AUTOINCREMENT"));
-        QVERIFY(!tables.value("defect").contains("AUTOINCREMENT"));
     }
 
     void defaultStatusesOnlyIntoEmptyTable()

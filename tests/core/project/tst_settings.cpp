@@ -1,4 +1,3 @@
-#include "core/project/KalConfig.h"
 #include "core/project/KalSettings.h"
 #include "support/KalTestSettings.h"
 
@@ -63,31 +62,6 @@ private slots:
         // Cancelled dialogs hand over an empty path: nothing changes.
         KalSettings::rememberFilePath(KalSettings::ImageFiles, QString(), false);
         QCOMPARE(KalSettings::filePathForDialog(KalSettings::ImageFiles), QDir::toNativeSeparators(photos));
-    }
-
-    void printFonts_data()
-    {
-        QTest::addColumn<int>("index");
-        QTest::addColumn<int>("points");
-        QTest::addColumn<bool>("bold");
-        QTest::newRow("10 bold") << int(KalConfig::Font10Bold) << 10 << true;
-        QTest::newRow("17 bold") << int(KalConfig::Font17Bold) << 17 << true;
-        QTest::newRow("9") << int(KalConfig::Font9) << 9 << false;
-        QTest::newRow("9 bold") << int(KalConfig::Font9Bold) << 9 << true;
-        QTest::newRow("7") << int(KalConfig::Font7) << 7 << false;
-        QTest::newRow("5") << int(KalConfig::Font5) << 5 << false;
-    }
-
-    void printFonts()
-    {
-        QFETCH(int, index);
-        QFETCH(int, points);
-        QFETCH(bool, bold);
-        const QFont &font = KalConfig::instance().font(KalConfig::FontIndex(index));
-        QCOMPARE(font.family(), QStringLiteral("Arial"));
-        QCOMPARE(font.pointSize(), points);
-        QCOMPARE(font.bold(), bold);
-        QCOMPARE(KalConfig::instance().margins(), (QVector<int>{15, 15, 10, 10}));
     }
 };
 

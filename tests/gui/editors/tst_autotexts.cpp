@@ -2,10 +2,10 @@
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
 #include "core/textaids/KalCompleterStore.h"
-#include "dialogs_fixture.h"
 #include "gui/editors/KalDefectEditor.h"
 #include "gui/textaids/KalCompleterTextEdit.h"
 #include "support/KalScriptedPrompt.h"
+#include "support/KalTestProject.h"
 #include "support/KalWidgetTestMain.h"
 
 #include <QDialogButtonBox>
@@ -18,7 +18,7 @@ class TstAutoTexts : public QObject
     Q_OBJECT
 
 private:
-    DialogsFixture m_fx;
+    KalTestProject m_fx;
 
     static QStringList storedDescriptions()
     {
@@ -68,9 +68,6 @@ private slots:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return kalRunWidgetTests<TstAutoTexts>(argc, argv);
-}
+KAL_WIDGET_TEST_MAIN(TstAutoTexts)
 
 #include "tst_autotexts.moc"

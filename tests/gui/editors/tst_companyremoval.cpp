@@ -4,10 +4,10 @@
 #include "core/project/KalDefects.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
-#include "dialogs_fixture.h"
 #include "gui/editors/KalMasterDataDialog.h"
 #include "gui/widgets/KalTableView.h"
 #include "support/KalScriptedPrompt.h"
+#include "support/KalTestProject.h"
 #include "support/KalWidgetTestMain.h"
 
 #include <QToolButton>
@@ -18,10 +18,10 @@ class TstCompanyRemoval : public QObject
     Q_OBJECT
 
 private:
-    DialogsFixture m_fx;
+    KalTestProject m_fx;
     KalScriptedPrompt *m_prompt = nullptr;
 
-    int count(const QString &sql) { return m_fx.scalar(sql).toInt(); }
+    int count(const QString &sql) { return m_fx.value(sql).toInt(); }
 
 private slots:
     void init()
@@ -60,8 +60,9 @@ private slots:
         QFETCH(QString, says);
         QFETCH(int, released);
 
-        const QList<qint64> companies{m_fx.addCompany("A", "Maler", 1), m_fx.addCompany("B", "Maurer", 2),
-                                      m_fx.addCompany("C", "Dach", 3)};
+        const QList<qint64> companies{m_fx.addCompany("A", "Maler", {{"pos", 1}}),
+                                      m_fx.addCompany("B", "Maurer", {{"pos", 2}}),
+                                      m_fx.addCompany("C", "Dach", {{"pos", 3}})};
         QVERIFY(m_fx.reselect());
         for (int owner : {0, 0, 1})
             QVERIFY(KalDefects(*m_fx.project()).add({{"company_id", companies.at(owner)}}) > 0);
@@ -84,8 +85,5 @@ private slots:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return kalRunWidgetTests<TstCompanyRemoval>(argc, argv);
-}
+KAL_WIDGET_TEST_MAIN(TstCompanyRemoval)
 #include "tst_companyremoval.moc"

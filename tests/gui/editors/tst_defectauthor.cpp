@@ -4,9 +4,9 @@
 #include "core/project/KalDefects.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
-#include "dialogs_fixture.h"
 #include "gui/editors/KalDefectEditor.h"
 #include "support/KalScriptedPrompt.h"
+#include "support/KalTestProject.h"
 #include "support/KalWidgetTestMain.h"
 
 #include <QDialogButtonBox>
@@ -20,7 +20,7 @@ class TstDefectAuthor : public QObject
     Q_OBJECT
 
 private:
-    DialogsFixture m_fx;
+    KalTestProject m_fx;
     KalScriptedPrompt *m_prompt = nullptr;
 
 private slots:
@@ -68,20 +68,16 @@ private slots:
             if (!accepted)
                 editor.reject();
         }
-        QCOMPARE(m_fx.scalar(QStringLiteral("SELECT user_id FROM defect WHERE id = :id"), {{QStringLiteral("id"), id}})
+        QCOMPARE(m_fx.value(QStringLiteral("SELECT user_id FROM defect WHERE id = :id"), {{QStringLiteral("id"), id}})
                      .toString(),
                  stored);
         // The next defect starts with the initials entered last.
         const qint64 next = KalDefects(*m_fx.project()).add();
-        QCOMPARE(
-            m_fx.scalar(QStringLiteral("SELECT user_id FROM defect WHERE id = :id"), {{QStringLiteral("id"), next}})
-                .toString(),
-            accepted ? stored : QStringLiteral("XY"));
+        QCOMPARE(m_fx.value(QStringLiteral("SELECT user_id FROM defect WHERE id = :id"), {{QStringLiteral("id"), next}})
+                     .toString(),
+                 accepted ? stored : QStringLiteral("XY"));
     }
 };
 
-int main(int argc, char **argv)
-{
-    return kalRunWidgetTests<TstDefectAuthor>(argc, argv);
-}
+KAL_WIDGET_TEST_MAIN(TstDefectAuthor)
 #include "tst_defectauthor.moc"

@@ -1,24 +1,21 @@
-#include "tst_defecteditor.h"
-
 #include "core/project/KalDefects.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
+#include "gui/editors/KalCompanyDialog.h"
 #include "gui/editors/KalDefectEditor.h"
 #include "gui/textaids/KalDateEdit.h"
+#include "support/KalDialogAnswer.h"
 #include "support/KalScriptedPrompt.h"
+#include "support/KalTestProject.h"
+#include "support/KalWidgetTestMain.h"
 
-#include "gui/editors/KalCompanyDialog.h"
-
-#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QInputDialog>
 #include <QLineEdit>
 #include <QSqlQuery>
 #include <QTextEdit>
-#include <QTimer>
 #include <QtTest>
-#include <functional>
 
 namespace {
 
@@ -39,362 +36,312 @@ void choose(QComboBox *combo, qint64 id)
     emit combo->activated(index);
 }
 
-// Answers the next modal dialog of type T with `answer` once it is shown.
-template <typename T> class ModalAnswer
-{
-public:
-    explicit ModalAnswer(const std::function<void(T *)> &answer)
-    {
-        m_timer.setInterval(10);
-        QObject::connect(&m_timer, &QTimer::timeout, [this, answer] {
-            if (auto *dialog = qobject_cast<T *>(QApplication::activeModalWidget())) {
-                m_timer.stop();
-                m_seen = true;
-                answer(dialog);
-            }
-        });
-        m_timer.start();
-    }
-    bool seen() const { return m_seen; }
-
-private:
-    QTimer m_timer;
-    bool m_seen = false;
-};
-
 } // namespace
 
-void TstDefectEditor::initTestCase()
+class TstDefectEditor : public QObject
 {
-    m_prompt = KalScriptedPrompt::install();
-    QVERIFY(m_fx.open());
-    m_companyA = m_fx.addCompany(QStringLiteral("Alpha Bau"), QStringLiteral("Maurer"), 2);
-    m_companyB = m_fx.addCompany(QStringLiteral("Beta Elektro"), QStringLiteral("Elektriker"), 1);
-    QVERIFY(m_companyA > 0 && m_companyB > 0);
-    QVERIFY(m_fx.reselect());
-}
+    Q_OBJECT
 
-void TstDefectEditor::cleanupTestCase()
-{
-    m_fx.close();
-}
+private:
+    qint64 newDefect(const QVariantMap &values = {}) { return KalDefects(*m_fx.project()).add(values); }
 
-void TstDefectEditor::init()
-{
-    m_prompt->clear();
-}
+    int rowOf(qint64 id) const { return m_fx.model(QStringLiteral("defect"))->findRowById(id); }
+    KalTestProject m_fx;
+    KalScriptedPrompt *m_prompt = nullptr;
+    qint64 m_companyA = -1;
+    qint64 m_companyB = -1;
 
-qint64 TstDefectEditor::newDefect(const QVariantMap &values)
-{
-    return KalDefects(*m_fx.project()).add(values);
-}
-
-int TstDefectEditor::rowOf(qint64 id) const
-{
-    return m_fx.model(QStringLiteral("defect"))->findRowById(id);
-}
-
-void TstDefectEditor::userIdInitials_data()
-{
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QString>("shown");
-
-    QTest::newRow("two capitals") << "KM"
-                                  << "KM";
-    QTest::newRow("lower case becomes upper") << "km"
-                                              << "KM";
-    QTest::newRow("mixed case") << "kM"
-                                << "KM";
-    QTest::newRow("third letter refused") << "abc"
-                                          << "AB";
-    QTest::newRow("digit refused") << "a1"
-                                   << "A";
-    QTest::newRow("digit first refused") << "7x"
-                                         << "X";
-    QTest::newRow("blank refused") << "a b"
-                                   << "AB";
-}
-
-void TstDefectEditor::userIdInitials()
-{
-    QFETCH(QString, typed);
-    QFETCH(QString, shown);
-
-    const qint64 id = newDefect();
-    QVERIFY(id > 0);
-    KalDefectEditor editor(m_fx.project(), rowOf(id));
-    auto *userId = editor.findChild<QLineEdit *>(QStringLiteral("leUserId"));
-    QVERIFY(userId);
-    userId->clear();
-    QTest::keyClicks(userId, typed);
-    QCOMPARE(userId->text(), shown);
-
-    editor.slotAccepted();
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT user_id FROM defect WHERE id = :id"), {{QStringLiteral("id"), id}})
-                 .toString(),
-             shown);
-}
-
-void TstDefectEditor::reductionFollowsStatus_data()
-{
-    QTest::addColumn<int>("status");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<int>("storedReduction");
-
-    // Defects start in status 6 ("teilweise beseitigt") with a reduction.
-    QTest::newRow("open status clears the reduction") << 1 << false << 0;
-    QTest::newRow("another open status") << 4 << false << 0;
-    QTest::newRow("settled status with reduction keeps it") << 7 << true << 1;
-    QTest::newRow("same status keeps it") << 6 << true << 1;
-}
-
-void TstDefectEditor::reductionFollowsStatus()
-{
-    QFETCH(int, status);
-    QFETCH(bool, enabled);
-    QFETCH(int, storedReduction);
-
-    const qint64 id = newDefect({{QStringLiteral("status_id"), 6}, {QStringLiteral("reduction"), 1}});
-    QVERIFY(id > 0);
-    KalDefectEditor editor(m_fx.project(), rowOf(id));
-    auto *reduction = editor.findChild<QCheckBox *>(QStringLiteral("cbReduction"));
-    auto *statusBox = editor.findChild<QComboBox *>(QStringLiteral("cbxStatus"));
-    QVERIFY(reduction && statusBox);
-    QVERIFY(reduction->isEnabled());
-    QVERIFY(reduction->isChecked());
-
-    choose(statusBox, status);
-    QCOMPARE(reduction->isEnabled(), enabled);
-    QCOMPARE(reduction->isChecked(), storedReduction != 0);
-
-    editor.slotAccepted();
-    const QVariantMap bind{{QStringLiteral("id"), id}};
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT reduction FROM defect WHERE id = :id"), bind).toInt(), storedReduction);
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT status_id FROM defect WHERE id = :id"), bind).toInt(), status);
-}
-
-void TstDefectEditor::cancelKeepsCompany()
-{
-    const qint64 id = newDefect({{QStringLiteral("company_id"), m_companyA}});
-    QVERIFY(id > 0);
-    KalSqlTableModel *defects = m_fx.model(QStringLiteral("defect"));
-    const int companyColumn = defects->fieldIndex(QStringLiteral("company_id"));
+private slots:
+    void initTestCase()
     {
-        KalDefectEditor editor(m_fx.project(), rowOf(id));
-        auto *company = editor.findChild<QComboBox *>(QStringLiteral("cbxCompany"));
-        QVERIFY(company);
-        QCOMPARE(company->currentData().toLongLong(), m_companyA);
-        choose(company, m_companyB);
-        // Written into the row at once ...
-        QCOMPARE(defects->data(defects->index(rowOf(id), companyColumn), Qt::EditRole).toLongLong(), m_companyB);
-        // ... and taken back by Cancel.
-        editor.reject();
+        m_prompt = static_cast<KalScriptedPrompt *>(KalPrompt::instance());
+        QVERIFY(m_fx.open());
+        m_companyA = m_fx.addCompany("Alpha Bau", "Maurer", {{"pos", 2}});
+        m_companyB = m_fx.addCompany("Beta Elektro", "Elektriker", {{"pos", 1}});
+        QVERIFY(m_companyA > 0 && m_companyB > 0);
+        QVERIFY(m_fx.reselect());
     }
-    QCOMPARE(defects->data(defects->index(rowOf(id), companyColumn), Qt::EditRole).toLongLong(), m_companyA);
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT company_id FROM defect WHERE id = :id"), {{QStringLiteral("id"), id}})
-                 .toLongLong(),
-             m_companyA);
-}
 
-void TstDefectEditor::okMarksOnlyRealChanges_data()
-{
-    QTest::addColumn<QString>("change");
-    QTest::addColumn<int>("flag");
+    void cleanupTestCase() { m_fx.close(); }
 
-    QTest::newRow("nothing") << "" << 0;
-    QTest::newRow("description") << "description" << 1;
-    QTest::newRow("room") << "room" << 1;
-    QTest::newRow("company") << "company" << 1;
-    QTest::newRow("company and back") << "company-back" << 0;
-    QTest::newRow("deadline") << "deadline" << 1;
-    QTest::newRow("text typed and removed") << "retyped" << 0;
-}
+    void init() { m_prompt->clear(); }
 
-void TstDefectEditor::okMarksOnlyRealChanges()
-{
-    QFETCH(QString, change);
-    QFETCH(int, flag);
-
-    const qint64 id = newDefect({{QStringLiteral("description"), QStringLiteral("Riss im Putz")},
-                                 {QStringLiteral("company_id"), m_companyA},
-                                 {QStringLiteral("status_id"), 1}});
-    QVERIFY(id > 0);
-    m_fx.project()->setModified(false);
+    void userIdInitials_data()
     {
-        KalDefectEditor editor(m_fx.project(), rowOf(id));
-        auto *company = editor.findChild<QComboBox *>(QStringLiteral("cbxCompany"));
-        if (change == QLatin1String("description"))
-            editor.findChild<QTextEdit *>(QStringLiteral("teDescription"))->setPlainText(QStringLiteral("Riss"));
-        else if (change == QLatin1String("room"))
-            editor.findChild<QLineEdit *>(QStringLiteral("leRoomName"))->setText(QStringLiteral("Küche"));
-        else if (change == QLatin1String("company"))
-            choose(company, m_companyB);
-        else if (change == QLatin1String("company-back")) {
-            choose(company, m_companyB);
-            choose(company, m_companyA);
-        } else if (change == QLatin1String("deadline"))
-            editor.findChild<KalDateEdit *>(QStringLiteral("deDeadline1"))->setDate(QDate(2030, 5, 17));
-        else if (change == QLatin1String("retyped")) {
-            auto *type = editor.findChild<QLineEdit *>(QStringLiteral("leType"));
-            type->setText(QStringLiteral("x"));
-            type->clear();
-        }
-        editor.slotAccepted();
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("shown");
+
+        for (const auto &row : {std::pair<const char *, const char *>{"KM", "KM"},
+                                {"km", "KM"},
+                                {"kM", "KM"},
+                                {"abc", "AB"},
+                                {"a1", "A"},
+                                {"7x", "X"},
+                                {"a b", "AB"}})
+            QTest::newRow(row.first) << QString(row.first) << QString(row.second);
     }
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT site_journal_data_modified FROM defect WHERE id = :id"),
-                         {{QStringLiteral("id"), id}})
-                 .toInt(),
-             flag);
-    // Without a change nothing is written, so the project stays unmodified.
-    QCOMPARE(m_fx.project()->isModified(), flag == 1);
-    if (change == QLatin1String("deadline")) {
-        QCOMPARE(
-            m_fx.scalar(QStringLiteral("SELECT deadline_1 FROM defect WHERE id = :id"), {{QStringLiteral("id"), id}})
-                .toString(),
-            QStringLiteral("2030-05-17"));
-    }
-}
 
-void TstDefectEditor::combosFollowPositions()
-{
-    const qint64 id = newDefect();
-    KalDefectEditor editor(m_fx.project(), rowOf(id));
-    auto *company = editor.findChild<QComboBox *>(QStringLiteral("cbxCompany"));
-    auto *status = editor.findChild<QComboBox *>(QStringLiteral("cbxStatus"));
-    auto *plan = editor.findChild<QComboBox *>(QStringLiteral("cbxPlan"));
-    QVERIFY(company && status && plan);
-
-    // "Beta" has pos 1, "Alpha" pos 2; "Neu..." ends the list.
-    QCOMPARE(company->count(), 3);
-    QCOMPARE(company->itemData(0).toLongLong(), m_companyB);
-    QCOMPARE(company->itemData(1).toLongLong(), m_companyA);
-    QVERIFY(company->itemText(0).contains(QStringLiteral("Beta Elektro")));
-    QCOMPARE(company->itemText(2), QStringLiteral("Neu..."));
-    QCOMPARE(company->currentIndex(), -1);
-
-    QCOMPARE(status->count(), 9);
-    for (int i = 0; i < 8; ++i)
-        QCOMPARE(status->itemData(i).toInt(), i + 1);
-    QCOMPARE(status->itemText(0), QStringLiteral("Offen, zu beseitigen"));
-    QCOMPARE(status->itemText(8), QStringLiteral("Neu..."));
-
-    QCOMPARE(plan->count(), 2);
-    QCOMPARE(plan->itemText(0), QStringLiteral("Neu..."));
-    QCOMPARE(plan->itemText(1), QStringLiteral("Planzuordnung aufheben"));
-    editor.reject();
-}
-
-void TstDefectEditor::invalidDateKeepsDialogOpen()
-{
-    const qint64 id = newDefect({{QStringLiteral("correction_date"), QDate(2031, 1, 2)}});
-    KalDefectEditor editor(m_fx.project(), rowOf(id));
-    editor.show();
-    auto *date = editor.findChild<KalDateEdit *>(QStringLiteral("deCorrectionDate"));
-    QCOMPARE(date->date(), QDate(2031, 1, 2));
-    date->setText(QStringLiteral("31.02.2020"));
-    editor.slotAccepted();
-    QVERIFY(editor.isVisible());
-    QTRY_VERIFY(m_prompt->hasTitle(QStringLiteral("Format-Fehler")));
-    // The stored date is untouched.
-    QCOMPARE(
-        m_fx.scalar(QStringLiteral("SELECT correction_date FROM defect WHERE id = :id"), {{QStringLiteral("id"), id}})
-            .toString(),
-        QStringLiteral("2031-01-02"));
-    editor.reject();
-    QCoreApplication::processEvents();
-}
-
-void TstDefectEditor::newStatusFromEditor_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<bool>("created");
-
-    QTest::newRow("a name") << "Abgenommen" << true;
-    QTest::newRow("empty") << "" << false;
-    QTest::newRow("blanks only") << "   " << false;
-}
-
-void TstDefectEditor::newStatusFromEditor()
-{
-    QFETCH(QString, name);
-    QFETCH(bool, created);
-
-    const int statusesBefore = m_fx.scalar(QStringLiteral("SELECT COUNT(*) FROM status")).toInt();
-    const qint64 id = newDefect({{QStringLiteral("status_id"), 7}, {QStringLiteral("reduction"), 1}});
-    QString title;
+    void userIdInitials()
     {
+        QFETCH(QString, typed);
+        QFETCH(QString, shown);
+
+        const qint64 id = newDefect();
+        QVERIFY(id > 0);
         KalDefectEditor editor(m_fx.project(), rowOf(id));
-        auto *status = editor.findChild<QComboBox *>(QStringLiteral("cbxStatus"));
+        auto *userId = editor.findChild<QLineEdit *>(QStringLiteral("leUserId"));
+        QVERIFY(userId);
+        userId->clear();
+        QTest::keyClicks(userId, typed);
+        QCOMPARE(userId->text(), shown);
+
+        kalPress(&editor, QDialogButtonBox::Ok);
+        QCOMPARE(m_fx.field("defect", id, "user_id").toString(), shown);
+    }
+
+    void reductionFollowsStatus_data()
+    {
+        QTest::addColumn<int>("status");
+        QTest::addColumn<bool>("enabled");
+        QTest::addColumn<int>("storedReduction");
+
+        // Defects start in status 6 ("teilweise beseitigt") with a reduction.
+        QTest::newRow("open status clears the reduction") << 1 << false << 0;
+        QTest::newRow("another open status") << 4 << false << 0;
+        QTest::newRow("settled status with reduction keeps it") << 7 << true << 1;
+        QTest::newRow("same status keeps it") << 6 << true << 1;
+    }
+
+    void reductionFollowsStatus()
+    {
+        QFETCH(int, status);
+        QFETCH(bool, enabled);
+        QFETCH(int, storedReduction);
+
+        const qint64 id = newDefect({{QStringLiteral("status_id"), 6}, {QStringLiteral("reduction"), 1}});
+        QVERIFY(id > 0);
+        KalDefectEditor editor(m_fx.project(), rowOf(id));
         auto *reduction = editor.findChild<QCheckBox *>(QStringLiteral("cbReduction"));
-        ModalAnswer<QInputDialog> answer([&](QInputDialog *input) {
-            title = input->windowTitle();
-            input->setTextValue(name);
-            input->accept();
-        });
-        choose(status, KalDefectEditor::NewEntry);
-        QVERIFY(answer.seen());
-        QCOMPARE(title, QStringLiteral("Neuen Status anlegen"));
-        if (created) {
-            QCOMPARE(status->currentText(), name);
-            QCOMPARE(status->itemText(status->count() - 1), QStringLiteral("Neu..."));
-            // A new user status has no reduction option.
-            QVERIFY(!reduction->isEnabled());
-            QVERIFY(!reduction->isChecked());
-        } else {
-            QCOMPARE(status->currentData().toInt(), 7);
-            QVERIFY(reduction->isChecked());
-        }
-        // The status stays even though the defect edit is cancelled.
-        editor.reject();
-    }
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT COUNT(*) FROM status")).toInt(), statusesBefore + (created ? 1 : 0));
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT status_id FROM defect WHERE id = :id"), {{QStringLiteral("id"), id}})
-                 .toInt(),
-             7);
-    if (created) {
-        QSqlQuery q(m_fx.project()->database());
-        q.prepare(QStringLiteral("SELECT id, type, color, reduction_option, pos FROM status WHERE status = :name"));
-        q.bindValue(QStringLiteral(":name"), name);
-        QVERIFY(q.exec() && q.next());
-        QVERIFY(q.value(0).toInt() > 8);
-        QCOMPARE(q.value(1).toInt(), 2);
-        QCOMPARE(q.value(2).toString(), QStringLiteral("#859FAF"));
-        QCOMPARE(q.value(3).toInt(), 0);
-        QCOMPARE(q.value(4).toInt(), statusesBefore + 1);
-    }
-}
+        auto *statusBox = editor.findChild<QComboBox *>(QStringLiteral("cbxStatus"));
+        QVERIFY(reduction && statusBox);
+        QVERIFY(reduction->isEnabled());
+        QVERIFY(reduction->isChecked());
 
-void TstDefectEditor::newCompanyFromEditorStays()
-{
-    const qint64 id = newDefect({{QStringLiteral("company_id"), m_companyA}});
-    qint64 created = -1;
+        choose(statusBox, status);
+        QCOMPARE(reduction->isEnabled(), enabled);
+        QCOMPARE(reduction->isChecked(), storedReduction != 0);
+
+        kalPress(&editor, QDialogButtonBox::Ok);
+        QCOMPARE(m_fx.field("defect", id, "reduction").toInt(), storedReduction);
+        QCOMPARE(m_fx.field("defect", id, "status_id").toInt(), status);
+    }
+
+    void cancelKeepsCompany()
     {
+        const qint64 id = newDefect({{QStringLiteral("company_id"), m_companyA}});
+        QVERIFY(id > 0);
+        KalSqlTableModel *defects = m_fx.model(QStringLiteral("defect"));
+        const int companyColumn = defects->fieldIndex(QStringLiteral("company_id"));
+        {
+            KalDefectEditor editor(m_fx.project(), rowOf(id));
+            auto *company = editor.findChild<QComboBox *>(QStringLiteral("cbxCompany"));
+            QVERIFY(company);
+            QCOMPARE(company->currentData().toLongLong(), m_companyA);
+            choose(company, m_companyB);
+            // Written into the row at once ...
+            QCOMPARE(defects->data(defects->index(rowOf(id), companyColumn), Qt::EditRole).toLongLong(), m_companyB);
+            // ... and taken back by Cancel.
+            kalPress(&editor, QDialogButtonBox::Cancel);
+        }
+        QCOMPARE(defects->data(defects->index(rowOf(id), companyColumn), Qt::EditRole).toLongLong(), m_companyA);
+        QCOMPARE(m_fx.field("defect", id, "company_id").toLongLong(), m_companyA);
+    }
+
+    void okMarksOnlyRealChanges_data()
+    {
+        QTest::addColumn<QString>("change");
+        QTest::addColumn<int>("flag");
+
+        const QList<QPair<QString, int>> rows{{"", 0},        {"description", 1},  {"room", 1},
+                                              {"company", 1}, {"company-back", 0}, {"deadline", 1},
+                                              {"retyped", 0}};
+        for (const auto &row : rows)
+            QTest::newRow(row.first.isEmpty() ? "nothing" : qPrintable(row.first)) << row.first << row.second;
+    }
+
+    void okMarksOnlyRealChanges()
+    {
+        QFETCH(QString, change);
+        QFETCH(int, flag);
+
+        const qint64 id = newDefect({{QStringLiteral("description"), QStringLiteral("Riss im Putz")},
+                                     {QStringLiteral("company_id"), m_companyA},
+                                     {QStringLiteral("status_id"), 1}});
+        QVERIFY(id > 0);
+        m_fx.project()->setModified(false);
+        {
+            KalDefectEditor editor(m_fx.project(), rowOf(id));
+            auto *company = editor.findChild<QComboBox *>(QStringLiteral("cbxCompany"));
+            if (change == QLatin1String("description"))
+                editor.findChild<QTextEdit *>(QStringLiteral("teDescription"))->setPlainText(QStringLiteral("Riss"));
+            else if (change == QLatin1String("room"))
+                editor.findChild<QLineEdit *>(QStringLiteral("leRoomName"))->setText(QStringLiteral("Küche"));
+            else if (change == QLatin1String("company"))
+                choose(company, m_companyB);
+            else if (change == QLatin1String("company-back")) {
+                choose(company, m_companyB);
+                choose(company, m_companyA);
+            } else if (change == QLatin1String("deadline"))
+                editor.findChild<KalDateEdit *>(QStringLiteral("deDeadline1"))->setDate(QDate(2030, 5, 17));
+            else if (change == QLatin1String("retyped")) {
+                auto *type = editor.findChild<QLineEdit *>(QStringLiteral("leType"));
+                type->setText(QStringLiteral("x"));
+                type->clear();
+            }
+            kalPress(&editor, QDialogButtonBox::Ok);
+        }
+        QCOMPARE(m_fx.field("defect", id, "site_journal_data_modified").toInt(), flag);
+        // Without a change nothing is written, so the project stays unmodified.
+        QCOMPARE(m_fx.project()->isModified(), flag == 1);
+        if (change == QLatin1String("deadline"))
+            QCOMPARE(m_fx.field("defect", id, "deadline_1").toString(), QStringLiteral("2030-05-17"));
+    }
+
+    void combosFollowPositions()
+    {
+        const qint64 id = newDefect();
         KalDefectEditor editor(m_fx.project(), rowOf(id));
         auto *company = editor.findChild<QComboBox *>(QStringLiteral("cbxCompany"));
-        ModalAnswer<KalCompanyDialog> answer([&](KalCompanyDialog *dialog) {
-            dialog->findChild<QLineEdit *>(QStringLiteral("leCompany"))->setText(QStringLiteral("Gamma Glas"));
-            dialog->findChild<QLineEdit *>(QStringLiteral("leType"))->setText(QStringLiteral("Glaser"));
-            dialog->accept();
-        });
-        choose(company, KalDefectEditor::NewEntry);
-        QVERIFY(answer.seen());
-        created = company->currentData().toLongLong();
-        QVERIFY(created > m_companyB);
-        QVERIFY(company->currentText().contains(QStringLiteral("Gamma Glas")));
-        editor.slotAccepted();
+        auto *status = editor.findChild<QComboBox *>(QStringLiteral("cbxStatus"));
+        auto *plan = editor.findChild<QComboBox *>(QStringLiteral("cbxPlan"));
+        QVERIFY(company && status && plan);
+
+        // "Beta" has pos 1, "Alpha" pos 2; "Neu..." ends the list.
+        QCOMPARE(company->count(), 3);
+        QCOMPARE(company->itemData(0).toLongLong(), m_companyB);
+        QCOMPARE(company->itemData(1).toLongLong(), m_companyA);
+        QVERIFY(company->itemText(0).contains(QStringLiteral("Beta Elektro")));
+        QCOMPARE(company->itemText(2), QStringLiteral("Neu..."));
+        QCOMPARE(company->currentIndex(), -1);
+
+        // Statuses in their `pos` order, as stored; "Neu..." ends the list.
+        QSqlQuery q(m_fx.project()->database());
+        QVERIFY(q.exec("SELECT id FROM status ORDER BY pos"));
+        QList<int> stored, shown;
+        while (q.next())
+            stored << q.value(0).toInt();
+        for (int i = 0; i < status->count() - 1; ++i)
+            shown << status->itemData(i).toInt();
+        QCOMPARE(shown, stored);
+        QCOMPARE(status->itemText(status->count() - 1), QStringLiteral("Neu..."));
+
+        QCOMPARE(plan->count(), 2);
+        QCOMPARE(plan->itemText(0), QStringLiteral("Neu..."));
+        QCOMPARE(plan->itemText(1), QStringLiteral("Planzuordnung aufheben"));
+        kalPress(&editor, QDialogButtonBox::Cancel);
     }
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT company_id FROM defect WHERE id = :id"), {{QStringLiteral("id"), id}})
-                 .toLongLong(),
-             created);
-    QCOMPARE(
-        m_fx.scalar(QStringLiteral("SELECT company FROM company WHERE id = :id"), {{QStringLiteral("id"), created}})
-            .toString(),
-        QStringLiteral("Gamma Glas"));
-    QCOMPARE(m_fx.scalar(QStringLiteral("SELECT site_journal_data_modified FROM defect WHERE id = :id"),
-                         {{QStringLiteral("id"), id}})
-                 .toInt(),
-             1);
-    // Clean up so the other tests keep their two companies.
-    QVERIFY(m_fx.exec(QStringLiteral("DELETE FROM company WHERE id = :id"), {{QStringLiteral("id"), created}}));
-    QVERIFY(m_fx.reselect());
-}
+
+    void invalidDateKeepsDialogOpen()
+    {
+        const qint64 id = newDefect({{QStringLiteral("correction_date"), QDate(2031, 1, 2)}});
+        KalDefectEditor editor(m_fx.project(), rowOf(id));
+        editor.show();
+        auto *date = editor.findChild<KalDateEdit *>(QStringLiteral("deCorrectionDate"));
+        QCOMPARE(date->date(), QDate(2031, 1, 2));
+        date->setText(QStringLiteral("31.02.2020"));
+        kalPress(&editor, QDialogButtonBox::Ok);
+        QVERIFY(editor.isVisible());
+        QTRY_VERIFY(m_prompt->hasTitle(QStringLiteral("Format-Fehler")));
+        // The stored date is untouched.
+        QCOMPARE(m_fx.field("defect", id, "correction_date").toString(), QStringLiteral("2031-01-02"));
+        kalPress(&editor, QDialogButtonBox::Cancel);
+    }
+
+    void newStatusFromEditor_data()
+    {
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<bool>("created");
+
+        QTest::newRow("a name") << "Abgenommen" << true;
+        QTest::newRow("empty") << "" << false;
+        QTest::newRow("blanks only") << "   " << false;
+    }
+
+    void newStatusFromEditor()
+    {
+        QFETCH(QString, name);
+        QFETCH(bool, created);
+
+        const int statusesBefore = m_fx.count("status");
+        const qint64 id = newDefect({{QStringLiteral("status_id"), 7}, {QStringLiteral("reduction"), 1}});
+        QString title;
+        {
+            KalDefectEditor editor(m_fx.project(), rowOf(id));
+            auto *status = editor.findChild<QComboBox *>(QStringLiteral("cbxStatus"));
+            auto *reduction = editor.findChild<QCheckBox *>(QStringLiteral("cbReduction"));
+            KalDialogAnswer<QInputDialog> answer([&](QInputDialog *input) {
+                title = input->windowTitle();
+                input->setTextValue(name);
+                input->accept();
+            });
+            choose(status, KalDefectEditor::NewEntry);
+            QVERIFY(answer.seen());
+            QCOMPARE(title, QStringLiteral("Neuen Status anlegen"));
+            if (created) {
+                QCOMPARE(status->currentText(), name);
+                QCOMPARE(status->itemText(status->count() - 1), QStringLiteral("Neu..."));
+                // A new user status has no reduction option.
+                QVERIFY(!reduction->isEnabled());
+                QVERIFY(!reduction->isChecked());
+            } else {
+                QCOMPARE(status->currentData().toInt(), 7);
+                QVERIFY(reduction->isChecked());
+            }
+            // The status stays even though the defect edit is cancelled.
+            kalPress(&editor, QDialogButtonBox::Cancel);
+        }
+        QCOMPARE(m_fx.count("status"), statusesBefore + (created ? 1 : 0));
+        QCOMPARE(m_fx.field("defect", id, "status_id").toInt(), 7);
+        if (created) {
+            QSqlQuery q(m_fx.project()->database());
+            q.prepare(QStringLiteral("SELECT id, type, color, reduction_option, pos FROM status WHERE status = :name"));
+            q.bindValue(QStringLiteral(":name"), name);
+            QVERIFY(q.exec() && q.next());
+            QVERIFY(q.value(0).toInt() > 8);
+            QCOMPARE(q.value(1).toInt(), 2);
+            QCOMPARE(q.value(2).toString(), QStringLiteral("#859FAF"));
+            QCOMPARE(q.value(3).toInt(), 0);
+            QCOMPARE(q.value(4).toInt(), statusesBefore + 1);
+        }
+    }
+
+    void newCompanyFromEditorStays()
+    {
+        const qint64 id = newDefect({{QStringLiteral("company_id"), m_companyA}});
+        qint64 created = -1;
+        {
+            KalDefectEditor editor(m_fx.project(), rowOf(id));
+            auto *company = editor.findChild<QComboBox *>(QStringLiteral("cbxCompany"));
+            KalDialogAnswer<KalCompanyDialog> answer([&](KalCompanyDialog *dialog) {
+                dialog->findChild<QLineEdit *>(QStringLiteral("leCompany"))->setText(QStringLiteral("Gamma Glas"));
+                dialog->findChild<QLineEdit *>(QStringLiteral("leType"))->setText(QStringLiteral("Glaser"));
+                kalPress(dialog, QDialogButtonBox::Ok);
+            });
+            choose(company, KalDefectEditor::NewEntry);
+            QVERIFY(answer.seen());
+            created = company->currentData().toLongLong();
+            QVERIFY(created > m_companyB);
+            QVERIFY(company->currentText().contains(QStringLiteral("Gamma Glas")));
+            kalPress(&editor, QDialogButtonBox::Ok);
+        }
+        QCOMPARE(m_fx.field("defect", id, "company_id").toLongLong(), created);
+        QCOMPARE(m_fx.field("company", created, "company").toString(), QStringLiteral("Gamma Glas"));
+        QCOMPARE(m_fx.field("defect", id, "site_journal_data_modified").toInt(), 1);
+        // Clean up so the other tests keep their two companies.
+        QVERIFY(m_fx.exec("DELETE FROM company WHERE id = :id", {{"id", created}}));
+        QVERIFY(m_fx.reselect());
+    }
+};
+
+KAL_WIDGET_TEST_MAIN(TstDefectEditor)
+#include "tst_defecteditor.moc"

@@ -1,10 +1,10 @@
 #include "core/project/KalDefects.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
-#include "dialogs_fixture.h"
 #include "gui/editors/KalDefectEditor.h"
 #include "gui/textaids/KalCompleterDialog.h"
 #include "support/KalScriptedPrompt.h"
+#include "support/KalTestProject.h"
 #include "support/KalWidgetTestMain.h"
 
 #include <QComboBox>
@@ -57,7 +57,7 @@ private slots:
 
     void newStatusShowsItsHint()
     {
-        DialogsFixture fx;
+        KalTestProject fx;
         QVERIFY(fx.open());
         const qint64 id = KalDefects(*fx.project()).add();
         QVERIFY(id > 0);
@@ -89,9 +89,6 @@ private slots:
     }
 };
 
-int main(int argc, char **argv)
-{
-    return kalRunWidgetTests<TstDialogSizes>(argc, argv);
-}
+KAL_WIDGET_TEST_MAIN(TstDialogSizes)
 
 #include "tst_dialogsizes.moc"

@@ -1,11 +1,10 @@
-#include "TextAidsTests.h"
 #include "core/project/KalEnvironment.h"
-#include "core/textaids/KalDateFormat.h"
 #include "gui/textaids/KalCompleterLineEdit.h"
 #include "gui/textaids/KalCompleterTextEdit.h"
 #include "gui/textaids/KalDateEdit.h"
 #include "gui/textaids/KalTextAidsEditors.h"
 #include "support/KalScriptedPrompt.h"
+#include "support/KalWidgetTestMain.h"
 
 #include <QCalendarWidget>
 #include <QSignalSpy>
@@ -43,29 +42,19 @@ private slots:
         QVERIFY(prompt()->shown().isEmpty());
     }
 
+    // The notation itself is the date format's business; the field warns
+    // once, after the current event, and keeps what was typed.
     void parsing_data()
     {
         QTest::addColumn<QLocale>("locale");
         QTest::addColumn<QString>("text");
         QTest::addColumn<QDate>("expected"); // invalid: a warning is due
         QTest::addColumn<QString>("pattern");
-
         const QLocale de(QLocale::German, QLocale::Germany);
-        const QLocale us(QLocale::English, QLocale::UnitedStates);
-        const QLocale gb(QLocale::English, QLocale::UnitedKingdom);
-        const QLocale es(QLocale::Spanish, QLocale::Spain);
-        QTest::newRow("German full") << de << "01.02.2024" << QDate(2024, 2, 1) << "TT.MM.JJJJ";
         QTest::newRow("German short") << de << "1.2.24" << QDate(2024, 2, 1) << "TT.MM.JJJJ";
-        QTest::newRow("German without year") << de << "1.2." << QDate(2025, 2, 1) << "TT.MM.JJJJ";
         QTest::newRow("German no such day") << de << "31.02.2020" << QDate() << "TT.MM.JJJJ";
-        QTest::newRow("German words") << de << "morgen" << QDate() << "TT.MM.JJJJ";
-        QTest::newRow("USA") << us << "02/01/2024" << QDate(2024, 2, 1) << "MM/DD/YYYY";
-        QTest::newRow("USA without year") << us << "2/1" << QDate(2025, 2, 1) << "MM/DD/YYYY";
-        QTest::newRow("USA day first is wrong") << us << "31/01/2024" << QDate() << "MM/DD/YYYY";
-        QTest::newRow("UK") << gb << "31/01/2024" << QDate(2024, 1, 31) << "DD/MM/YYYY";
-        QTest::newRow("Spain") << es << "31/02/2020" << QDate() << "DD/MM/AAAA";
-        QTest::newRow("other language") << QLocale(QLocale::French, QLocale::France) << "1.13.2020" << QDate()
-                                        << "TT.MM.JJJJ";
+        QTest::newRow("USA day first is wrong")
+            << QLocale(QLocale::English, QLocale::UnitedStates) << "31/01/2024" << QDate() << "MM/DD/YYYY";
     }
 
     void parsing()
@@ -87,7 +76,6 @@ private slots:
         QCoreApplication::processEvents();
         if (expected.isValid()) {
             QVERIFY(prompt()->shown().isEmpty());
-            QCOMPARE(KalDateFormat::parse(KalDateFormat::toText(expected)), expected);
         } else {
             QCOMPARE(prompt()->titles(), QStringList{QStringLiteral("Format-Fehler")});
             QCOMPARE(prompt()->texts().first(),
@@ -223,10 +211,5 @@ private slots:
     }
 };
 
-int runDateEditTests(int argc, char **argv)
-{
-    TestDateEdit test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+KAL_WIDGET_TEST_MAIN(TestDateEdit)
 #include "tst_dateedit.moc"

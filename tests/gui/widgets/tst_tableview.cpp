@@ -1,14 +1,13 @@
-#include "tst_tableview.h"
-
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
 #include "gui/textaids/KalCompleterLineEdit.h"
 #include "gui/textaids/KalCompleterTextEdit.h"
 #include "gui/textaids/KalDateEdit.h"
-#include "gui/widgets/KalHeaderView.h"
 #include "gui/widgets/KalItemDelegate.h"
 #include "gui/widgets/KalTableView.h"
 #include "support/KalScriptedPrompt.h"
+#include "support/KalTestProject.h"
+#include "support/KalWidgetTestMain.h"
 
 #include <QDir>
 #include <QHeaderView>
@@ -44,908 +43,655 @@ QSet<qint64> toSet(const QList<qint64> &ids)
 }
 } // namespace
 
-TstTableView::TstTableView() = default;
-TstTableView::~TstTableView() = default;
-
-void TstTableView::initTestCase()
+class TstTableView : public QObject
 {
-    m_prompt = KalScriptedPrompt::install();
-    m_project.reset(new KalProject);
-    QVERIFY(m_project->newProject());
-    QVERIFY(model(QStringLiteral("defect")));
-}
+    Q_OBJECT
 
-void TstTableView::cleanupTestCase()
-{
-    if (m_project)
-        m_project->closeProject();
-    m_project.reset();
-}
-
-void TstTableView::init()
-{
-    m_prompt->clear();
-    QSqlQuery q(m_project->database());
-    QVERIFY(q.exec(QStringLiteral("DELETE FROM defect")));
-    QVERIFY(q.exec(QStringLiteral("DELETE FROM company")));
-    QVERIFY(q.exec(QStringLiteral("DELETE FROM photo_info")));
-    QVERIFY(q.exec(QStringLiteral("DELETE FROM status WHERE type = 2")));
-    for (const char *table : {"defect", "company", "photo_info", "status"})
-        QVERIFY(model(QLatin1String(table))->select());
-}
-
-KalSqlTableModel *TstTableView::model(const QString &table) const
-{
-    return m_project->model(table);
-}
-
-qint64 TstTableView::insertRow(const QString &table, QVariantMap values)
-{
-    if (!values.contains(QStringLiteral("id")))
-        values.insert(QStringLiteral("id"), m_project->nextId(table));
-    QStringList names;
-    QStringList holders;
-    for (auto it = values.constBegin(); it != values.constEnd(); ++it) {
-        names << it.key();
-        holders << QLatin1Char(':') + it.key();
+private:
+    qint64 insertDefect(const QString &number, const QVariantMap &extra = {})
+    {
+        QVariantMap values{{"number", number}, {"description", "Mangel " + number}, {"site_journal_data_modified", 0}};
+        for (auto it = extra.constBegin(); it != extra.constEnd(); ++it)
+            values.insert(it.key(), it.value());
+        return m_fx.addDefect(values);
     }
-    QSqlQuery q(m_project->database());
-    q.prepare(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                  .arg(table, names.join(QLatin1Char(',')), holders.join(QLatin1Char(','))));
-    for (auto it = values.constBegin(); it != values.constEnd(); ++it)
-        q.bindValue(QLatin1Char(':') + it.key(), it.value());
-    if (!q.exec()) {
-        qWarning("insert into %s: %s", qPrintable(table), qPrintable(q.lastError().text()));
-        return -1;
+
+    qint64 insertCompany(const QString &name)
+    {
+        return m_fx.addCompany(name, "Rohbau", {{"city", "Köln"}, {"modified", 0}});
     }
-    return values.value(QStringLiteral("id")).toLongLong();
-}
 
-qint64 TstTableView::insertDefect(const QString &number, const QVariantMap &extra)
-{
-    QVariantMap values{
-        {"number", number}, {"description", QStringLiteral("Mangel ") + number}, {"site_journal_data_modified", 0}};
-    for (auto it = extra.constBegin(); it != extra.constEnd(); ++it)
-        values.insert(it.key(), it.value());
-    return insertRow(QStringLiteral("defect"), values);
-}
+    KalSqlTableModel *model(const QString &table) const { return m_fx.model(table); }
+    int count(const QString &sql) { return m_fx.value(sql).toInt(); }
 
-qint64 TstTableView::insertCompany(const QString &name)
-{
-    return insertRow(QStringLiteral("company"), {{"type", "Rohbau"},
-                                                 {"firstname", ""},
-                                                 {"lastname", ""},
-                                                 {"company", name},
-                                                 {"street", ""},
-                                                 {"plz", ""},
-                                                 {"city", "Köln"},
-                                                 {"telephone", ""},
-                                                 {"telefax", ""},
-                                                 {"mobile", ""},
-                                                 {"email", ""},
-                                                 {"pos", 1},
-                                                 {"modified", 0}});
-}
+    KalScriptedPrompt *m_prompt = nullptr;
+    KalTestProject m_fx;
 
-int TstTableView::count(const QString &sql) const
-{
-    QSqlQuery q(m_project->database());
-    if (!q.exec(sql) || !q.next())
-        return -1;
-    return q.value(0).toInt();
-}
-
-// --- deleting ------------------------------------------------------------------
-
-void TstTableView::deleteAsksPerTable_data()
-{
-    QTest::addColumn<QString>("table");
-    QTest::addColumn<bool>("viaDeleteKey");
-    QTest::addColumn<QString>("answer");
-    QTest::addColumn<bool>("removed");
-
-    QTest::newRow("status yes") << "status" << false << "Ja" << true;
-    QTest::newRow("status no") << "status" << false << "Nein" << false;
-    QTest::newRow("status key yes") << "status" << true << "Ja" << true;
-    QTest::newRow("company yes") << "company" << false << "Ja" << true;
-    QTest::newRow("company no") << "company" << false << "Nein" << false;
-    QTest::newRow("company key no") << "company" << true << "Nein" << false;
-    QTest::newRow("defect yes") << "defect" << false << "Ja" << true;
-    QTest::newRow("defect key yes") << "defect" << true << "Ja" << true;
-    QTest::newRow("defect no") << "defect" << false << "Nein" << false;
-}
-
-void TstTableView::deleteAsksPerTable()
-{
-    QFETCH(QString, table);
-    QFETCH(bool, viaDeleteKey);
-    QFETCH(QString, answer);
-    QFETCH(bool, removed);
-
-    qint64 id = -1;
-    if (table == QLatin1String("status"))
-        id = insertRow(table,
-                       {{"status", "Prüfen"}, {"color", "#00ff00"}, {"type", 2}, {"reduction_option", 0}, {"pos", 50}});
-    else if (table == QLatin1String("company"))
-        id = insertCompany(QStringLiteral("Maler Schulz"));
-    else
-        id = insertDefect(QStringLiteral("7"));
-    QVERIFY(id > 0);
-    KalSqlTableModel *m = model(table);
-    QVERIFY(m->select());
-    const int rowsBefore = count(QStringLiteral("SELECT COUNT(*) FROM %1").arg(table));
-
-    KalTableView view;
-    view.setModel(m);
-    QVERIFY(view.selectId(id));
-    QSignalSpy deleted(&view, &KalTableView::signalRowsDeleted);
-
-    m_prompt->queueAnswer(answer);
-    if (viaDeleteKey)
-        QTest::keyClick(&view, Qt::Key_Delete);
-    else
-        view.deleteButton()->click();
-
-    QCOMPARE(m_prompt->shown().size(), 1);
-    const KalScriptedPrompt::Shown &shown = m_prompt->shown().first();
-    if (table == QLatin1String("status")) {
-        QCOMPARE(shown.title, QStringLiteral("Status löschen"));
-        QCOMPARE(shown.text, QStringLiteral("Wenn Sie einen Status löschen, der bereits Mängeln zugeordnet ist, "
-                                            "verlieren diese Mängel ihren Status!\nSoll der gewählte Status "
-                                            "tatsächlich gelöscht werden?"));
-    } else {
-        QCOMPARE(shown.title, QStringLiteral("Eintrag entfernen"));
-        QCOMPARE(shown.text, QStringLiteral("Soll der gewählte Eintrag tatsächlich entfernt werden?"));
+private slots:
+    void initTestCase()
+    {
+        m_prompt = static_cast<KalScriptedPrompt *>(KalPrompt::instance());
+        QVERIFY(m_fx.open());
     }
-    QCOMPARE(shown.buttons, QStringList({QStringLiteral("Ja"), QStringLiteral("Nein")}));
 
-    const int stillThere = count(QStringLiteral("SELECT COUNT(*) FROM %1 WHERE id = %2").arg(table).arg(id));
-    QCOMPARE(stillThere, removed ? 0 : 1);
-    QCOMPARE(count(QStringLiteral("SELECT COUNT(*) FROM %1").arg(table)), rowsBefore - (removed ? 1 : 0));
-    QCOMPARE(m->findRowById(id) < 0, removed);
-    QCOMPARE(deleted.count(), removed ? 1 : 0);
-    QVERIFY(!m->isDirty());
-}
+    void cleanupTestCase() { m_fx.close(); }
 
-void TstTableView::deleteRemovesEverySelectedRow()
-{
-    QList<qint64> ids;
-    for (int i = 0; i < 5; ++i)
-        ids << insertCompany(QStringLiteral("Firma %1").arg(i));
-    KalSqlTableModel *m = model(QStringLiteral("company"));
-    QVERIFY(m->select());
-    KalTableView view;
-    view.setModel(m);
-    QCOMPARE(view.selectIds({ids[0], ids[2], ids[4]}), 3);
-
-    m_prompt->queueAnswer(QStringLiteral("Ja"));
-    view.deleteButton()->click();
-
-    QCOMPARE(count(QStringLiteral("SELECT COUNT(*) FROM company")), 2);
-    QCOMPARE(count(QStringLiteral("SELECT COUNT(*) FROM company WHERE id IN (%1, %2)").arg(ids[1]).arg(ids[3])), 2);
-    QCOMPARE(m->rowCount(), 2);
-    // Nothing selected any more: the minus button cannot delete again.
-    QVERIFY(!view.deleteButton()->isEnabled());
-    m_prompt->clear();
-    QTest::keyClick(&view, Qt::Key_Delete);
-    QVERIFY(m_prompt->shown().isEmpty());
-}
-
-// --- selection by id -------------------------------------------------------------
-
-void TstTableView::selectionKeptAcrossSubmit()
-{
-    QList<qint64> ids;
-    for (int i = 1; i <= 6; ++i)
-        ids << insertDefect(QString::number(i));
-    KalSqlTableModel *m = model(QStringLiteral("defect"));
-    QVERIFY(m->select());
-    KalTableView view;
-    view.setModel(m);
-    QCOMPARE(view.selectIds({ids[1], ids[4]}), 2);
-
-    // An edit elsewhere, submitted: the model is selected anew (reset).
-    QSignalSpy reset(m, &QAbstractItemModel::modelReset);
-    const int descriptionColumn = m->fieldIndex(QStringLiteral("description"));
-    QVERIFY(m->setData(m->index(m->findRowById(ids[2]), descriptionColumn), QStringLiteral("geändert")));
-    QVERIFY(m->submitWithNotification(true));
-    QVERIFY(reset.count() > 0);
-
-    QCOMPARE(toSet(view.selectedIds()), toSet({ids[1], ids[4]}));
-    QVERIFY(view.currentIndex().isValid());
-
-    // A submit without notification does not restore anything.
-    QVERIFY(m->setData(m->index(m->findRowById(ids[3]), descriptionColumn), QStringLiteral("wieder")));
-    QVERIFY(m->submitWithNotification(false));
-    QVERIFY(view.selectedIds().isEmpty());
-}
-
-void TstTableView::selectionKeptAcrossSort()
-{
-    // Descriptions in an order unrelated to the ids.
-    const QStringList descriptions{"c", "a", "e", "b", "f", "d"};
-    QList<qint64> ids;
-    for (int i = 0; i < descriptions.size(); ++i)
-        ids << insertDefect(QString::number(i + 1), {{"description", descriptions[i]}});
-    KalSqlTableModel *m = model(QStringLiteral("defect"));
-    QVERIFY(m->select());
-
-    KalTableView view;
-    view.setModel(m);
-    view.resize(900, 400);
-    view.setSortingEnabled(true);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
-
-    QCOMPARE(view.selectIds({ids[1], ids[4]}), 2);
-    const int rowBefore = m->findRowById(ids[1]);
-
-    QHeaderView *header = view.horizontalHeader();
-    const int column = m->fieldIndex(QStringLiteral("description"));
-    const QPoint pos(header->sectionViewportPosition(column) + header->sectionSize(column) / 2, header->height() / 2);
-    QTest::mouseClick(header->viewport(), Qt::LeftButton, Qt::NoModifier, pos);
-
-    QCOMPARE(header->sortIndicatorSection(), column);
-    QVERIFY(m->findRowById(ids[1]) != rowBefore); // the rows really moved
-    QCOMPARE(toSet(view.selectedIds()), toSet({ids[1], ids[4]}));
-    QCOMPARE(view.selectionModel()->selectedRows().size(), 2);
-}
-
-void TstTableView::selectionAndDeleteThroughProxy()
-{
-    QList<qint64> ids;
-    for (const char *name : {"Dach", "Estrich", "Anstrich", "Beton"})
-        ids << insertCompany(QString::fromUtf8(name));
-    KalSqlTableModel *m = model(QStringLiteral("company"));
-    QVERIFY(m->select());
-
-    // A proxy sorted by name in reverse: view rows differ from model rows.
-    QSortFilterProxyModel proxy;
-    proxy.setSourceModel(m);
-    proxy.sort(m->fieldIndex(QStringLiteral("company")), Qt::DescendingOrder);
-    KalTableView view;
-    view.setModel(&proxy);
-    QCOMPARE(view.sqlModel(), m);
-    QVERIFY(view.kalDelegate());
-
-    QCOMPARE(view.selectIds({ids[0], ids[3]}), 2);
-    QCOMPARE(toSet(view.selectedIds()), toSet({ids[0], ids[3]}));
-    QVERIFY(m->setData(m->index(m->findRowById(ids[1]), m->fieldIndex(QStringLiteral("city"))), QStringLiteral("Ulm")));
-    QVERIFY(m->submitWithNotification(true));
-    QCOMPARE(toSet(view.selectedIds()), toSet({ids[0], ids[3]}));
-
-    // Deleting through the proxy removes exactly the selected companies.
-    m_prompt->queueAnswer(QStringLiteral("Ja"));
-    view.deleteButton()->click();
-    QCOMPARE(count(QStringLiteral("SELECT COUNT(*) FROM company")), 2);
-    QCOMPARE(count(QStringLiteral("SELECT COUNT(*) FROM company WHERE id IN (%1, %2)").arg(ids[1]).arg(ids[2])), 2);
-}
-
-// --- editing -------------------------------------------------------------------------
-
-void TstTableView::setModelDataMarksOnlyRealChanges_data()
-{
-    QTest::addColumn<QString>("table");
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QVariant>("stored");
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QVariant>("expected");
-    QTest::addColumn<bool>("changed");
-
-    QTest::newRow("company same text") << "company"
-                                       << "company" << QVariant("Bau GmbH") << "Bau GmbH" << QVariant("Bau GmbH")
-                                       << false;
-    QTest::newRow("company new city") << "company"
-                                      << "city" << QVariant("Köln") << "Bonn" << QVariant("Bonn") << true;
-    QTest::newRow("company email cleared") << "company"
-                                           << "email" << QVariant("a@b.de") << "" << QVariant("") << true;
-    QTest::newRow("photo caption same") << "photo_info"
-                                        << "caption" << QVariant("Foto") << "Foto" << QVariant("Foto") << false;
-    QTest::newRow("photo caption new") << "photo_info"
-                                       << "caption" << QVariant("Foto") << "Riss Decke" << QVariant("Riss Decke")
-                                       << true;
-    QTest::newRow("photo comment new") << "photo_info"
-                                       << "comment" << QVariant("") << "siehe Plan" << QVariant("siehe Plan") << true;
-    QTest::newRow("defect date new") << "defect"
-                                     << "correction_date" << QVariant(QDate(2024, 4, 3)) << "04.04.2024"
-                                     << QVariant(QDate(2024, 4, 4)) << true;
-    QTest::newRow("defect date same, short notation")
-        << "defect"
-        << "correction_date" << QVariant(QDate(2024, 4, 3)) << "3.4.24" << QVariant(QDate(2024, 4, 3)) << false;
-    QTest::newRow("defect date cleared") << "defect"
-                                         << "deadline_1" << QVariant(QDate(2024, 4, 3)) << "" << QVariant(QDate())
-                                         << true;
-    QTest::newRow("defect empty date stays empty") << "defect"
-                                                   << "deadline_2" << QVariant() << "  " << QVariant(QDate()) << false;
-    QTest::newRow("status text new") << "status"
-                                     << "status" << QVariant("Prüfen") << "Geprüft" << QVariant("Geprüft") << true;
-}
-
-void TstTableView::setModelDataMarksOnlyRealChanges()
-{
-    QFETCH(QString, table);
-    QFETCH(QString, field);
-    QFETCH(QVariant, stored);
-    QFETCH(QString, typed);
-    QFETCH(QVariant, expected);
-    QFETCH(bool, changed);
-
-    qint64 id = -1;
-    if (table == QLatin1String("company")) {
-        id = insertCompany(QStringLiteral("Bau GmbH"));
-        QSqlQuery q(m_project->database());
-        q.prepare(QStringLiteral("UPDATE company SET %1 = :v WHERE id = :id").arg(field));
-        q.bindValue(QStringLiteral(":v"), stored);
-        q.bindValue(QStringLiteral(":id"), id);
-        QVERIFY(q.exec());
-    } else if (table == QLatin1String("photo_info")) {
-        const qint64 defect = insertDefect(QStringLiteral("1"));
-        id = insertRow(table, {{"defect_id", defect}, {"pos", 1}, {field, stored}, {"site_journal_data_modified", 0}});
-    } else if (table == QLatin1String("defect")) {
-        id = insertDefect(QStringLiteral("1"), {{field, stored}});
-    } else {
-        id = insertRow(table,
-                       {{"status", stored}, {"color", "#00ff00"}, {"type", 2}, {"reduction_option", 0}, {"pos", 50}});
+    void init()
+    {
+        m_prompt->clear();
+        for (const char *table : {"defect", "company", "photo_info"})
+            QVERIFY(m_fx.exec(QStringLiteral("DELETE FROM %1").arg(table)));
+        QVERIFY(m_fx.exec("DELETE FROM status WHERE type = 2"));
+        QVERIFY(m_fx.reselect());
     }
-    QVERIFY(id > 0);
-    KalSqlTableModel *m = model(table);
-    QVERIFY(m->select());
 
-    KalTableView view;
-    view.setModel(m);
-    KalItemDelegate *delegate = view.kalDelegate();
-    QVERIFY(delegate);
-    const QModelIndex index = m->index(m->findRowById(id), m->fieldIndex(field));
-    QVERIFY(index.isValid());
+    void deleteAsksPerTable_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<bool>("viaDeleteKey");
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<bool>("removed");
 
-    QStyleOptionViewItem option;
-    std::unique_ptr<QWidget> editor(delegate->createEditor(view.viewport(), option, index));
-    QVERIFY(editor);
-    delegate->setEditorData(editor.get(), index);
-    if (auto *line = qobject_cast<QLineEdit *>(editor.get()))
-        line->setText(typed);
-    else if (auto *text = qobject_cast<QTextEdit *>(editor.get()))
-        text->setPlainText(typed);
-    else
-        QFAIL("unexpected editor");
-    delegate->setModelData(editor.get(), m, index);
-
-    const QVariant now = m->data(index, Qt::EditRole);
-    if (expected.type() == QVariant::Date)
-        QCOMPARE(now.toDate(), expected.toDate());
-    else
-        QCOMPARE(now.toString(), expected.toString());
-    QCOMPARE(m->isDirty(), changed);
-
-    const QString flag = flagField(table);
-    if (!flag.isEmpty()) {
-        const QModelIndex flagIndex = m->index(index.row(), m->fieldIndex(flag));
-        QCOMPARE(m->data(flagIndex, Qt::EditRole).toInt(), changed ? 1 : 0);
+        auto row = [](const char *table, bool key, const char *answer, bool removed) {
+            QTest::newRow(qPrintable(QStringLiteral("%1%2 %3").arg(table, key ? " key" : "", answer)))
+                << QString(table) << key << QString(answer) << removed;
+        };
+        for (const char *table : {"status", "company", "defect"}) {
+            row(table, false, "Ja", true);
+            row(table, false, "Nein", false);
+            row(table, true, "Ja", true);
+            row(table, true, "Nein", false);
+        }
     }
-    if (changed) {
+
+    void deleteAsksPerTable()
+    {
+        QFETCH(QString, table);
+        QFETCH(bool, viaDeleteKey);
+        QFETCH(QString, answer);
+        QFETCH(bool, removed);
+
+        qint64 id = -1;
+        if (table == QLatin1String("status"))
+            id = m_fx.insert(
+                table, {{"status", "Prüfen"}, {"color", "#00ff00"}, {"type", 2}, {"reduction_option", 0}, {"pos", 50}});
+        else if (table == QLatin1String("company"))
+            id = insertCompany(QStringLiteral("Maler Schulz"));
+        else
+            id = insertDefect(QStringLiteral("7"));
+        QVERIFY(id > 0);
+        KalSqlTableModel *m = model(table);
+        QVERIFY(m->select());
+        const int rowsBefore = count(QStringLiteral("SELECT COUNT(*) FROM %1").arg(table));
+
+        KalTableView view;
+        view.setModel(m);
+        QVERIFY(view.selectId(id));
+        QSignalSpy deleted(&view, &KalTableView::signalRowsDeleted);
+
+        m_prompt->queueAnswer(answer);
+        if (viaDeleteKey)
+            QTest::keyClick(&view, Qt::Key_Delete);
+        else
+            view.deleteButton()->click();
+
+        QCOMPARE(m_prompt->shown().size(), 1);
+        const KalScriptedPrompt::Shown &shown = m_prompt->shown().first();
+        if (table == QLatin1String("status")) {
+            QCOMPARE(shown.title, QStringLiteral("Status löschen"));
+            QCOMPARE(shown.text, QStringLiteral("Wenn Sie einen Status löschen, der bereits Mängeln zugeordnet ist, "
+                                                "verlieren diese Mängel ihren Status!\nSoll der gewählte Status "
+                                                "tatsächlich gelöscht werden?"));
+        } else {
+            QCOMPARE(shown.title, QStringLiteral("Eintrag entfernen"));
+            QCOMPARE(shown.text, QStringLiteral("Soll der gewählte Eintrag tatsächlich entfernt werden?"));
+        }
+        QCOMPARE(shown.buttons, QStringList({QStringLiteral("Ja"), QStringLiteral("Nein")}));
+
+        const int stillThere = count(QStringLiteral("SELECT COUNT(*) FROM %1 WHERE id = %2").arg(table).arg(id));
+        QCOMPARE(stillThere, removed ? 0 : 1);
+        QCOMPARE(count(QStringLiteral("SELECT COUNT(*) FROM %1").arg(table)), rowsBefore - (removed ? 1 : 0));
+        QCOMPARE(m->findRowById(id) < 0, removed);
+        QCOMPARE(deleted.count(), removed ? 1 : 0);
+        QVERIFY(!m->isDirty());
+    }
+
+    void selectionAndDeleteThroughProxy()
+    {
+        QList<qint64> ids;
+        for (const char *name : {"Dach", "Estrich", "Anstrich", "Beton"})
+            ids << insertCompany(QString::fromUtf8(name));
+        KalSqlTableModel *m = model(QStringLiteral("company"));
+        QVERIFY(m->select());
+
+        // A proxy sorted by name in reverse: view rows differ from model rows.
+        QSortFilterProxyModel proxy;
+        proxy.setSourceModel(m);
+        proxy.sort(m->fieldIndex(QStringLiteral("company")), Qt::DescendingOrder);
+        KalTableView view;
+        view.setModel(&proxy);
+        QCOMPARE(view.sqlModel(), m);
+        QVERIFY(view.kalDelegate());
+
+        QCOMPARE(view.selectIds({ids[0], ids[3]}), 2);
+        QCOMPARE(toSet(view.selectedIds()), toSet({ids[0], ids[3]}));
+        QVERIFY(
+            m->setData(m->index(m->findRowById(ids[1]), m->fieldIndex(QStringLiteral("city"))), QStringLiteral("Ulm")));
         QVERIFY(m->submitWithNotification(true));
-        if (!flag.isEmpty())
-            QCOMPARE(count(QStringLiteral("SELECT %1 FROM %2 WHERE id = %3").arg(flag, table).arg(id)), 1);
+        QCOMPARE(toSet(view.selectedIds()), toSet({ids[0], ids[3]}));
+
+        // Deleting through the proxy removes exactly the selected companies.
+        m_prompt->queueAnswer(QStringLiteral("Ja"));
+        view.deleteButton()->click();
+        QCOMPARE(count(QStringLiteral("SELECT COUNT(*) FROM company")), 2);
+        QCOMPARE(count(QStringLiteral("SELECT COUNT(*) FROM company WHERE id IN (%1, %2)").arg(ids[1]).arg(ids[2])), 2);
+        // Nothing selected any more: neither the minus button nor the key deletes again.
+        QVERIFY(!view.deleteButton()->isEnabled());
+        m_prompt->clear();
+        QTest::keyClick(&view, Qt::Key_Delete);
+        QVERIFY(m_prompt->shown().isEmpty());
     }
-    m->revertAll();
-}
 
-void TstTableView::cellEditsAreWrittenUnlessTheOwnerDecides_data()
-{
-    QTest::addColumn<bool>("submitEdits");
-    QTest::newRow("grid writes at once") << true;
-    QTest::newRow("dialog with OK and Cancel") << false;
-}
+    void setModelDataMarksOnlyRealChanges_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QVariant>("stored");
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QVariant>("expected");
+        QTest::addColumn<bool>("changed");
 
-void TstTableView::cellEditsAreWrittenUnlessTheOwnerDecides()
-{
-    QFETCH(bool, submitEdits);
-    const qint64 id = insertCompany(QStringLiteral("Dach AG"));
-    KalSqlTableModel *m = model(QStringLiteral("company"));
-    QVERIFY(m->select());
-    KalTableView view;
-    view.setSubmitEdits(submitEdits);
-    view.setModel(m);
-    view.resize(900, 300);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
-    const QModelIndex index = m->index(m->findRowById(id), m->fieldIndex(QStringLiteral("city")));
-    view.setCurrentIndex(index);
-    view.edit(index);
-    auto *editor = view.viewport()->findChild<QLineEdit *>();
-    QVERIFY(editor);
-    editor->setText(QStringLiteral("Ulm"));
-    QTest::keyClick(editor, Qt::Key_Return);
-    QCoreApplication::processEvents();
-    QCOMPARE(m->isDirty(), !submitEdits);
-    QSqlQuery q(m_project->database());
-    QVERIFY(q.exec(QStringLiteral("SELECT city, modified FROM company WHERE id = %1").arg(id)) && q.next());
-    QCOMPARE(q.value(0).toString(), submitEdits ? QStringLiteral("Ulm") : QStringLiteral("Köln"));
-    QCOMPARE(q.value(1).toInt(), submitEdits ? 1 : 0);
-    m->revertAll();
-}
+        auto row = [](const char *name, const char *table, const char *field, const QVariant &stored, const char *typed,
+                      const QVariant &expected, bool changed) {
+            QTest::newRow(name) << QString(table) << QString(field) << stored << QString(typed) << expected << changed;
+        };
+        const QDate april3(2024, 4, 3);
+        row("company same text", "company", "company", "Bau GmbH", "Bau GmbH", "Bau GmbH", false);
+        row("company new city", "company", "city", "Köln", "Bonn", "Bonn", true);
+        row("company email cleared", "company", "email", "a@b.de", "", "", true);
+        row("photo caption same", "photo_info", "caption", "Foto", "Foto", "Foto", false);
+        row("photo caption new", "photo_info", "caption", "Foto", "Riss Decke", "Riss Decke", true);
+        row("photo comment new", "photo_info", "comment", "", "siehe Plan", "siehe Plan", true);
+        row("defect date new", "defect", "correction_date", april3, "04.04.2024", QDate(2024, 4, 4), true);
+        row("defect date same, short notation", "defect", "correction_date", april3, "3.4.24", april3, false);
+        row("defect date cleared", "defect", "deadline_1", april3, "", QDate(), true);
+        row("defect empty date stays empty", "defect", "deadline_2", QVariant(), "  ", QDate(), false);
+        row("status text new", "status", "status", "Prüfen", "Geprüft", "Geprüft", true);
+    }
 
-void TstTableView::invalidDateIsRefused()
-{
-    const qint64 id = insertDefect(QStringLiteral("1"), {{"correction_date", QDate(2024, 4, 3)}});
-    KalSqlTableModel *m = model(QStringLiteral("defect"));
-    QVERIFY(m->select());
-    KalTableView view;
-    view.setModel(m);
-    const QModelIndex index = m->index(m->findRowById(id), m->fieldIndex(QStringLiteral("correction_date")));
-    QStyleOptionViewItem option;
-    std::unique_ptr<QWidget> editor(view.kalDelegate()->createEditor(view.viewport(), option, index));
-    auto *line = qobject_cast<QLineEdit *>(editor.get());
-    QVERIFY(line);
-    view.kalDelegate()->setEditorData(line, index);
-    QCOMPARE(line->text(), QStringLiteral("03.04.2024"));
-    line->setText(QStringLiteral("31.02.2020"));
-    view.kalDelegate()->setModelData(line, m, index);
+    void setModelDataMarksOnlyRealChanges()
+    {
+        QFETCH(QString, table);
+        QFETCH(QString, field);
+        QFETCH(QVariant, stored);
+        QFETCH(QString, typed);
+        QFETCH(QVariant, expected);
+        QFETCH(bool, changed);
 
-    QCOMPARE(m->data(index, Qt::EditRole).toDate(), QDate(2024, 4, 3));
-    QVERIFY(line->text().isEmpty()); // the field forgets what could not be read
-    QVERIFY(!m->isDirty());
-    QTRY_COMPARE(m_prompt->shown().size(), 1);
-    QCOMPARE(m_prompt->shown().first().title, QStringLiteral("Format-Fehler"));
-    QCOMPARE(m_prompt->shown().first().text,
-             QStringLiteral("Das eingegebene Datum ist nicht korrekt.\nBitte verwenden Sie das Format TT.MM.JJJJ!"));
-}
+        qint64 id = -1;
+        if (table == QLatin1String("company")) {
+            id = insertCompany(QStringLiteral("Bau GmbH"));
+            QSqlQuery q(m_fx.project()->database());
+            q.prepare(QStringLiteral("UPDATE company SET %1 = :v WHERE id = :id").arg(field));
+            q.bindValue(QStringLiteral(":v"), stored);
+            q.bindValue(QStringLiteral(":id"), id);
+            QVERIFY(q.exec());
+        } else if (table == QLatin1String("photo_info")) {
+            const qint64 defect = insertDefect(QStringLiteral("1"));
+            id = m_fx.insert(table,
+                             {{"defect_id", defect}, {"pos", 1}, {field, stored}, {"site_journal_data_modified", 0}});
+        } else if (table == QLatin1String("defect")) {
+            id = insertDefect(QStringLiteral("1"), {{field, stored}});
+        } else {
+            id = m_fx.insert(
+                table, {{"status", stored}, {"color", "#00ff00"}, {"type", 2}, {"reduction_option", 0}, {"pos", 50}});
+        }
+        QVERIFY(id > 0);
+        KalSqlTableModel *m = model(table);
+        QVERIFY(m->select());
 
-void TstTableView::invalidDateInGridWarnsOnce_data()
-{
-    QTest::addColumn<bool>("byReturn");
-    QTest::newRow("Return") << true;
-    QTest::newRow("focus elsewhere") << false;
-}
+        KalTableView view;
+        view.setModel(m);
+        KalItemDelegate *delegate = view.kalDelegate();
+        QVERIFY(delegate);
+        const QModelIndex index = m->index(m->findRowById(id), m->fieldIndex(field));
+        QVERIFY(index.isValid());
 
-void TstTableView::invalidDateInGridWarnsOnce()
-{
-    QFETCH(bool, byReturn);
-    const qint64 id = insertDefect(QStringLiteral("1"), {{"correction_date", QDate(2024, 4, 3)}});
-    KalSqlTableModel *m = model(QStringLiteral("defect"));
-    QVERIFY(m->select());
+        QStyleOptionViewItem option;
+        std::unique_ptr<QWidget> editor(delegate->createEditor(view.viewport(), option, index));
+        QVERIFY(editor);
+        delegate->setEditorData(editor.get(), index);
+        if (auto *line = qobject_cast<QLineEdit *>(editor.get()))
+            line->setText(typed);
+        else if (auto *text = qobject_cast<QTextEdit *>(editor.get()))
+            text->setPlainText(typed);
+        else
+            QFAIL("unexpected editor");
+        delegate->setModelData(editor.get(), m, index);
 
-    QWidget window;
-    auto *layout = new QVBoxLayout(&window);
-    auto *view = new KalTableView;
-    auto *elsewhere = new QLineEdit;
-    layout->addWidget(view);
-    layout->addWidget(elsewhere);
-    view->setModel(m);
-    window.resize(900, 400);
-    window.show();
-    QApplication::setActiveWindow(&window);
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+        const QVariant now = m->data(index, Qt::EditRole);
+        if (expected.type() == QVariant::Date)
+            QCOMPARE(now.toDate(), expected.toDate());
+        else
+            QCOMPARE(now.toString(), expected.toString());
+        QCOMPARE(m->isDirty(), changed);
 
-    const QModelIndex index = m->index(m->findRowById(id), m->fieldIndex(QStringLiteral("correction_date")));
-    view->setCurrentIndex(index);
-    view->edit(index);
-    auto *editor = qobject_cast<KalDateEdit *>(view->indexWidget(index));
-    QVERIFY(editor);
-    editor->setFocus();
-    QTRY_VERIFY(editor->hasFocus());
-    editor->selectAll();
-    QTest::keyClicks(editor, QStringLiteral("31.02.2020"));
-    if (byReturn)
+        const QString flag = flagField(table);
+        if (!flag.isEmpty()) {
+            const QModelIndex flagIndex = m->index(index.row(), m->fieldIndex(flag));
+            QCOMPARE(m->data(flagIndex, Qt::EditRole).toInt(), changed ? 1 : 0);
+        }
+        if (changed) {
+            QVERIFY(m->submitWithNotification(true));
+            if (!flag.isEmpty())
+                QCOMPARE(count(QStringLiteral("SELECT %1 FROM %2 WHERE id = %3").arg(flag, table).arg(id)), 1);
+        }
+        m->revertAll();
+    }
+
+    void cellEditsAreWrittenUnlessTheOwnerDecides_data()
+    {
+        QTest::addColumn<bool>("submitEdits");
+        QTest::newRow("grid writes at once") << true;
+        QTest::newRow("dialog with OK and Cancel") << false;
+    }
+
+    void cellEditsAreWrittenUnlessTheOwnerDecides()
+    {
+        QFETCH(bool, submitEdits);
+        const qint64 id = insertCompany(QStringLiteral("Dach AG"));
+        KalSqlTableModel *m = model(QStringLiteral("company"));
+        QVERIFY(m->select());
+        KalTableView view;
+        view.setSubmitEdits(submitEdits);
+        view.setModel(m);
+        view.resize(900, 300);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        const QModelIndex index = m->index(m->findRowById(id), m->fieldIndex(QStringLiteral("city")));
+        view.setCurrentIndex(index);
+        view.edit(index);
+        auto *editor = view.viewport()->findChild<QLineEdit *>();
+        QVERIFY(editor);
+        editor->setText(QStringLiteral("Ulm"));
         QTest::keyClick(editor, Qt::Key_Return);
-    else
-        elsewhere->setFocus();
-    QTRY_VERIFY(!view->indexWidget(index));
-    QTest::qWait(50);
-
-    QCOMPARE(m->data(index, Qt::EditRole).toDate(), QDate(2024, 4, 3));
-    QVERIFY(!m->isDirty());
-    QCOMPARE(m_prompt->titles(), QStringList{QStringLiteral("Format-Fehler")});
-}
-
-void TstTableView::multiLineEditorWritesText()
-{
-    // No table asks for the multi-line editor in the grid yet; a view may.
-    const qint64 id = insertDefect(QStringLiteral("1"));
-    KalSqlTableModel *m = model(QStringLiteral("defect"));
-    QVERIFY(m->select());
-    KalTableView view;
-    view.setModel(m);
-    const int column = m->fieldIndex(QStringLiteral("description"));
-    view.kalDelegate()->setEditorNumber(column, KalItemDelegate::SpellTextEdit);
-    const QModelIndex index = m->index(m->findRowById(id), column);
-
-    QStyleOptionViewItem option;
-    std::unique_ptr<QWidget> editor(view.kalDelegate()->createEditor(view.viewport(), option, index));
-    auto *text = qobject_cast<KalCompleterTextEdit *>(editor.get());
-    QVERIFY(text);
-    view.kalDelegate()->setEditorData(text, index);
-    QCOMPARE(text->toPlainText(), QStringLiteral("Mangel 1"));
-    text->setPlainText(QStringLiteral("Zeile 1\nZeile 2"));
-    view.kalDelegate()->setModelData(text, m, index);
-    QCOMPARE(m->data(index, Qt::EditRole).toString(), QStringLiteral("Zeile 1\nZeile 2"));
-    QCOMPARE(m->data(m->index(index.row(), m->fieldIndex(QStringLiteral("site_journal_data_modified"))), Qt::EditRole)
-                 .toInt(),
-             1);
-    m->revertAll();
-}
-
-void TstTableView::editorsPerColumn_data()
-{
-    QTest::addColumn<QString>("table");
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<int>("editorNumber");
-    QTest::addColumn<bool>("hasEditor");
-    QTest::addColumn<QString>("editorClass");
-
-    QTest::newRow("defect reduction (Bool)") << "defect"
-                                             << "reduction" << 9 << false << "";
-    QTest::newRow("defect photo count") << "defect"
-                                        << "image_cnt" << 5 << false << "";
-    QTest::newRow("defect deadline") << "defect"
-                                     << "correction_date" << 4 << true << "KalDateEdit";
-    QTest::newRow("defect third deadline (Date)") << "defect"
-                                                  << "deadline_3" << 4 << true << "KalDateEdit";
-    QTest::newRow("defect number: Qt's editor") << "defect"
-                                                << "number" << 0 << true << "";
-    // Ids shown as names are chosen in the defect editor, never typed.
-    QTest::newRow("defect company id") << "defect"
-                                       << "company_id" << 0 << false << "";
-    QTest::newRow("defect status id") << "defect"
-                                      << "status_id" << 0 << false << "";
-    QTest::newRow("defect plan id") << "defect"
-                                    << "plan_info_id" << 0 << false << "";
-    QTest::newRow("status type") << "status"
-                                 << "type" << 9 << false << "";
-    QTest::newRow("status text") << "status"
-                                 << "status" << 1 << true << "QLineEdit";
-    QTest::newRow("company email") << "company"
-                                   << "email" << 6 << true << "QLineEdit";
-    QTest::newRow("photo caption") << "photo_info"
-                                   << "caption" << 8 << true << "QLineEdit";
-    QTest::newRow("photo comment") << "photo_info"
-                                   << "comment" << 2 << true << "KalCompleterLineEdit";
-    QTest::newRow("photo date") << "photo_info"
-                                << "date" << 4 << true << "KalDateEdit";
-    QTest::newRow("plan name") << "plan_info"
-                               << "plan_name" << 2 << true << "KalCompleterLineEdit";
-    QTest::newRow("plan index") << "plan_info"
-                                << "plan_index" << 2 << true << "KalCompleterLineEdit";
-    QTest::newRow("plan date") << "plan_info"
-                               << "date" << 4 << true << "KalDateEdit";
-}
-
-void TstTableView::editorsPerColumn()
-{
-    QFETCH(QString, table);
-    QFETCH(QString, field);
-    QFETCH(int, editorNumber);
-    QFETCH(bool, hasEditor);
-    QFETCH(QString, editorClass);
-
-    qint64 id = -1;
-    if (table == QLatin1String("defect"))
-        id = insertDefect(QStringLiteral("1"));
-    else if (table == QLatin1String("company"))
-        id = insertCompany(QStringLiteral("Dach AG"));
-    else if (table == QLatin1String("photo_info"))
-        id = insertRow(table, {{"defect_id", insertDefect(QStringLiteral("2"))}, {"pos", 1}});
-    else if (table == QLatin1String("plan_info"))
-        id = insertRow(table, {{"plan_name", "EG"}, {"pos", 1}});
-    else
-        id = 1; // a standard status
-    KalSqlTableModel *m = model(table);
-    QVERIFY(m);
-    QVERIFY(m->select());
-
-    KalTableView view;
-    view.setModel(m);
-    view.resize(900, 300);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
-    const QModelIndex index = m->index(m->findRowById(id), m->fieldIndex(field));
-    QVERIFY(index.isValid());
-    QCOMPARE(view.kalDelegate()->editorNumber(index.column()), editorNumber);
-
-    QStyleOptionViewItem option;
-    std::unique_ptr<QWidget> editor(view.kalDelegate()->createEditor(view.viewport(), option, index));
-    QCOMPARE(bool(editor), hasEditor);
-    if (!editorClass.isEmpty())
-        QCOMPARE(QString::fromLatin1(editor->metaObject()->className()), editorClass);
-    if (editorNumber == 1 || editorNumber == 4 || editorNumber == 6 || editorNumber == 8) {
-        auto *line = qobject_cast<QLineEdit *>(editor.get());
-        QVERIFY(line);
-        QVERIFY(!line->hasFrame());
-        QCOMPARE(line->focusPolicy(), Qt::StrongFocus);
+        QCoreApplication::processEvents();
+        QCOMPARE(m->isDirty(), !submitEdits);
+        QSqlQuery q(m_fx.project()->database());
+        QVERIFY(q.exec(QStringLiteral("SELECT city, modified FROM company WHERE id = %1").arg(id)) && q.next());
+        QCOMPARE(q.value(0).toString(), submitEdits ? QStringLiteral("Ulm") : QStringLiteral("Köln"));
+        QCOMPARE(q.value(1).toInt(), submitEdits ? 1 : 0);
+        m->revertAll();
     }
 
-    // Through the view as the user would start editing.
-    view.setCurrentIndex(index);
-    if (!(m->flags(index) & Qt::ItemIsEnabled))
-        QTest::ignoreMessage(QtWarningMsg, "edit: editing failed");
-    view.edit(index);
-    QCOMPARE(view.indexWidget(index) != nullptr, hasEditor);
-    if (hasEditor) {
-        // The editor commits when its editing is finished.
-        auto *line = qobject_cast<QLineEdit *>(view.indexWidget(index));
-        if (line && editorNumber != 0 && editorNumber != 4) {
+    void invalidDateInGridWarnsOnce_data()
+    {
+        QTest::addColumn<bool>("byReturn");
+        QTest::newRow("Return") << true;
+        QTest::newRow("focus elsewhere") << false;
+    }
+
+    void invalidDateInGridWarnsOnce()
+    {
+        QFETCH(bool, byReturn);
+        const qint64 id = insertDefect(QStringLiteral("1"), {{"correction_date", QDate(2024, 4, 3)}});
+        KalSqlTableModel *m = model(QStringLiteral("defect"));
+        QVERIFY(m->select());
+
+        QWidget window;
+        auto *layout = new QVBoxLayout(&window);
+        auto *view = new KalTableView;
+        auto *elsewhere = new QLineEdit;
+        layout->addWidget(view);
+        layout->addWidget(elsewhere);
+        view->setModel(m);
+        window.resize(900, 400);
+        window.show();
+        QApplication::setActiveWindow(&window);
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+
+        const QModelIndex index = m->index(m->findRowById(id), m->fieldIndex(QStringLiteral("correction_date")));
+        view->setCurrentIndex(index);
+        view->edit(index);
+        auto *editor = qobject_cast<KalDateEdit *>(view->indexWidget(index));
+        QVERIFY(editor);
+        editor->setFocus();
+        QTRY_VERIFY(editor->hasFocus());
+        editor->selectAll();
+        QTest::keyClicks(editor, QStringLiteral("31.02.2020"));
+        if (byReturn)
+            QTest::keyClick(editor, Qt::Key_Return);
+        else
+            elsewhere->setFocus();
+        QTRY_VERIFY(!view->indexWidget(index));
+        QTRY_COMPARE(m_prompt->titles(), QStringList{QStringLiteral("Format-Fehler")});
+        QCoreApplication::processEvents();
+        QCOMPARE(m_prompt->shown().size(), 1);
+        QCOMPARE(m->data(index, Qt::EditRole).toDate(), QDate(2024, 4, 3));
+        QVERIFY(!m->isDirty());
+    }
+
+    void editorsPerColumn_data()
+    {
+        QTest::addColumn<QString>("table");
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("editorClass"); // empty: not edited in the grid; "-": Qt's own editor
+        auto row = [](const char *table, const char *field, const char *editorClass) {
+            QTest::newRow(qPrintable(QStringLiteral("%1 %2").arg(table, field)))
+                << QString(table) << QString(field) << QString(editorClass);
+        };
+        row("defect", "reduction", "");
+        row("defect", "image_cnt", "");
+        row("defect", "correction_date", "KalDateEdit");
+        row("defect", "deadline_3", "KalDateEdit");
+        row("defect", "number", "-");
+        // Ids shown as names are chosen in the defect editor, never typed.
+        row("defect", "company_id", "");
+        row("defect", "status_id", "");
+        row("defect", "plan_info_id", "");
+        row("status", "type", "");
+        row("status", "status", "QLineEdit");
+        row("company", "email", "QLineEdit");
+        row("photo_info", "caption", "QLineEdit");
+        row("photo_info", "comment", "KalCompleterLineEdit");
+        row("photo_info", "date", "KalDateEdit");
+        row("plan_info", "plan_name", "KalCompleterLineEdit");
+        row("plan_info", "date", "KalDateEdit");
+    }
+
+    void editorsPerColumn()
+    {
+        QFETCH(QString, table);
+        QFETCH(QString, field);
+        QFETCH(QString, editorClass);
+
+        qint64 id = 1; // a standard status
+        if (table == QLatin1String("defect"))
+            id = insertDefect(QStringLiteral("1"));
+        else if (table == QLatin1String("company"))
+            id = insertCompany(QStringLiteral("Dach AG"));
+        else if (table == QLatin1String("photo_info"))
+            id = m_fx.insert(table, {{"defect_id", insertDefect(QStringLiteral("2"))}, {"pos", 1}});
+        else if (table == QLatin1String("plan_info"))
+            id = m_fx.insert(table, {{"plan_name", "EG"}, {"pos", 1}});
+        KalSqlTableModel *m = model(table);
+        QVERIFY(m->select());
+
+        KalTableView view;
+        view.setModel(m);
+        view.resize(900, 300);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        const QModelIndex index = m->index(m->findRowById(id), m->fieldIndex(field));
+        QVERIFY(index.isValid());
+
+        // As the user would start editing.
+        view.setCurrentIndex(index);
+        if (!(m->flags(index) & Qt::ItemIsEnabled))
+            QTest::ignoreMessage(QtWarningMsg, "edit: editing failed");
+        view.edit(index);
+        QWidget *editor = view.indexWidget(index);
+        QCOMPARE(editor != nullptr, !editorClass.isEmpty());
+        if (editorClass.isEmpty() || editorClass == "-") {
+            m->revertAll();
+            return;
+        }
+        QCOMPARE(QString::fromLatin1(editor->metaObject()->className()), editorClass);
+        // A text editor commits when its editing is finished.
+        auto *line = qobject_cast<QLineEdit *>(editor);
+        if (line && editorClass != QLatin1String("KalDateEdit")) {
             line->setText(QStringLiteral("X1"));
             emit line->editingFinished();
             QCOMPARE(m->data(index, Qt::EditRole).toString(), QStringLiteral("X1"));
             QTRY_VERIFY(!view.indexWidget(index));
         }
+        m->revertAll();
     }
-    m->revertAll();
-}
 
-// --- column widths ------------------------------------------------------------------
-
-void TstTableView::columnWidthsPerTableAndFormat()
-{
-    QSettings settings;
-    struct Case
+    void columnWidthsPerTableAndFormat()
     {
-        QString table;
-        int format;
-        QString key;
-        int width;
-    };
-    const QVector<Case> cases{
-        {"defect", 1, "TableView/Defect/ShortColumnWidths", 111},
-        {"defect", 2, "TableView/Defect/LongColumnWidths", 222},
-        {"defect", 0, "TableView/Defect/ShortColumnWidths", 0}, // any other format: short widths
-        {"status", 1, "TableView/status/ColumnWidths", 133},
-        {"company", 2, "TableView/company/ColumnWidths", 144},
-    };
-    for (const Case &c : cases) {
-        if (c.width == 0)
-            continue;
-        settings.setValue(kDefectFormat, c.format);
-        QCOMPARE(KalTableView::columnWidthsKey(c.table), c.key);
+        QSettings settings;
+        struct Case
+        {
+            QString table;
+            int format;
+            QString key;
+            int width;
+        };
+        const QVector<Case> cases{
+            {"defect", 1, "TableView/Defect/ShortColumnWidths", 111},
+            {"defect", 2, "TableView/Defect/LongColumnWidths", 222},
+            {"defect", 0, "TableView/Defect/ShortColumnWidths", 0}, // any other format: short widths
+            {"status", 1, "TableView/status/ColumnWidths", 133},
+            {"company", 2, "TableView/company/ColumnWidths", 144},
+        };
+        for (const Case &c : cases) {
+            if (c.width == 0)
+                continue;
+            settings.setValue(kDefectFormat, c.format);
+            QCOMPARE(KalTableView::columnWidthsKey(c.table), c.key);
+            KalTableView view;
+            view.setModel(model(c.table));
+            QCOMPARE(view.columnWidthsKey(), c.key);
+            view.setColumnWidth(1, c.width);
+            view.setColumnWidth(2, c.width + 1);
+            view.setColumnHidden(3, true);
+            view.setModel(nullptr); // leaving a model stores its widths
+            const QStringList stored = settings.value(c.key).toStringList();
+            QVERIFY2(stored.size() >= 4, qPrintable(c.key));
+            QCOMPARE(stored.at(1).toInt(), c.width);
+            QCOMPARE(stored.at(2).toInt(), c.width + 1);
+        }
+
+        // Fresh views get the widths of their table and format back.
+        for (const Case &c : cases) {
+            settings.setValue(kDefectFormat, c.format);
+            KalTableView view;
+            view.setModel(model(c.table));
+            const int expected = c.width ? c.width : 111;
+            QCOMPARE(view.columnWidth(1), expected);
+            QCOMPARE(view.columnWidth(2), expected + 1);
+            QVERIFY(view.columnWidth(3) > 0); // hidden when stored: not restored as zero
+        }
+        settings.setValue(kDefectFormat, 1);
+    }
+
+    void emptyTableHint()
+    {
+        KalSqlTableModel *m = model(QStringLiteral("company"));
+        QCOMPARE(m->rowCount(), 0);
         KalTableView view;
-        view.setModel(model(c.table));
-        QCOMPARE(view.columnWidthsKey(), c.key);
-        view.setColumnWidth(1, c.width);
-        view.setColumnWidth(2, c.width + 1);
-        view.setColumnHidden(3, true);
-        view.setModel(nullptr); // leaving a model stores its widths
-        const QStringList stored = settings.value(c.key).toStringList();
-        QVERIFY2(stored.size() >= 4, qPrintable(c.key));
-        QCOMPARE(stored.at(1).toInt(), c.width);
-        QCOMPARE(stored.at(2).toInt(), c.width + 1);
+        view.resize(600, 300);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        QVERIFY(!view.emptyHintLabel()->isVisible()); // no model, no hint
+
+        view.setModel(m);
+        QLabel *hint = view.emptyHintLabel();
+        QVERIFY(hint->isVisible());
+        QCOMPARE(hint->text(), QStringLiteral("Doppelklick für neue Zeile"));
+        QVERIFY(view.viewport()->rect().contains(hint->geometry()));
+
+        const qint64 id = insertCompany(QStringLiteral("Neu"));
+        QVERIFY(m->select());
+        QVERIFY(!hint->isVisible());
+
+        QVERIFY(view.selectId(id));
+        m_prompt->queueAnswer(QStringLiteral("Ja"));
+        view.deleteButton()->click();
+        QCOMPARE(m->rowCount(), 0);
+        QVERIFY(hint->isVisible());
     }
 
-    // Fresh views get the widths of their table and format back.
-    for (const Case &c : cases) {
-        settings.setValue(kDefectFormat, c.format);
+    void cornerButtons()
+    {
+        const qint64 a = insertCompany(QStringLiteral("A"));
+        insertCompany(QStringLiteral("B"));
+        KalSqlTableModel *m = model(QStringLiteral("company"));
+        QVERIFY(m->select());
         KalTableView view;
-        view.setModel(model(c.table));
-        const int expected = c.width ? c.width : 111;
-        QCOMPARE(view.columnWidth(1), expected);
-        QCOMPARE(view.columnWidth(2), expected + 1);
-        QVERIFY(view.columnWidth(3) > 0); // hidden when stored: not restored as zero
+        view.setModel(m);
+        view.resize(700, 400);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+
+        // Nobody handles adding or copying yet: those buttons are disabled.
+        QVERIFY(!view.addButton()->isEnabled());
+        QVERIFY(!view.copyButton()->isEnabled());
+        QVERIFY(!view.deleteButton()->isEnabled());
+        QVERIFY(!view.addButton()->icon().isNull());
+        QVERIFY(!view.deleteButton()->icon().isNull());
+        QVERIFY(!view.copyButton()->icon().isNull());
+
+        QSignalSpy add(&view, &KalTableView::signalButtonAddClicked);
+        QSignalSpy addOtherName(&view, &KalTableView::signalAddButtonClicked);
+        QSignalSpy copy(&view, &KalTableView::signalButtonCopyClicked);
+        QVERIFY(view.addButton()->isEnabled());
+        QVERIFY(!view.copyButton()->isEnabled()); // nothing selected
+
+        view.addButton()->click();
+        QCOMPARE(add.count(), 1);
+        QCOMPARE(addOtherName.count(), 1);
+
+        // A double click below the rows asks for a new row as well.
+        const QPoint below(20, view.viewport()->height() - 5);
+        QVERIFY(!view.indexAt(below).isValid());
+        QTest::mouseDClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, below);
+        QCOMPARE(add.count(), 2);
+
+        QVERIFY(view.selectId(a));
+        QVERIFY(view.copyButton()->isEnabled());
+        QVERIFY(view.deleteButton()->isEnabled());
+        view.copyButton()->click();
+        QCOMPARE(copy.count(), 1);
+        QCOMPARE(m->rowCount(), 2); // copying is the owner's business
     }
-    settings.setValue(kDefectFormat, 1);
-}
 
-// --- hint and buttons ------------------------------------------------------------------
+    void statusColourPressReportsId()
+    {
+        KalSqlTableModel *m = model(QStringLiteral("status"));
+        QVERIFY(m->select());
+        KalTableView view;
+        view.setModel(m);
+        view.resize(700, 400);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        QSignalSpy spy(&view, &KalTableView::mouseClickOnStatusColorField);
 
-void TstTableView::emptyTableHint()
-{
-    KalSqlTableModel *m = model(QStringLiteral("company"));
-    QCOMPARE(m->rowCount(), 0);
-    KalTableView view;
-    view.resize(600, 300);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
-    QVERIFY(!view.emptyHintLabel()->isVisible()); // no model, no hint
+        const int row = m->findRowById(3);
+        QVERIFY(row >= 0);
+        const QModelIndex colour = m->index(row, m->fieldIndex(QStringLiteral("color")));
+        view.scrollTo(colour);
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, view.visualRect(colour).center());
+        QTRY_COMPARE(spy.count(), 1);
+        QCOMPARE(spy.first().at(1).toLongLong(), qint64(3));
+        QCOMPARE(spy.first().at(0).value<QModelIndex>().row(), row);
 
-    view.setModel(m);
-    QLabel *hint = view.emptyHintLabel();
-    QVERIFY(hint->isVisible());
-    QCOMPARE(hint->text(), QStringLiteral("Doppelklick für neue Zeile"));
-    QCOMPARE(hint->styleSheet(), QStringLiteral("QLabel {color:rgb(154,152,150);}"));
-    QVERIFY(view.viewport()->rect().contains(hint->geometry()));
+        // Another column of the same row reports nothing.
+        const QModelIndex text = m->index(row, m->fieldIndex(QStringLiteral("status")));
+        QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, view.visualRect(text).center());
+        QCoreApplication::processEvents();
+        QCOMPARE(spy.count(), 1);
 
-    const qint64 id = insertCompany(QStringLiteral("Neu"));
-    QVERIFY(m->select());
-    QVERIFY(!hint->isVisible());
-
-    QVERIFY(view.selectId(id));
-    m_prompt->queueAnswer(QStringLiteral("Ja"));
-    view.deleteButton()->click();
-    QCOMPARE(m->rowCount(), 0);
-    QVERIFY(hint->isVisible());
-
-    QCOMPARE(view.horizontalHeader()->styleSheet(), KalHeaderView::styleSheetText());
-    QCOMPARE(view.verticalHeader()->styleSheet(),
-             QStringLiteral("border: 1px solid lightgrey;border-left: 0px;border-right: 0px;border-top: 0px;"));
-}
-
-void TstTableView::cornerButtons()
-{
-    const qint64 a = insertCompany(QStringLiteral("A"));
-    insertCompany(QStringLiteral("B"));
-    KalSqlTableModel *m = model(QStringLiteral("company"));
-    QVERIFY(m->select());
-    KalTableView view;
-    view.setModel(m);
-    view.resize(700, 400);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
-
-    // Nobody handles adding or copying yet: those buttons are disabled.
-    QVERIFY(!view.addButton()->isEnabled());
-    QVERIFY(!view.copyButton()->isEnabled());
-    QVERIFY(!view.deleteButton()->isEnabled());
-    QVERIFY(!view.addButton()->icon().isNull());
-    QVERIFY(!view.deleteButton()->icon().isNull());
-    QVERIFY(!view.copyButton()->icon().isNull());
-
-    QSignalSpy add(&view, &KalTableView::signalButtonAddClicked);
-    QSignalSpy addOtherName(&view, &KalTableView::signalAddButtonClicked);
-    QSignalSpy copy(&view, &KalTableView::signalButtonCopyClicked);
-    QVERIFY(view.addButton()->isEnabled());
-    QVERIFY(!view.copyButton()->isEnabled()); // nothing selected
-
-    view.addButton()->click();
-    QCOMPARE(add.count(), 1);
-    QCOMPARE(addOtherName.count(), 1);
-
-    // A double click below the rows asks for a new row as well.
-    const QPoint below(20, view.viewport()->height() - 5);
-    QVERIFY(!view.indexAt(below).isValid());
-    QTest::mouseDClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, below);
-    QCOMPARE(add.count(), 2);
-
-    QVERIFY(view.selectId(a));
-    QVERIFY(view.copyButton()->isEnabled());
-    QVERIFY(view.deleteButton()->isEnabled());
-    view.copyButton()->click();
-    QCOMPARE(copy.count(), 1);
-    QCOMPARE(m->rowCount(), 2); // copying is the owner's business
-}
-
-void TstTableView::statusColourPressReportsId()
-{
-    KalSqlTableModel *m = model(QStringLiteral("status"));
-    QVERIFY(m->select());
-    KalTableView view;
-    view.setModel(m);
-    view.resize(700, 400);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
-    QSignalSpy spy(&view, &KalTableView::mouseClickOnStatusColorField);
-
-    const int row = m->findRowById(3);
-    QVERIFY(row >= 0);
-    const QModelIndex colour = m->index(row, m->fieldIndex(QStringLiteral("color")));
-    view.scrollTo(colour);
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, view.visualRect(colour).center());
-    QTRY_COMPARE(spy.count(), 1);
-    QCOMPARE(spy.first().at(1).toLongLong(), qint64(3));
-    QCOMPARE(spy.first().at(0).value<QModelIndex>().row(), row);
-
-    // Another column of the same row reports nothing.
-    const QModelIndex text = m->index(row, m->fieldIndex(QStringLiteral("status")));
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, view.visualRect(text).center());
-    QTest::qWait(20);
-    QCOMPARE(spy.count(), 1);
-
-    // The same press in another table's grid reports nothing either.
-    const qint64 id = insertCompany(QStringLiteral("C"));
-    QVERIFY(model(QStringLiteral("company"))->select());
-    KalTableView companies;
-    companies.setModel(model(QStringLiteral("company")));
-    companies.resize(700, 300);
-    companies.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&companies));
-    QSignalSpy other(&companies, &KalTableView::mouseClickOnStatusColorField);
-    KalSqlTableModel *cm = model(QStringLiteral("company"));
-    const QModelIndex cell = cm->index(cm->findRowById(id), 5);
-    QTest::mouseClick(companies.viewport(), Qt::LeftButton, Qt::NoModifier, companies.visualRect(cell).center());
-    QTest::qWait(20);
-    QCOMPARE(other.count(), 0);
-}
-
-void TstTableView::colourAndCameraCellsArePainted()
-{
-    const qint64 none = insertDefect(QStringLiteral("1"), {{"image_cnt", 0}});
-    const qint64 three = insertDefect(QStringLiteral("2"), {{"image_cnt", 3}});
-    KalSqlTableModel *defects = model(QStringLiteral("defect"));
-    QVERIFY(defects->select());
-    KalTableView view;
-    view.setModel(defects);
-    view.resize(1400, 300);
-    const int photos = defects->fieldIndex(QStringLiteral("image_cnt"));
-    view.setColumnWidth(photos, 80);
-    view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
-    view.scrollTo(defects->index(0, photos));
-
-    // Dark pixels in the cell: the camera (and the count) are drawn.
-    auto darkPixels = [&](const QRect &rect) {
-        const QImage image = view.viewport()->grab(rect).toImage();
-        int dark = 0;
-        for (int y = 0; y < image.height(); ++y)
-            for (int x = 0; x < image.width(); ++x)
-                dark += qGray(image.pixel(x, y)) < 128;
-        return dark;
-    };
-    const QRect emptyCell = view.visualRect(defects->index(defects->findRowById(none), photos)).adjusted(1, 1, -1, -1);
-    const QRect cameraCell =
-        view.visualRect(defects->index(defects->findRowById(three), photos)).adjusted(1, 1, -1, -1);
-    QCOMPARE(darkPixels(emptyCell), 0);
-    QVERIFY(darkPixels(cameraCell.adjusted(0, 0, -cameraCell.width() / 2, 0)) > 20); // the camera on the left
-
-    // A status's colour cell shows its colour, also in a selected row.
-    insertRow(
-        QStringLiteral("status"),
-        {{"id", 77}, {"status", "Lila"}, {"color", "#8020c0"}, {"type", 2}, {"reduction_option", 0}, {"pos", 77}});
-    insertRow(QStringLiteral("status"), {{"id", 78},
-                                         {"status", "Unbekannt"},
-                                         {"color", "keine Farbe"},
-                                         {"type", 2},
-                                         {"reduction_option", 0},
-                                         {"pos", 78}});
-    KalSqlTableModel *status = model(QStringLiteral("status"));
-    QVERIFY(status->select());
-    KalTableView statusView;
-    statusView.setModel(status);
-    statusView.resize(900, 500);
-    statusView.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&statusView));
-    const int colourColumn = status->fieldIndex(QStringLiteral("color"));
-    for (bool selected : {false, true}) {
-        if (selected)
-            QVERIFY(statusView.selectId(77));
-        const QModelIndex cell = status->index(status->findRowById(77), colourColumn);
-        statusView.scrollTo(cell);
-        const QImage image = statusView.viewport()->grab(statusView.visualRect(cell)).toImage();
-        QCOMPARE(QColor(image.pixel(image.width() / 2, image.height() / 2)), QColor(QStringLiteral("#8020c0")));
+        // The same press in another table's grid reports nothing either.
+        const qint64 id = insertCompany(QStringLiteral("C"));
+        QVERIFY(model(QStringLiteral("company"))->select());
+        KalTableView companies;
+        companies.setModel(model(QStringLiteral("company")));
+        companies.resize(700, 300);
+        companies.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&companies));
+        QSignalSpy other(&companies, &KalTableView::mouseClickOnStatusColorField);
+        KalSqlTableModel *cm = model(QStringLiteral("company"));
+        const QModelIndex cell = cm->index(cm->findRowById(id), 5);
+        QTest::mouseClick(companies.viewport(), Qt::LeftButton, Qt::NoModifier, companies.visualRect(cell).center());
+        QCoreApplication::processEvents();
+        QCOMPARE(other.count(), 0);
     }
-    // An unknown colour name paints nothing.
-    QVERIFY(statusView.selectId(77));
-    const QModelIndex unknown = status->index(status->findRowById(78), colourColumn);
-    statusView.scrollTo(unknown);
-    const QImage image = statusView.viewport()->grab(statusView.visualRect(unknown)).toImage();
-    QCOMPARE(QColor(image.pixel(image.width() / 2, image.height() / 2)), statusView.palette().color(QPalette::Base));
-}
 
-// --- icons ------------------------------------------------------------------------------
+    void colourAndCameraCellsArePainted()
+    {
+        const qint64 none = insertDefect(QStringLiteral("1"), {{"image_cnt", 0}});
+        const qint64 three = insertDefect(QStringLiteral("2"), {{"image_cnt", 3}});
+        KalSqlTableModel *defects = model(QStringLiteral("defect"));
+        QVERIFY(defects->select());
+        KalTableView view;
+        view.setModel(defects);
+        view.resize(1400, 300);
+        const int photos = defects->fieldIndex(QStringLiteral("image_cnt"));
+        view.setColumnWidth(photos, 80);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        view.scrollTo(defects->index(0, photos));
 
-void TstTableView::iconsAreCompiledIn_data()
-{
-    QTest::addColumn<QString>("path");
-    const QStringList names{
-        "datei-neu.ico", "datei-öffnen.ico", "datei-speichern.ico", "datei-speichern-als.ico", "datei-recent.ico",
-        "icon-add-defect.ico", "icon-datei-datenbank.ico", "icon-help.ico", "icon-help-off.ico",
-        "icon-datenimport-automatisch-ein.ico", "icon-datenimport-automatisch-aus.ico", "icon-defect-editor.ico",
-        "icon-status-editor.ico", "tableview-plus.png", "tableview-minus.png", "icon-tableview-copy.png",
-        "icon-camera.png", "icon-allgemein-ok.png", "icon-allgemein-cancel.png", "icon-marker-1.png",
-        "icon-marker-2.png", "icon-marker-3.png", "icon-marker-4.png", "icon-fotoeditor-arrow-1-left.png",
-        "icon-fotoeditor-triangle-left.png", "icon-fotoeditor-symbol-asterisk.png",
-        "icon-fotoeditor-rotate-image-left.png", "pellwick.png",
-        // the other actions of the main window
-        "icon-plaene.ico", "icon-status.ico", "icon-projektdaten.ico", "icon-firmen.ico", "icon-firmen-format.ico",
-        "icon-logo.ico", "icon-drucken-kompakt.ico", "icon-drucken-detailliert.ico", "icon-druckvorschau.ico",
-        "icon-datenimport.ico", "icon-datenimport-aktualisieren.ico", "icon-datenimport-app.ico",
-        "icon-firmen-import.ico", "icon-sprache.ico", "icon-texte.ico", "icon-rechtschreibung.ico",
-        "icon-plangroesse.ico", "icon-fotogroesse.ico", "icon-marker.ico", "icon-marker-text.ico", "icon-info.ico",
-        "icon-update.ico"};
-    for (const QString &name : names)
-        QTest::newRow(qPrintable(name)) << QStringLiteral(":/KalMainWindow/Resources/") + name;
-    QTest::newRow("window icon") << QStringLiteral(":/KalDatabase/Pellwick.ico");
-    // Whatever else is compiled in must load as well.
-    const QDir folder(QStringLiteral(":/KalMainWindow/Resources"));
-    for (const QString &name : folder.entryList({QStringLiteral("*.png"), QStringLiteral("*.ico")}, QDir::Files)) {
-        if (!names.contains(name))
-            QTest::newRow(qPrintable(QStringLiteral("compiled in: ") + name)) << folder.filePath(name);
+        // Dark pixels in the cell: the camera (and the count) are drawn.
+        auto darkPixels = [&](const QRect &rect) {
+            const QImage image = view.viewport()->grab(rect).toImage();
+            int dark = 0;
+            for (int y = 0; y < image.height(); ++y)
+                for (int x = 0; x < image.width(); ++x)
+                    dark += qGray(image.pixel(x, y)) < 128;
+            return dark;
+        };
+        const QRect emptyCell =
+            view.visualRect(defects->index(defects->findRowById(none), photos)).adjusted(1, 1, -1, -1);
+        const QRect cameraCell =
+            view.visualRect(defects->index(defects->findRowById(three), photos)).adjusted(1, 1, -1, -1);
+        QCOMPARE(darkPixels(emptyCell), 0);
+        QVERIFY(darkPixels(cameraCell.adjusted(0, 0, -cameraCell.width() / 2, 0)) > 20); // the camera on the left
+
+        // A status's colour cell shows its colour, also in a selected row.
+        m_fx.insert(
+            QStringLiteral("status"),
+            {{"id", 77}, {"status", "Lila"}, {"color", "#8020c0"}, {"type", 2}, {"reduction_option", 0}, {"pos", 77}});
+        m_fx.insert(QStringLiteral("status"), {{"id", 78},
+                                               {"status", "Unbekannt"},
+                                               {"color", "keine Farbe"},
+                                               {"type", 2},
+                                               {"reduction_option", 0},
+                                               {"pos", 78}});
+        KalSqlTableModel *status = model(QStringLiteral("status"));
+        QVERIFY(status->select());
+        KalTableView statusView;
+        statusView.setModel(status);
+        statusView.resize(900, 500);
+        statusView.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&statusView));
+        const int colourColumn = status->fieldIndex(QStringLiteral("color"));
+        for (bool selected : {false, true}) {
+            if (selected)
+                QVERIFY(statusView.selectId(77));
+            const QModelIndex cell = status->index(status->findRowById(77), colourColumn);
+            statusView.scrollTo(cell);
+            const QImage image = statusView.viewport()->grab(statusView.visualRect(cell)).toImage();
+            QCOMPARE(QColor(image.pixel(image.width() / 2, image.height() / 2)), QColor(QStringLiteral("#8020c0")));
+        }
+        // An unknown colour name paints nothing.
+        QVERIFY(statusView.selectId(77));
+        const QModelIndex unknown = status->index(status->findRowById(78), colourColumn);
+        statusView.scrollTo(unknown);
+        const QImage image = statusView.viewport()->grab(statusView.visualRect(unknown)).toImage();
+        QCOMPARE(QColor(image.pixel(image.width() / 2, image.height() / 2)),
+                 statusView.palette().color(QPalette::Base));
     }
-}
 
-void TstTableView::iconsAreCompiledIn()
-{
-    QFETCH(QString, path);
-    QImageReader reader(path);
-    const QImage image = reader.read();
-    QVERIFY2(!image.isNull(), qPrintable(path + QStringLiteral(": ") + reader.errorString()));
-    QVERIFY(image.width() >= 16 && image.width() == image.height());
-    QVERIFY(image.hasAlphaChannel());
-    QVERIFY(!QIcon(path).pixmap(16, 16).isNull());
-}
+    // Every icon compiled into the program loads, square and with transparency.
+    void iconsAreCompiledIn()
+    {
+        const QDir folder(QStringLiteral(":/KalMainWindow/Resources"));
+        QStringList paths{QStringLiteral(":/KalDatabase/Pellwick.ico")};
+        for (const QString &name : folder.entryList({QStringLiteral("*.png"), QStringLiteral("*.ico")}, QDir::Files))
+            paths << folder.filePath(name);
+        QVERIFY(paths.size() > 40);
+        for (const QString &path : paths) {
+            QImageReader reader(path);
+            const QImage image = reader.read();
+            QVERIFY2(!image.isNull(), qPrintable(path + QStringLiteral(": ") + reader.errorString()));
+            QVERIFY2(image.width() >= 16 && image.width() == image.height() && image.hasAlphaChannel(),
+                     qPrintable(path));
+        }
+    }
+};
+
+KAL_WIDGET_TEST_MAIN(TstTableView)
+#include "tst_tableview.moc"

@@ -1,4 +1,4 @@
-#include "CompanyTestData.h"
+#include "KalCompanyTestData.h"
 
 #include "core/project/KalDefects.h"
 #include "core/project/KalProject.h"

@@ -1,27 +1,14 @@
-#include "TextAidsTests.h"
+// The word logic of the spell checker: real Hunspell dictionaries, the
+// user's word list and dictionaries that cannot be used.
 #include "core/textaids/KalSpellChecker.h"
-#include "gui/textaids/KalCompleterTextEdit.h"
-#include "gui/textaids/KalSpellCheckerDialog.h"
-#include "gui/textaids/KalSpellCheckerHighlighter.h"
 #include "support/KalScriptedPrompt.h"
 #include "support/KalTestSettings.h"
 
-#include <QAction>
 #include <QDir>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenu>
-#include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
-#include <QTextBlock>
 #include <QTextCodec>
-#include <QTextDocument>
-#include <QTextLayout>
 #include <QtTest>
-
-using Range = QPair<int, int>;
-Q_DECLARE_METATYPE(QVector<Range>)
 
 namespace {
 KalScriptedPrompt *prompt()
@@ -32,21 +19,6 @@ KalScriptedPrompt *prompt()
 QString germanBase()
 {
     return QStringLiteral(KAL_TEST_DICTIONARIES_DIR "/pym_DE");
-}
-
-// The spelling marks of the first block of a document.
-QVector<Range> markedRanges(QTextDocument *document)
-{
-    QVector<Range> ranges;
-    for (QTextBlock block = document->begin(); block.isValid(); block = block.next()) {
-        for (const QTextLayout::FormatRange &range : block.layout()->formats()) {
-            if (range.format.underlineStyle() == QTextCharFormat::SpellCheckUnderline &&
-                range.format.underlineColor() == QColor(Qt::red))
-                ranges.append({block.position() + range.start, range.length});
-        }
-    }
-    std::sort(ranges.begin(), ranges.end());
-    return ranges;
 }
 
 bool writeFile(const QString &path, const QByteArray &bytes)
@@ -63,6 +35,8 @@ class TestSpellChecker : public QObject
 private slots:
     void initTestCase()
     {
+        KalTestSettings::isolate();
+        KalScriptedPrompt::install();
         QVERIFY2(QFile::exists(germanBase() + QStringLiteral(".DIC")), "build the kal_dictionaries target");
     }
 
@@ -99,79 +73,12 @@ private slots:
         QCOMPARE(checker()->spell(word), known);
     }
 
-    void suggestions()
-    {
-        QVERIFY(checker()->suggest(QStringLiteral("Fenstr")).contains(QStringLiteral("Fenster")));
-        QVERIFY(checker()->suggest(QStringLiteral("Kühce")).contains(QStringLiteral("Küche")));
-    }
-
-    void highlighting_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QVector<Range>>("expected");
-
-        QTest::newRow("twice, not inside a longer word")
-            << "Die Fenst am Fenster und Fenst." << QVector<Range>{{4, 5}, {25, 5}};
-        QTest::newRow("one-letter words") << "z x q Haus" << QVector<Range>();
-        QTest::newRow("correct text") << "Der Riss in der Wand ist 1,5 m lang." << QVector<Range>();
-        QTest::newRow("comma after a word") << "Hasu, Haus" << QVector<Range>{{0, 4}};
-        QTest::newRow("umlauts") << "Küche Kühce" << QVector<Range>{{6, 5}};
-        QTest::newRow("escape sequence") << "\\Hasu Haus" << QVector<Range>();
-        QTest::newRow("escape sequence beside the same word") << "\\Hasu Hasu" << QVector<Range>{{6, 4}};
-        QTest::newRow("second paragraph") << "Haus\nDas Fenstr" << QVector<Range>{{9, 6}};
-    }
-
-    void highlighting()
-    {
-        QFETCH(QString, text);
-        QFETCH(QVector<Range>, expected);
-        QTextDocument document;
-        document.setPlainText(text);
-        KalSpellCheckerHighlighter highlighter(&document);
-        highlighter.rehighlight();
-        QCOMPARE(markedRanges(&document), expected);
-    }
-
-    void switchingOffRemovesMarks()
-    {
-        KalCompleterTextEdit edit;
-        edit.setPlainText(QStringLiteral("Das Fenstr klemmt"));
-        QCOMPARE(markedRanges(edit.document()).size(), 1);
-
-        QSignalSpy spy(checker(), &KalSpellChecker::rehighlightAllSpellCheckerWidgets);
-        QVERIFY(KalSpellChecker::switchSpellChecking(false));
-        QCOMPARE(spy.count(), 1);
-        QVERIFY(markedRanges(edit.document()).isEmpty());
-        QCOMPARE(QSettings().value(QStringLiteral("SpellCheckerActive")).toBool(), false);
-
-        QVERIFY(KalSpellChecker::switchSpellChecking(true));
-        QCOMPARE(markedRanges(edit.document()).size(), 1);
-        QCOMPARE(KalSpellChecker::toggleActionText(true), QStringLiteral("Rechtschreibprüfung aus"));
-    }
-
     void switchingWithoutChecker()
     {
         KalSpellChecker::setInstance(nullptr);
         QVERIFY(!KalSpellChecker::switchSpellChecking(true));
         QCOMPARE(prompt()->titles(), QStringList{QStringLiteral("Fehler")});
         QCOMPARE(prompt()->texts(), QStringList{QStringLiteral("Das Modul Rechtschreibprüfung ist nicht geladen!")});
-        KalCompleterTextEdit edit;
-        edit.setPlainText(QStringLiteral("Das Fenstr klemmt"));
-        QVERIFY(markedRanges(edit.document()).isEmpty());
-    }
-
-    void fieldFollowsLaterChecker()
-    {
-        KalSpellChecker::setInstance(nullptr);
-        KalCompleterTextEdit edit;
-        edit.setPlainText(QStringLiteral("Das Fenstr klemmt"));
-        QVERIFY(markedRanges(edit.document()).isEmpty());
-        KalSpellChecker::setInstance(new KalSpellChecker(germanBase(), m_userDict));
-        QFocusEvent focusIn(QEvent::FocusIn);
-        QApplication::sendEvent(&edit, &focusIn);
-        QCOMPARE(markedRanges(edit.document()), (QVector<Range>{{4, 6}}));
-        QVERIFY(KalSpellChecker::switchSpellChecking(false));
-        QVERIFY(markedRanges(edit.document()).isEmpty());
     }
 
     void userDictionary()
@@ -355,142 +262,6 @@ private slots:
         QVERIFY(KalSpellChecker::userDictionaryPath(locale).endsWith(QStringLiteral("/kal_userDict_%1.txt").arg(code)));
     }
 
-    void contextMenu()
-    {
-        KalCompleterTextEdit edit;
-        edit.resize(400, 200);
-        edit.setPlainText(QStringLiteral("Das Fenstr klemmt"));
-        edit.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&edit));
-        QTextCursor cursor(edit.document());
-        cursor.setPosition(6);
-        const QPoint onTypo = edit.cursorRect(cursor).center();
-
-        std::unique_ptr<QMenu> menu(edit.createSpellingMenu(onTypo));
-        const QList<QAction *> actions = menu->actions();
-        QVERIFY(actions.size() >= 3);
-        QCOMPARE(actions.first()->text(), QStringLiteral("Fenster"));
-        QVERIFY(actions.first()->font().bold());
-        QVERIFY(actions.at(actions.size() - 2)->isSeparator());
-        QCOMPARE(actions.last()->text(), QStringLiteral("Zum Wörterbuch hinzufügen"));
-
-        actions.first()->trigger();
-        QCOMPARE(edit.toPlainText(), QStringLiteral("Das Fenster klemmt"));
-        QVERIFY(markedRanges(edit.document()).isEmpty());
-
-        // A correct word, or checking switched off: the standard menu.
-        cursor.setPosition(1);
-        menu.reset(edit.createSpellingMenu(edit.cursorRect(cursor).center()));
-        QCOMPARE(menu->actions().last()->text(), QStringLiteral("Rechtschreibung prüfen"));
-        QVERIFY(menu->actions().size() > 3);
-
-        edit.setPlainText(QStringLiteral("Das Fenstr klemmt"));
-        checker()->setActive(false, false);
-        menu.reset(edit.createSpellingMenu(onTypo));
-        QCOMPARE(menu->actions().last()->text(), QStringLiteral("Rechtschreibung prüfen"));
-    }
-
-    void contextMenuAddsToUserDictionary()
-    {
-        KalCompleterTextEdit edit;
-        edit.resize(400, 200);
-        edit.setPlainText(QStringLiteral("Ein Pellwickwort hier"));
-        edit.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&edit));
-        QCOMPARE(markedRanges(edit.document()), (QVector<Range>{{4, 12}}));
-        QTextCursor cursor(edit.document());
-        cursor.setPosition(7);
-        std::unique_ptr<QMenu> menu(edit.createSpellingMenu(edit.cursorRect(cursor).center()));
-        menu->actions().last()->trigger();
-        QVERIFY(markedRanges(edit.document()).isEmpty());
-        QFile file(m_userDict);
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QCOMPARE(file.readAll(), QByteArray("Pellwickwort\n"));
-    }
-
-    void checkDialog()
-    {
-        QTextEdit edit;
-        edit.setPlainText(QStringLiteral("Das Fenstr und das Fenstr, Tühr zu. Pellwickwort."));
-        KalSpellCheckerDialog dialog(checker(), &edit);
-        QCOMPARE(dialog.windowTitle(), QStringLiteral("Rechtschreibprüfung"));
-        QVERIFY(dialog.start());
-        dialog.show();
-        QCOMPARE(dialog.currentWord(), QStringLiteral("Fenstr"));
-        QCOMPARE(dialog.findChild<QLabel *>(QStringLiteral("lblWord"))->text(), QStringLiteral("<b>Fenstr</b>"));
-        const QList<QTextEdit::ExtraSelection> marks = edit.extraSelections();
-        QCOMPARE(marks.size(), 1);
-        QCOMPARE(marks.first().cursor.selectedText(), QStringLiteral("Fenstr"));
-        QCOMPARE(marks.first().format.background().color(), QColor(QStringLiteral("#ff6060")));
-        QCOMPARE(marks.first().format.foreground().color(), QColor(QStringLiteral("#000000")));
-
-        dialog.findChild<QLineEdit *>(QStringLiteral("leReplace"))->setText(QStringLiteral("Fenster"));
-        dialog.findChild<QPushButton *>(QStringLiteral("pbChangeAll"))->click();
-        QCOMPARE(edit.toPlainText(), QStringLiteral("Das Fenster und das Fenster, Tühr zu. Pellwickwort."));
-        // One edit step for all replacements.
-        edit.undo();
-        QCOMPARE(edit.toPlainText(), QStringLiteral("Das Fenstr und das Fenstr, Tühr zu. Pellwickwort."));
-        edit.redo();
-
-        QCOMPARE(dialog.currentWord(), QStringLiteral("Tühr"));
-        dialog.findChild<QLineEdit *>(QStringLiteral("leReplace"))->setText(QStringLiteral("Tür"));
-        dialog.findChild<QPushButton *>(QStringLiteral("pbChange"))->click();
-        QCOMPARE(edit.toPlainText(), QStringLiteral("Das Fenster und das Fenster, Tür zu. Pellwickwort."));
-
-        QCOMPARE(dialog.currentWord(), QStringLiteral("Pellwickwort"));
-        dialog.move(123, 87);
-        dialog.findChild<QPushButton *>(QStringLiteral("pbAddToDict"))->click();
-        QVERIFY(checker()->spell(QStringLiteral("Pellwickwort")));
-        QVERIFY(!dialog.isVisible());
-        QVERIFY(edit.extraSelections().isEmpty());
-        QCOMPARE(prompt()->titles(), QStringList{QStringLiteral("Rechtschreibprüfung")});
-        QCOMPARE(prompt()->texts(), QStringList{QStringLiteral("Die Rechtschreibprüfung ist beendet.")});
-        QCOMPARE(dialog.foundCount(), 3);
-        QVERIFY(QSettings().contains(QStringLiteral("SpellCheckerDialogX")));
-        QVERIFY(QSettings().contains(QStringLiteral("SpellCheckerDialogY")));
-    }
-
-    void checkDialogIgnoreAndCancel()
-    {
-        QTextEdit edit;
-        edit.setPlainText(QStringLiteral("Fenstr Tühr Fenstr Tühr"));
-        KalSpellCheckerDialog dialog(checker(), &edit);
-        QVERIFY(dialog.start());
-        dialog.show();
-        dialog.findChild<QPushButton *>(QStringLiteral("pbIgnore"))->click();
-        QCOMPARE(dialog.currentWord(), QStringLiteral("Tühr"));
-        dialog.findChild<QPushButton *>(QStringLiteral("pbIgnoreAll"))->click();
-        QCOMPARE(dialog.currentWord(), QStringLiteral("Fenstr")); // ignored once only
-        QVERIFY(checker()->spell(QStringLiteral("Tühr")));
-        dialog.findChild<QPushButton *>(QStringLiteral("pbCancel"))->click();
-        QVERIFY(!dialog.isVisible());
-        QVERIFY(edit.extraSelections().isEmpty());
-        QVERIFY(prompt()->shown().isEmpty()); // cancelling says nothing
-        QCOMPARE(edit.toPlainText(), QStringLiteral("Fenstr Tühr Fenstr Tühr"));
-    }
-
-    void checkDialogFieldGone()
-    {
-        auto *edit = new QTextEdit;
-        edit->setPlainText(QStringLiteral("Fenstr Tühr"));
-        KalSpellCheckerDialog dialog(checker(), edit);
-        QVERIFY(dialog.start());
-        dialog.show();
-        delete edit;
-        dialog.findChild<QPushButton *>(QStringLiteral("pbChangeAll"))->click();
-        QVERIFY(!dialog.isVisible());
-        QVERIFY(prompt()->shown().isEmpty());
-    }
-
-    void checkDialogWithoutErrors()
-    {
-        QTextEdit edit;
-        edit.setPlainText(QStringLiteral("Das Fenster klemmt."));
-        KalSpellCheckerDialog::checkTextEdit(&edit);
-        QCOMPARE(prompt()->texts(),
-                 QStringList{QStringLiteral("Die Rechtschreibprüfung konnte keinen Fehler finden.")});
-    }
-
 private:
     static KalSpellChecker *checker() { return KalSpellChecker::instance(); }
 
@@ -499,10 +270,5 @@ private:
     int m_counter = 0;
 };
 
-int runSpellCheckerTests(int argc, char **argv)
-{
-    TestSpellChecker test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_GUILESS_MAIN(TestSpellChecker)
 #include "tst_spellchecker.moc"

@@ -1,12 +1,12 @@
 // Company imports: address files as people have them, other project files,
 // site journals, and appending to the open project.
-#include "CompanyTestData.h"
-#include "CompanyTests.h"
 #include "core/import/KalAddressFile.h"
 #include "core/import/KalCompanyImport.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
+#include "support/KalCompanyTestData.h"
 #include "support/KalTestFiles.h"
+#include "support/KalTestSettings.h"
 
 #include <QFile>
 #include <QSqlQuery>
@@ -57,6 +57,8 @@ private:
     QTemporaryDir m_dir;
 
 private slots:
+    void initTestCase() { KalTestSettings::isolate(); }
+
     void addressFiles_data()
     {
         QTest::addColumn<QByteArray>("data");
@@ -64,8 +66,8 @@ private slots:
         QTest::addColumn<int>("encoding");
         QTest::addColumn<bool>("header");
         QTest::addColumn<int>("count");
-        QTest::addColumn<QStringList>("first");
-        QTest::addColumn<QStringList>("last");
+        QTest::addColumn<QString>("first"); // "field=value|..."
+        QTest::addColumn<QString>("last");  // empty: as the first
 
         QTest::newRow("semicolon, UTF-8, German captions")
             << QString("Firma;Gewerk;Straße;PLZ;Ort;Telefon;Telefax;E-Mail\n"
@@ -73,70 +75,65 @@ private slots:
                        "Fliesen Kaya;Fliesenleger;Am Markt 3;50667;Köln;0221 9;;kaya@example.org\n")
                    .toUtf8()
             << ";" << int(KalAddressFile::Utf8) << true << 2
-            << QStringList{"type=Maler", "company=Roth GmbH",  "street=Hauptstr. 12", "plz=53111",
-                           "city=Bonn",  "telephone=0228 123", "telefax=0228 124",    "email=info@roth.de"}
-            << QStringList{"type=Fliesenleger", "company=Fliesen Kaya", "street=Am Markt 3",     "plz=50667",
-                           "city=Köln",         "telephone=0221 9",     "email=kaya@example.org"};
+            << QString("type=Maler|company=Roth GmbH|street=Hauptstr. 12|plz=53111|city=Bonn|telephone=0228 "
+                       "123|telefax=0228 124|email=info@roth.de")
+            << QString("type=Fliesenleger|company=Fliesen Kaya|street=Am Markt 3|plz=50667|city=Köln|telephone=0221 "
+                       "9|email=kaya@example.org");
         QTest::newRow("comma, quoted separators and quotes, CRLF")
             << QByteArray("Company,Trade,City,Phone\r\n"
                           "\"M\xC3\xBCller, Maier & Co\",Maler,\"Bonn\",\"0228, Zentrale\"\r\n"
                           "\"Der \"\"Fliesen\"\" Profi\",Fliesen,K\xC3\xB6ln,\r\n")
             << "," << int(KalAddressFile::Utf8) << true << 2
-            << QStringList{"type=Maler", "company=Müller, Maier & Co", "city=Bonn", "telephone=0228, Zentrale"}
-            << QStringList{"type=Fliesen", "company=Der \"Fliesen\" Profi", "city=Köln"};
+            << QString("type=Maler|company=Müller, Maier & Co|city=Bonn|telephone=0228, Zentrale")
+            << QString("type=Fliesen|company=Der \"Fliesen\" Profi|city=Köln");
         QTest::newRow("Windows-1252 umlauts")
             << cp1252("Firma;Straße;Ort;Handy\r\nBäcker Bau;Gartenstraße 5;Münster;0171 555\r\n"
                       "Übel & Söhne;Weg 1;Öhringen;\r\n")
             << ";" << int(KalAddressFile::Windows1252) << true << 2
-            << QStringList{"company=Bäcker Bau", "street=Gartenstraße 5", "city=Münster", "mobile=0171 555"}
-            << QStringList{"company=Übel & Söhne", "street=Weg 1", "city=Öhringen"};
+            << QString("company=Bäcker Bau|street=Gartenstraße 5|city=Münster|mobile=0171 555")
+            << QString("company=Übel & Söhne|street=Weg 1|city=Öhringen");
         QTest::newRow("no captions: columns by their contents")
             << QByteArray("Roth GmbH;Hauptstr. 12;53111;Bonn;0228 123456;0171 2345678;info@roth.de\n"
                           "Kaya Fliesen;Am Markt 3a;50667;K\xC3\xB6ln;0221 98765;0160 111222;kaya@example.org\n")
             << ";" << int(KalAddressFile::Utf8) << false << 2
-            << QStringList{"company=Roth GmbH",     "street=Hauptstr. 12", "plz=53111",         "city=Bonn",
-                           "telephone=0228 123456", "mobile=0171 2345678", "email=info@roth.de"}
-            << QStringList{
-                   "company=Kaya Fliesen", "street=Am Markt 3a",    "plz=50667", "city=Köln", "telephone=0221 98765",
-                   "mobile=0160 111222",   "email=kaya@example.org"};
+            << QString("company=Roth GmbH|street=Hauptstr. 12|plz=53111|city=Bonn|telephone=0228 123456|mobile=0171 "
+                       "2345678|email=info@roth.de")
+            << QString("company=Kaya Fliesen|street=Am Markt 3a|plz=50667|city=Köln|telephone=0221 98765|mobile=0160 "
+                       "111222|email=kaya@example.org");
         QTest::newRow("BOM and tabs") << QByteArray(
                                              "\xEF\xBB\xBF"
                                              "Firma\tHandy\tE-Mail-Adresse\nStein AG\t0172 1\tstein@example.org\n")
                                       << "\t" << int(KalAddressFile::Utf8) << true << 1
-                                      << QStringList{"company=Stein AG", "mobile=0172 1", "email=stein@example.org"}
-                                      << QStringList{"company=Stein AG", "mobile=0172 1", "email=stein@example.org"};
+                                      << QString("company=Stein AG|mobile=0172 1|email=stein@example.org") << QString();
         QTest::newRow("line break inside a quoted field")
             << QByteArray("Firma;Gewerk\n\"Holz\nund Bau GmbH\";Zimmerer\nDach KG;Dachdecker\n") << ";"
-            << int(KalAddressFile::Utf8) << true << 2 << QStringList{"type=Zimmerer", "company=Holz und Bau GmbH"}
-            << QStringList{"type=Dachdecker", "company=Dach KG"};
+            << int(KalAddressFile::Utf8) << true << 2 << QString("type=Zimmerer|company=Holz und Bau GmbH")
+            << QString("type=Dachdecker|company=Dach KG");
         QTest::newRow("pipes, postcode and city in one column")
             << QByteArray("Firma|PLZ Ort|Tel.\nBau AG|12345 Musterstadt|030 1234\n") << "|" << int(KalAddressFile::Utf8)
-            << true << 1 << QStringList{"company=Bau AG", "plz=12345", "city=Musterstadt", "telephone=030 1234"}
-            << QStringList{"company=Bau AG", "plz=12345", "city=Musterstadt", "telephone=030 1234"};
+            << true << 1 << QString("company=Bau AG|plz=12345|city=Musterstadt|telephone=030 1234") << QString();
         QTest::newRow("street and house number, name beside first name")
             << QByteArray("Vorname;Name;Strasse;Hausnummer;Firma\nKarl;Berg;Lindenweg;7;Berg Sanit\xC3\xA4r\n") << ";"
             << int(KalAddressFile::Utf8) << true << 1
-            << QStringList{"firstname=Karl", "lastname=Berg", "company=Berg Sanitär", "street=Lindenweg 7"}
-            << QStringList{"firstname=Karl", "lastname=Berg", "company=Berg Sanitär", "street=Lindenweg 7"};
+            << QString("firstname=Karl|lastname=Berg|company=Berg Sanitär|street=Lindenweg 7") << QString();
         QTest::newRow("name alone is the person, empty lines skipped")
             << QByteArray("NAME;ORT\n\nGlas Klar;Aachen\n;\n") << ";" << int(KalAddressFile::Utf8) << true << 1
-            << QStringList{"firstname=Glas", "lastname=Klar", "company=Glas Klar", "city=Aachen"}
-            << QStringList{"firstname=Glas", "lastname=Klar", "company=Glas Klar", "city=Aachen"};
+            << QString("firstname=Glas|lastname=Klar|company=Glas Klar|city=Aachen") << QString();
         QTest::newRow("semicolons win over commas in names")
             << QByteArray("Firma;Ort\nM\xC3\xBCller, Hans;Bonn\nSchmidt, Eva;K\xC3\xB6ln\n") << ";"
-            << int(KalAddressFile::Utf8) << true << 2 << QStringList{"company=Müller, Hans", "city=Bonn"}
-            << QStringList{"company=Schmidt, Eva", "city=Köln"};
+            << int(KalAddressFile::Utf8) << true << 2 << QString("company=Müller, Hans|city=Bonn")
+            << QString("company=Schmidt, Eva|city=Köln");
         QTest::newRow("spreadsheet's sep= line, trailing separators")
             << QByteArray("sep=,\r\nFirma,Ort,\r\nA;B GmbH,Trier,\r\n") << "," << int(KalAddressFile::Utf8) << true << 1
-            << QStringList{"company=A;B GmbH", "city=Trier"} << QStringList{"company=A;B GmbH", "city=Trier"};
+            << QString("company=A;B GmbH|city=Trier") << QString();
         QTest::newRow("old Mac line ends")
             << QByteArray("Firma;Ort\rA GmbH;Bonn\rB KG;Trier\r") << ";" << int(KalAddressFile::Utf8) << true << 2
-            << QStringList{"company=A GmbH", "city=Bonn"} << QStringList{"company=B KG", "city=Trier"};
+            << QString("company=A GmbH|city=Bonn") << QString("company=B KG|city=Trier");
         QTest::newRow("UTF-16 with BOM")
             << QByteArray("\xFF\xFE") +
                    QTextCodec::codecForName("UTF-16LE")->fromUnicode(QString("Firma;Ort\nA\u00c4 GmbH;Trier\n"))
-            << ";" << int(KalAddressFile::Utf16) << true << 1 << QStringList{"company=A\u00c4 GmbH", "city=Trier"}
-            << QStringList{"company=A\u00c4 GmbH", "city=Trier"};
+            << ";" << int(KalAddressFile::Utf16) << true << 1 << QString("company=A\u00c4 GmbH|city=Trier")
+            << QString();
     }
 
     void addressFiles()
@@ -146,8 +143,8 @@ private slots:
         QFETCH(int, encoding);
         QFETCH(bool, header);
         QFETCH(int, count);
-        QFETCH(QStringList, first);
-        QFETCH(QStringList, last);
+        QFETCH(QString, first);
+        QFETCH(QString, last);
         const QString path = m_dir.filePath("adressen.csv");
         QVERIFY(writeFile(path, data));
         KalAddressFile file;
@@ -158,8 +155,8 @@ private slots:
         QCOMPARE(file.hasHeader(), header);
         const QVector<KalCompanyRecord> companies = file.companies();
         QCOMPARE(companies.size(), count);
-        QCOMPARE(describe(companies.first()), first);
-        QCOMPARE(describe(companies.last()), last);
+        QCOMPARE(describe(companies.first()).join('|'), first);
+        QCOMPARE(describe(companies.last()).join('|'), last.isEmpty() ? first : last);
     }
 
     void userCorrectsTheGuesses()
@@ -427,10 +424,5 @@ private slots:
     }
 };
 
-int runCompanyImportTests(int argc, char **argv)
-{
-    TstCompanyImport test;
-    return QTest::qExec(&test, argc, argv);
-}
-
+QTEST_GUILESS_MAIN(TstCompanyImport)
 #include "tst_companyimport.moc"
