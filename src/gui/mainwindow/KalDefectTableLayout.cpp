@@ -114,7 +114,10 @@ void KalDefectTableLayout::spreadDefaultWidths()
     const int available = m_table->viewport()->width();
     const int charWidth = m_table->fontMetrics().averageCharWidth();
     const int descriptionColumn = model->fieldIndex(QStringLiteral("description"));
+    // The description is what the list is read for: the others give way
+    // to it down to their captions before it drops below its own default.
     const int descriptionMinimum = 30 * charWidth;
+    const int descriptionWanted = 40 * charWidth;
 
     // Every column wants its default width and needs at least its caption;
     // the description takes what the others leave.
@@ -140,7 +143,7 @@ void KalDefectTableLayout::spreadDefaultWidths()
     }
     // Too narrow for every default: the others give up width in proportion
     // to what they have above their caption.
-    const int room = available - descriptionMinimum;
+    const int room = available - descriptionWanted;
     const int excess = wanted - minimum;
     int used = 0;
     for (const Column &c : others) {
