@@ -1799,6 +1799,14 @@ The file size was reduced from %1 to %2.</translation>
 <context>
     <name>KalProjectFileCommands</name>
     <message>
+        <source>Die Datei
+%1
+existiert bereits und wird nicht überschrieben.</source>
+        <translation>The file
+%1
+already exists and will not be overwritten.</translation>
+    </message>
+    <message>
         <source>Pellwick Projekt (*.pwp)</source>
         <translation>Pellwick project (*.pwp)</translation>
     </message>
@@ -2285,6 +2293,30 @@ for storing the dictionaries could not be created!</translation>
 </context>
 <context>
     <name>KalStartup</name>
+    <message>
+        <source>Projekt existiert bereits</source>
+        <translation>Project already exists</translation>
+    </message>
+    <message>
+        <source>Das Bautagebuch möchte das neue Projekt
+%1
+anlegen. Diese Datei existiert bereits und wird nicht überschrieben.
+
+Möchten Sie das vorhandene Projekt öffnen und mit dem Bautagebuch verknüpfen?</source>
+        <translation>The site journal wants to create the new project
+%1
+This file already exists and will not be overwritten.
+
+Do you want to open the existing project and link it to the site journal?</translation>
+    </message>
+    <message>
+        <source>Öffnen</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
     <message>
         <source>Version %1</source>
         <translation>Version %1</translation>

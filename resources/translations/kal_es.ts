@@ -1799,6 +1799,14 @@ El tamaño del archivo se ha reducido de %1 a %2.</translation>
 <context>
     <name>KalProjectFileCommands</name>
     <message>
+        <source>Die Datei
+%1
+existiert bereits und wird nicht überschrieben.</source>
+        <translation>El archivo
+%1
+ya existe y no se sobrescribirá.</translation>
+    </message>
+    <message>
         <source>Pellwick Projekt (*.pwp)</source>
         <translation>Proyecto de Pellwick (*.pwp)</translation>
     </message>
@@ -2285,6 +2293,30 @@ para guardar los diccionarios!</translation>
 </context>
 <context>
     <name>KalStartup</name>
+    <message>
+        <source>Projekt existiert bereits</source>
+        <translation>El proyecto ya existe</translation>
+    </message>
+    <message>
+        <source>Das Bautagebuch möchte das neue Projekt
+%1
+anlegen. Diese Datei existiert bereits und wird nicht überschrieben.
+
+Möchten Sie das vorhandene Projekt öffnen und mit dem Bautagebuch verknüpfen?</source>
+        <translation>El diario de obra quiere crear el nuevo proyecto
+%1
+Este archivo ya existe y no se sobrescribirá.
+
+¿Desea abrir el proyecto existente y vincularlo con el diario de obra?</translation>
+    </message>
+    <message>
+        <source>Öffnen</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancelar</translation>
+    </message>
     <message>
         <source>Version %1</source>
         <translation>Versión %1</translation>

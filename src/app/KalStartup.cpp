@@ -3,6 +3,7 @@
 #include "core/project/KalCommandLine.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
+#include "core/project/KalSettings.h"
 #include "gui/mainwindow/KalMainWindow.h"
 
 #include <QApplication>
@@ -70,6 +71,31 @@ QStringList KalStartup::installTranslations(QCoreApplication *app, const QString
         }
     }
     return loaded;
+}
+
+QLocale KalStartup::shownLocale(const QLocale &wanted)
+{
+    switch (wanted.language()) {
+    case QLocale::German:
+    case QLocale::Spanish:
+        return wanted;
+    case QLocale::English:
+        // The two English translations are British and American; other
+        // English-speaking countries read the British one.
+        if (wanted.country() == QLocale::UnitedStates)
+            return wanted;
+        return QLocale(QLocale::English, QLocale::UnitedKingdom);
+    default:
+        return QLocale(QLocale::German, QLocale::Germany);
+    }
+}
+
+QLocale KalStartup::setUpLanguage(QCoreApplication *app)
+{
+    const QLocale locale = shownLocale(KalSettings::chosenLocale());
+    QLocale::setDefault(locale);
+    installTranslations(app, translationsFolder(), locale);
+    return locale;
 }
 
 QPixmap KalStartup::splashPixmap()
@@ -175,15 +201,19 @@ void KalStartup::carryOut(KalMainWindow *window, const KalCommandLine &commandLi
         KalPrompt::warning(KalCommandLine::problemsTitle(), KalCommandLine::problemsMessage(problems));
         return;
     }
-    bool opened = false;
-    if (commandLine.connectMode == KalCommandLine::CreateAndImport)
-        opened = window->createProjectAt(commandLine.projectFile);
-    else
-        opened = window->openProject(commandLine.projectFile);
-    if (!opened || commandLine.connectMode == KalCommandLine::OpenOnly)
-        return;
-
-    if (window->linkSiteJournal(commandLine.siteJournalFile)) {
+    const QString project = commandLine.projectFile;
+    bool linked = false;
+    if (commandLine.connectMode == KalCommandLine::CreateAndImport && !QFileInfo::exists(project)) {
+        linked = window->createProjectAt(project, commandLine.siteJournalFile);
+    } else {
+        // Asked to create a project where one exists: never replace it.
+        if (commandLine.connectMode == KalCommandLine::CreateAndImport && !askOpenExistingProject(project))
+            return;
+        if (!window->openProject(project) || commandLine.connectMode == KalCommandLine::OpenOnly)
+            return;
+        linked = window->linkSiteJournal(commandLine.siteJournalFile);
+    }
+    if (linked) {
         KalPrompt::information(
             tr("Datenimport"),
             tr("Das Projekt wurde mit dem Bautagebuch\n%1\nverknüpft.\n\nDer Import von Mängeln "
@@ -191,6 +221,18 @@ void KalStartup::carryOut(KalMainWindow *window, const KalCommandLine &commandLi
                "verfügbar.")
                 .arg(QDir::toNativeSeparators(QFileInfo(commandLine.siteJournalFile).absoluteFilePath())));
     }
+}
+
+bool KalStartup::askOpenExistingProject(const QString &path)
+{
+    KalPrompt::Message m;
+    m.icon = KalPrompt::Question;
+    m.title = tr("Projekt existiert bereits");
+    m.text = tr("Das Bautagebuch möchte das neue Projekt\n%1\nanlegen. Diese Datei existiert bereits und wird nicht "
+                "überschrieben.\n\nMöchten Sie das vorhandene Projekt öffnen und mit dem Bautagebuch verknüpfen?")
+                 .arg(QDir::toNativeSeparators(QFileInfo(path).absoluteFilePath()));
+    m.buttons = {{KalPrompt::AcceptCustom, tr("Öffnen")}, {KalPrompt::RejectCustom, tr("Abbrechen")}};
+    return KalPrompt::ask(m) == 0;
 }
 
 QString KalStartup::dataImportHelpText()

@@ -28,6 +28,14 @@ public:
     // Loads Qt's base translation and the program's own for `locale`; a
     // missing file is skipped. Returns the files that were loaded.
     static QStringList installTranslations(QCoreApplication *app, const QString &folder, const QLocale &locale);
+    // The locale the program can show for `wanted`: a language it has no
+    // texts for falls back to German, the language it is written in, so that
+    // Qt's own texts, dates and dictionaries follow the texts on screen.
+    static QLocale shownLocale(const QLocale &wanted);
+    // The chosen language (by default the system's) as the program shows it:
+    // made the default locale, with the program's translation and Qt's own
+    // for the same language installed. Returns that locale.
+    static QLocale setUpLanguage(QCoreApplication *app);
 
     static QPixmap splashPixmap();
 
@@ -38,6 +46,9 @@ public:
 
     // Opens what the command line (or a pending restart) asks for.
     static void carryOut(KalMainWindow *window, const KalCommandLine &commandLine);
+    // Asked to create a project at a path that exists: whether to open that
+    // project instead (the safe answer cancels).
+    static bool askOpenExistingProject(const QString &path);
 
     static QString dataImportHelpText();
     static void showDataImportHelp();

@@ -4,7 +4,6 @@
 #include "core/project/KalCommandLine.h"
 
 #include "core/project/KalPrompt.h"
-#include "core/project/KalSettings.h"
 #include "core/textaids/KalSpellChecker.h"
 #include "gui/mainwindow/KalMainWindow.h"
 #include "gui/widgets/KalMessageBoxPrompt.h"
@@ -38,9 +37,7 @@ int main(int argc, char *argv[])
 
     QSettings().setValue(QStringLiteral("Messages/showFilterUncheckMsgOnce"), true);
 
-    const QLocale locale = KalSettings::chosenLocale();
-    QLocale::setDefault(locale);
-    KalStartup::installTranslations(&app, KalStartup::translationsFolder(), locale);
+    const QLocale locale = KalStartup::setUpLanguage(&app);
 
     KalSpellChecker::startUp(QCoreApplication::applicationDirPath(), locale);
 

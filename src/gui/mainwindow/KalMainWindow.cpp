@@ -1,10 +1,10 @@
 #include "KalMainWindow.h"
 
-#include "core/project/KalDefectColumns.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
 #include "core/project/KalRecentFiles.h"
 #include "core/project/KalSqlTableModel.h"
+#include "gui/mainwindow/KalDefectTableLayout.h"
 #include "gui/plans/KalPlanPanel.h"
 #include "gui/widgets/KalItemDelegate.h"
 #include "gui/widgets/KalTableView.h"
@@ -22,7 +22,6 @@
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
-#include <QScrollBar>
 #include <QSettings>
 #include <QSplitter>
 #include <QStyle>
@@ -379,6 +378,7 @@ void KalMainWindow::createCentralWidget()
     m_splitter->setStretchFactor(1, 1);
     layout->addWidget(m_splitter, 1);
     setCentralWidget(central);
+    m_tableLayout = new KalDefectTableLayout(m_tvDefects, m_splitter, this);
 
     connect(m_tvDefects, &QAbstractItemView::doubleClicked, this, &KalMainWindow::slotOpenDefectEditor);
     connect(m_tvDefects->horizontalHeader(), &QHeaderView::sortIndicatorChanged, this,
@@ -549,65 +549,21 @@ void KalMainWindow::slotDefectTableDisplayFormat()
 
 void KalMainWindow::storeColumnWidths()
 {
-    if (defectModel())
+    // Defaults spread over this window are no choice of the user's: the
+    // next start spreads them over its own width.
+    if (defectModel() && !m_tableLayout->showsDefaults())
         m_tvDefects->saveColumnWidths();
-}
-
-int KalMainWindow::tableShare(int total) const
-{
-    return m_defectTableFormat == 2 ? total * 4 / 5 : total * 18 / 25;
 }
 
 void KalMainWindow::applyDefectTableFormat()
 {
-    KalSqlTableModel *model = defectModel();
-    if (!model)
-        return;
-    QHeaderView *header = m_tvDefects->horizontalHeader();
-    const QStringList visible =
-        KalDefectColumns::fields(m_defectTableFormat == 2 ? KalDefectColumns::All : KalDefectColumns::Compact);
-    for (int column = 0; column < model->columnCount(); ++column)
-        m_tvDefects->setColumnHidden(column, true);
-    for (const QString &field : visible) {
-        const int column = model->fieldIndex(field);
-        if (column >= 0)
-            m_tvDefects->setColumnHidden(column, false);
-    }
+    m_tableLayout->apply(m_defectTableFormat);
+}
 
-    if (!m_tvDefects->restoreColumnWidths()) {
-        const int charWidth = m_tvDefects->fontMetrics().averageCharWidth();
-        int used = 0;
-        for (const QString &field : visible) {
-            const int column = model->fieldIndex(field);
-            // The description takes what the others leave.
-            if (column < 0 || field == QLatin1String("description"))
-                continue;
-            const int captionWidth =
-                header->fontMetrics().horizontalAdvance(model->headerData(column, Qt::Horizontal).toString()) + 24;
-            const int width = qMax(captionWidth, KalDefectColumns::widthChars(field) * charWidth);
-            header->resizeSection(column, width);
-            used += width;
-        }
-        const int description = model->fieldIndex(QStringLiteral("description"));
-        if (description >= 0) {
-            // Before the window is shown the viewport has no size yet: estimate
-            // the table's share of the window.
-            int available = m_tvDefects->viewport()->width();
-            if (!m_tvDefects->isVisible()) {
-                const int share = tableShare(width());
-                available = share - m_tvDefects->verticalHeader()->sizeHint().width() -
-                            m_tvDefects->verticalScrollBar()->sizeHint().width() - 16;
-            }
-            header->resizeSection(description, qMax(30 * charWidth, available - used));
-        }
-    }
-
-    // The plan panel takes what the table does not need, within reason.
-    if (m_splitter && m_splitter->width() > 0) {
-        const int total = m_splitter->width();
-        const int table = tableShare(total);
-        m_splitter->setSizes({table, total - table});
-    }
+void KalMainWindow::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    m_tableLayout->refit();
 }
 
 void KalMainWindow::bindDefectTable()
@@ -647,8 +603,12 @@ void KalMainWindow::slotProjectOpened()
 
 void KalMainWindow::slotProjectClosed()
 {
+    // The grid also stores the widths of the model it lets go.
+    const bool defaults = m_tableLayout->showsDefaults();
     storeColumnWidths();
     m_tvDefects->setModel(nullptr);
+    if (defaults)
+        QSettings().remove(KalTableView::columnWidthsKey(QStringLiteral("defect")));
     m_planPanel->clear();
     // Called while the project is about to close: it still counts as open.
     updateProjectActions(false);

@@ -11,6 +11,7 @@
 #include <QVariant>
 #include <QVector>
 
+class KalDefectTableLayout;
 class KalPlanPanel;
 class KalProject;
 class KalRecentFiles;
@@ -50,8 +51,9 @@ public:
     // Closes the open project (with the save question) and opens `path`.
     bool openProject(const QString &path);
     bool closeProject(bool ask);
-    // Creates a project, saves it at once under `path`.
-    bool createProjectAt(const QString &path);
+    // Creates a project, links it to a site-journal file when one is given
+    // and saves it at once under `path`; never replaces an existing file.
+    bool createProjectAt(const QString &path, const QString &siteJournalPath = QString());
 
     QStringList recentFiles() const;
     void addRecentFile(const QString &path);
@@ -80,7 +82,8 @@ public:
 
     QString planPanelHint() const;
 
-    // Records the site-journal file this project belongs to ("meta").
+    // Records the site-journal file this project belongs to ("meta") and
+    // saves it with the project.
     bool linkSiteJournal(const QString &siteJournalPath);
     // Follows the spell checker created at start-up.
     void updateSpellCheckingAction();
@@ -92,6 +95,7 @@ signals:
 
 protected:
     void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private slots:
@@ -149,7 +153,6 @@ private:
     void rebuildRecentMenu();
     void bindDefectTable();
     void applyDefectTableFormat();
-    int tableShare(int total) const;
     void storeColumnWidths();
     bool tooltipHelpActive() const;
 
@@ -162,6 +165,7 @@ private:
     QLabel *m_lblProjectHeader = nullptr;
     QPushButton *m_pbDefectTableDisplayFormat = nullptr;
     QSplitter *m_splitter = nullptr;
+    KalDefectTableLayout *m_tableLayout = nullptr;
     QToolBar *m_toolBar = nullptr;
     QMenu *m_menuFileRecent = nullptr;
     QHash<QString, QAction *> m_actions;

@@ -2,13 +2,11 @@
 
 #include "gui/mainwindow/KalMainWindow.h"
 
-#include "core/project/KalDatabaseSchema.h"
 #include "core/project/KalDefects.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
 #include "core/project/KalRecentFiles.h"
 #include "core/project/KalSettings.h"
-#include "core/project/KalSqlError.h"
 #include "core/project/KalSqlTableModel.h"
 #include "core/textaids/KalSpellChecker.h"
 #include "gui/editors/KalDefectEditor.h"
@@ -29,7 +27,6 @@
 #include <QHeaderView>
 #include <QItemSelectionModel>
 #include <QSettings>
-#include <QSqlError>
 
 void KalMainWindow::slotCreateFile()
 {
@@ -76,9 +73,11 @@ bool KalMainWindow::openProject(const QString &path)
     return m_fileCommands->openProject(path);
 }
 
-bool KalMainWindow::createProjectAt(const QString &path)
+bool KalMainWindow::createProjectAt(const QString &path, const QString &siteJournalPath)
 {
-    return m_fileCommands->createProjectAt(path);
+    const bool created = m_fileCommands->createProjectAt(path, siteJournalPath);
+    updateImportMenuState();
+    return created;
 }
 
 // --- defects ---
@@ -293,19 +292,9 @@ void KalMainWindow::slotStartSpellChecking()
 
 bool KalMainWindow::linkSiteJournal(const QString &siteJournalPath)
 {
-    if (!m_project->isOpen())
-        return false;
-    QSqlError error;
-    if (!KalDatabaseSchema::setMetaValue(m_project->database(), QStringLiteral("siteJournalDatabasePath"),
-                                         QFileInfo(siteJournalPath).absoluteFilePath(), &error)) {
-        KAL_REPORT_SQL_ERROR(error, "KalMainWindow", "linkSiteJournal");
-        return false;
-    }
-    if (KalSqlTableModel *meta = m_project->model(QStringLiteral("meta")))
-        meta->select();
-    m_project->setModified(true);
+    const bool linked = m_fileCommands->linkSiteJournal(siteJournalPath);
     updateImportMenuState();
-    return true;
+    return linked;
 }
 
 void KalMainWindow::slotSettingsLanguage()

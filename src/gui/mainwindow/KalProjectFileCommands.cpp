@@ -1,13 +1,18 @@
 #include "KalProjectFileCommands.h"
 
+#include "core/project/KalDatabaseSchema.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
 #include "core/project/KalRecentFiles.h"
 #include "core/project/KalSettings.h"
+#include "core/project/KalSqlError.h"
+#include "core/project/KalSqlTableModel.h"
 #include "gui/widgets/KalFileDialog.h"
 
 #include <QDir>
 #include <QFileInfo>
+#include <QSqlError>
+#include <QSqlQuery>
 #include <QWidget>
 
 namespace {
@@ -187,11 +192,23 @@ bool KalProjectFileCommands::openProject(const QString &path)
     return true;
 }
 
-bool KalProjectFileCommands::createProjectAt(const QString &path)
+bool KalProjectFileCommands::createProjectAt(const QString &path, const QString &siteJournalPath)
 {
+    const QString target = QFileInfo(path).absoluteFilePath();
+    if (QFileInfo::exists(target)) {
+        KalPrompt::critical(
+            tr("Dateifehler"),
+            tr("Die Datei\n%1\nexistiert bereits und wird nicht überschrieben.").arg(QDir::toNativeSeparators(target)));
+        return false;
+    }
     if (!newProject())
         return false;
-    const int result = m_project->saveProject(QFileInfo(path).absoluteFilePath());
+    bool changed = false;
+    if (!siteJournalPath.isEmpty() && !writeSiteJournalLink(siteJournalPath, &changed)) {
+        emit projectStateChanged();
+        return false;
+    }
+    const int result = m_project->saveProject(target);
     if (result != KalProject::Saved) {
         if (result == KalProject::SaveFailed)
             KalPrompt::critical(tr("Fehler"), tr("Beim Speichern des Projekts ist ein Fehler aufgetreten!"));
@@ -201,6 +218,46 @@ bool KalProjectFileCommands::createProjectAt(const QString &path)
     m_recentFiles->add(m_project->projectPath());
     m_project->setModified(false);
     emit projectStateChanged();
+    return true;
+}
+
+bool KalProjectFileCommands::writeSiteJournalLink(const QString &siteJournalPath, bool *changed)
+{
+    const QString key = QStringLiteral("siteJournalDatabasePath");
+    const QString value = QFileInfo(siteJournalPath).absoluteFilePath();
+    *changed = false;
+    QSqlQuery query(m_project->database());
+    query.prepare(QStringLiteral("SELECT value FROM meta WHERE key = :key"));
+    query.bindValue(QStringLiteral(":key"), key);
+    if (query.exec() && query.next() && query.value(0).toString() == value)
+        return true;
+    QSqlError error;
+    if (!KalDatabaseSchema::setMetaValue(m_project->database(), key, value, &error)) {
+        KAL_REPORT_SQL_ERROR(error, "KalProjectFileCommands", "writeSiteJournalLink");
+        return false;
+    }
+    if (KalSqlTableModel *meta = m_project->model(QStringLiteral("meta")))
+        meta->select();
+    *changed = true;
+    return true;
+}
+
+bool KalProjectFileCommands::linkSiteJournal(const QString &siteJournalPath)
+{
+    if (!m_project->isOpen())
+        return false;
+    const bool hadChanges = m_project->isModified();
+    bool changed = false;
+    if (!writeSiteJournalLink(siteJournalPath, &changed))
+        return false;
+    if (!changed)
+        return true;
+    m_project->setModified(true);
+    // The link belongs to the file, not to this session: save it now. Other
+    // unsaved changes (a recovered session) stay the user's decision, and
+    // the link is saved with them.
+    if (!hadChanges && !m_project->projectPath().isEmpty())
+        maybeSave(false, true);
     return true;
 }
 

@@ -26,8 +26,14 @@ public:
     // Asks for a project file and opens it.
     void openChosenProject();
     bool closeProject(bool ask);
-    // Creates a project, saves it at once under `path`.
-    bool createProjectAt(const QString &path);
+    // Creates a project, links it to a site-journal file when one is given
+    // and saves it at once under `path`. An existing file is never replaced:
+    // refused with a message.
+    bool createProjectAt(const QString &path, const QString &siteJournalPath = QString());
+    // Records the site-journal file the project belongs to ("meta") and
+    // saves the project at once when that was its only change. False when
+    // the link could not be written.
+    bool linkSiteJournal(const QString &siteJournalPath);
     // Saves first where needed, then compacts the project file.
     void compactDatabase();
 
@@ -42,6 +48,8 @@ private:
     int saveCurrent(bool askForName);
     bool projectIsReadOnly() const;
     QString askSaveFileName(const QString &title);
+    // Writes the link into the working copy; `changed` false when it was there.
+    bool writeSiteJournalLink(const QString &siteJournalPath, bool *changed);
 
     KalProject *m_project;
     KalRecentFiles *m_recentFiles;
