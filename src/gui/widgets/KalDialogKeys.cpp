@@ -1,0 +1,34 @@
+#include "KalDialogKeys.h"
+
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QDialog>
+#include <QKeyEvent>
+
+namespace KalDialogKeys {
+
+bool handleReturn(QDialog *dialog, QKeyEvent *event)
+{
+    if (event->key() != Qt::Key_Return && event->key() != Qt::Key_Enter)
+        return false;
+    event->accept();
+    QWidget *focus = dialog->focusWidget();
+    if (!focus)
+        return true;
+    if (auto *button = qobject_cast<QAbstractButton *>(focus)) {
+        if (button->isEnabled())
+            button->click();
+        return true;
+    }
+    // In a grid the cell editor has committed its text; the grid stays.
+    for (QWidget *w = focus; w && w != dialog; w = w->parentWidget()) {
+        if (qobject_cast<QAbstractItemView *>(w))
+            return true;
+    }
+    QKeyEvent tab(QEvent::KeyPress, Qt::Key_Tab, Qt::NoModifier);
+    QApplication::sendEvent(focus, &tab);
+    return true;
+}
+
+} // namespace KalDialogKeys
