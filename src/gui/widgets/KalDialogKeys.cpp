@@ -1,10 +1,10 @@
 #include "KalDialogKeys.h"
 
-#include <QAbstractButton>
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QDialog>
 #include <QKeyEvent>
+#include <QPushButton>
 
 namespace KalDialogKeys {
 
@@ -16,7 +16,8 @@ bool handleReturn(QDialog *dialog, QKeyEvent *event)
     QWidget *focus = dialog->focusWidget();
     if (!focus)
         return true;
-    if (auto *button = qobject_cast<QAbstractButton *>(focus)) {
+    // A check box moves on like a field; only a push button is pressed.
+    if (auto *button = qobject_cast<QPushButton *>(focus)) {
         if (button->isEnabled())
             button->click();
         return true;
