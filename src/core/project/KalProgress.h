@@ -12,6 +12,9 @@ public:
     // total <= 0: busy without a known end
     virtual void setProgress(qint64 done, qint64 total) = 0;
     virtual void end() = 0;
+    // A message of the running operation is about to be shown: the indicator
+    // must not cover it, and stays away until the operation has ended.
+    virtual void yieldToMessage() {}
 
     static KalProgress *instance();
     static void install(KalProgress *progress); // takes ownership

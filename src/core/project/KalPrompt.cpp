@@ -1,5 +1,7 @@
 #include "KalPrompt.h"
 
+#include "core/project/KalProgress.h"
+
 #include <QCoreApplication>
 #include <QSettings>
 #include <cstdio>
@@ -34,6 +36,8 @@ int KalPrompt::ask(const Message &message)
         if (settings.value(message.dontShowAgainKey, false).toBool())
             return message.defaultButton;
     }
+    // A busy window left open would cover the box and its buttons.
+    KalProgress::instance()->yieldToMessage();
     return instance()->show(message);
 }
 

@@ -10,13 +10,16 @@
 #include "gui/textaids/KalCompleterLineEdit.h"
 #include "gui/textaids/KalCompleterTextEdit.h"
 #include "gui/textaids/KalDateEdit.h"
+#include "gui/widgets/KalDialogKeys.h"
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDataWidgetMapper>
 #include <QDate>
 #include <QDialogButtonBox>
 #include <QInputDialog>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPainter>
@@ -129,6 +132,12 @@ KalDefectEditor::KalDefectEditor(KalProject *project, int row, QWidget *parent)
         map(m_ui->leCorrectionInstruction, "correction_instruction");
         map(m_ui->lePriority, "priority");
         map(m_ui->cbReduction, "reduction", "checked");
+        // The mapper's own key handling would take Escape to put back one
+        // field; here Escape cancels the dialog. Filters installed later run first.
+        for (int column = 0; column < m_defects->columnCount(); ++column) {
+            if (QWidget *w = m_mapper->mappedWidgetAt(column))
+                w->installEventFilter(this);
+        }
         m_mapper->setCurrentIndex(row);
         // The date fields are free-text widgets; they take and give dates.
         readDates();
@@ -550,10 +559,12 @@ void KalDefectEditor::slotAccepted()
         QDialog::accept();
         return;
     }
-    // A date that cannot be read keeps the dialog open (the field warns).
+    // A date that cannot be read keeps the dialog open with the warning;
+    // writing it would replace the stored date by none.
     for (KalDateEdit *edit : {m_ui->deCreationDate, m_ui->deCorrectionDate, m_ui->deDeadline1, m_ui->deDeadline2}) {
-        if (!edit->text().trimmed().isEmpty() && !edit->date().isValid()) {
+        if (!edit->checkInput()) {
             edit->setFocus();
+            edit->selectAll();
             return;
         }
     }
@@ -614,6 +625,9 @@ void KalDefectEditor::slotRejected()
     if (m_finished)
         return;
     m_finished = true;
+    // Leaving a wrong date for Cancel is not a mistake to warn about.
+    for (KalDateEdit *edit : {m_ui->deCreationDate, m_ui->deCorrectionDate, m_ui->deDeadline1, m_ui->deDeadline2})
+        edit->discardWarning();
     if (m_defects) {
         m_defects->revertAll();
         m_defects->submitWithNotification(true);
@@ -630,6 +644,24 @@ void KalDefectEditor::done(int result)
     if (result == QDialog::Rejected)
         slotRejected();
     QDialog::done(result);
+}
+
+void KalDefectEditor::keyPressEvent(QKeyEvent *event)
+{
+    if (KalDialogKeys::handleReturn(this, event))
+        return;
+    QDialog::keyPressEvent(event);
+}
+
+bool KalDefectEditor::eventFilter(QObject *watched, QEvent *event)
+{
+    // An open auto-text list takes Escape first: it only closes the list.
+    if (event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->key() == Qt::Key_Escape &&
+        static_cast<QKeyEvent *>(event)->modifiers() == Qt::NoModifier && !QApplication::activePopupWidget()) {
+        reject();
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void KalDefectEditor::saveGeometrySetting()

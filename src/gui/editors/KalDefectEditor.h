@@ -54,6 +54,8 @@ public slots:
 
 protected:
     void done(int result) override;
+    void keyPressEvent(QKeyEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void setUpUi();

@@ -3,11 +3,13 @@
 
 #include "core/project/KalCompanies.h"
 #include "core/project/KalCompanyFormat.h"
+#include "core/project/KalEditSession.h"
 #include "core/project/KalPrivacyNotice.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
 #include "core/project/KalSqlTableModel.h"
 #include "gui/import/KalCompanyImportSelectDialog.h"
+#include "gui/widgets/KalDialogKeys.h"
 #include "gui/widgets/KalTableView.h"
 
 #include <QCheckBox>
@@ -15,6 +17,7 @@
 #include <QDialogButtonBox>
 #include <QHeaderView>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -70,6 +73,9 @@ KalMasterDataDialog::KalMasterDataDialog(KalProject *project, QWidget *parent)
     if (project) {
         m_kal = project->model(QStringLiteral("kal"));
         m_companies = project->model(QStringLiteral("company"));
+        // A removed company also leaves its defects without one.
+        m_session = std::make_unique<KalEditSession>(
+            project, QStringList{QStringLiteral("kal"), QStringLiteral("company"), QStringLiteral("defect")});
     }
 
     QPushButton *ok = m_ui->buttonBox->button(QDialogButtonBox::Ok);
@@ -94,7 +100,11 @@ KalMasterDataDialog::KalMasterDataDialog(KalProject *project, QWidget *parent)
         restoreGeometry(geometry);
 }
 
-KalMasterDataDialog::~KalMasterDataDialog() = default;
+KalMasterDataDialog::~KalMasterDataDialog()
+{
+    // Before the grid goes: undoing re-reads the models it shows.
+    m_session.reset();
+}
 
 KalTableView *KalMasterDataDialog::companyView() const
 {
@@ -382,20 +392,25 @@ void KalMasterDataDialog::actionSubmit()
         if (!m_companies->submitWithNotification(true))
             KalPrompt::critical(tr("Datenbankfehler"), tr("Die Firmenliste konnte nicht gespeichert werden."));
     }
+    if (m_session && !m_session->keep())
+        KalPrompt::critical(tr("Datenbankfehler"), tr("Die Stammdaten konnten nicht gespeichert werden."));
 }
 
 void KalMasterDataDialog::actionRevert()
 {
+    m_ui->tvCompanies->finishEditing(false);
     if (m_kal)
         m_kal->revertAll();
     if (m_companies)
         m_companies->revertAll();
+    if (m_session)
+        m_session->undo();
 }
 
 void KalMasterDataDialog::slotOkClicked()
 {
-    // Commit an open grid editor first.
-    m_ui->tvCompanies->setFocus();
+    // A cell still being edited belongs to what OK writes.
+    m_ui->tvCompanies->finishEditing();
     m_closing = true;
     actionSubmit();
     accept();
@@ -404,6 +419,13 @@ void KalMasterDataDialog::slotOkClicked()
 void KalMasterDataDialog::slotCancelClicked()
 {
     reject();
+}
+
+void KalMasterDataDialog::keyPressEvent(QKeyEvent *event)
+{
+    if (KalDialogKeys::handleReturn(this, event))
+        return;
+    QDialog::keyPressEvent(event);
 }
 
 void KalMasterDataDialog::done(int result)

@@ -6,6 +6,7 @@
 
 #include <memory>
 
+class KalEditSession;
 class KalProject;
 class KalSqlTableModel;
 class KalTableView;
@@ -18,7 +19,7 @@ class KalMasterDataDialog;
 
 // The project's own data (name, number, print header and footer) and its
 // company list with the company output format. OK writes the changes of
-// both pages, Cancel drops them. The output format is a per-user setting
+// both pages, Cancel drops them, removed and imported companies included. The output format is a per-user setting
 // and is stored as soon as it is changed.
 class KalMasterDataDialog : public QDialog
 {
@@ -58,6 +59,7 @@ public slots:
 protected:
     void showEvent(QShowEvent *event) override;
     void done(int result) override;
+    void keyPressEvent(QKeyEvent *event) override;
 
 private:
     void setUpProjectPage();
@@ -79,5 +81,7 @@ private:
     bool m_reminderShown = false;
     bool m_updatingFormat = false;
 
+    // Removals and imports write at once; Cancel takes them back with the rest.
+    std::unique_ptr<KalEditSession> m_session;
     std::unique_ptr<Ui::KalMasterDataDialog> m_ui;
 };

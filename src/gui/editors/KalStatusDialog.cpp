@@ -295,6 +295,8 @@ void KalStatusDialog::saveResizedSizes(int logicalIndex, int oldSize, int newSiz
 
 void KalStatusDialog::done(int result)
 {
+    // Every change here is written as it is made, whichever way the dialog closes.
+    m_ui->tvStatus->finishEditing();
     QSettings().setValue(QLatin1String(kGeometryKey), saveGeometry());
     QDialog::done(result);
 }

@@ -8,7 +8,6 @@
 #include <QCoreApplication>
 #include <QFocusEvent>
 #include <QGuiApplication>
-#include <QPointer>
 #include <QScreen>
 #include <QTimer>
 
@@ -52,18 +51,32 @@ void KalDateEdit::setDate(const QDate &date)
 void KalDateEdit::scheduleWarning()
 {
     // After the current event, so a focus change or a commit finishes first;
-    // several reasons in one go give one warning.
-    if (m_warningPending)
+    // several reasons in one go give one warning. A grid editor may be gone
+    // by then (closed on focus loss); the warning is still due.
+    if (m_pendingWarning && *m_pendingWarning)
         return;
-    // A grid editor may be gone by then (closed on focus loss); the warning
-    // is still due.
-    m_warningPending = true;
-    QPointer<KalDateEdit> self(this);
-    QTimer::singleShot(0, QCoreApplication::instance(), [self] {
-        if (self)
-            self->m_warningPending = false;
+    m_pendingWarning = std::make_shared<bool>(true);
+    QTimer::singleShot(0, QCoreApplication::instance(), [pending = m_pendingWarning] {
+        if (!*pending)
+            return;
+        *pending = false;
         KalPrompt::warning(tr("Format-Fehler"), formatWarningText());
     });
+}
+
+void KalDateEdit::discardWarning()
+{
+    if (m_pendingWarning)
+        *m_pendingWarning = false;
+}
+
+bool KalDateEdit::checkInput()
+{
+    if (!textIsInvalid())
+        return true;
+    discardWarning();
+    showFormatWarning();
+    return false;
 }
 
 QString KalDateEdit::formatWarningText()
@@ -117,12 +130,12 @@ void KalDateEdit::slotCalendarClicked(const QDate &date)
 
 void KalDateEdit::focusOutEvent(QFocusEvent *event)
 {
-    // Opening the calendar is not leaving the field.
+    // Opening the calendar is not leaving the field. The text is kept: an
+    // empty field would be taken for a deleted date (a deadline, say) by
+    // whoever reads the field next.
     const bool toCalendar = m_calendar && m_calendar->isVisible();
-    if (!toCalendar && event->reason() != Qt::PopupFocusReason && textIsInvalid()) {
-        clear();
+    if (!toCalendar && event->reason() != Qt::PopupFocusReason && textIsInvalid())
         scheduleWarning();
-    }
     QLineEdit::focusOutEvent(event);
 }
 

@@ -3,12 +3,15 @@
 #include <QDate>
 #include <QLineEdit>
 
+#include <memory>
+
 class QCalendarWidget;
 class QToolButton;
 
 // Free-text date field with a calendar button. The text is read with the
-// program's date notation; a text that is not a date is reported, and
-// cleared when the field is left.
+// program's date notation; a text that is not a date is reported when the
+// field is left. The text stays, so that an owner with OK and Cancel can
+// refuse it instead of writing an empty date.
 class KalDateEdit : public QLineEdit
 {
     Q_OBJECT
@@ -19,6 +22,12 @@ public:
     // date (then the format warning follows once the current event is done).
     QDate date();
     void setDate(const QDate &date);
+    // True for an empty text or a date; otherwise shows the format warning
+    // now (instead of a pending one) and returns false.
+    bool checkInput();
+    // The warning of a field left with a wrong text is not wanted any more
+    // (its dialog was cancelled).
+    void discardWarning();
 
     QToolButton *toolButtonPopup() const { return m_button; }
     QCalendarWidget *calendarWidget() const { return m_calendar; }
@@ -44,5 +53,5 @@ private:
 
     QToolButton *m_button;
     QCalendarWidget *m_calendar = nullptr;
-    bool m_warningPending = false;
+    std::shared_ptr<bool> m_pendingWarning;
 };

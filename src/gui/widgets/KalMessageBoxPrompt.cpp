@@ -7,6 +7,7 @@
 #include <QIcon>
 #include <QMessageBox>
 #include <QPointer>
+#include <QProgressDialog>
 #include <QPushButton>
 #include <QSettings>
 #include <QTimer>
@@ -53,9 +54,14 @@ QMessageBox::StandardButton standardButton(KalPrompt::ButtonRole role)
 
 QWidget *dialogParent()
 {
-    if (QWidget *w = QApplication::activeModalWidget())
-        return w;
-    return QApplication::activeWindow();
+    // Never the busy window: it goes away with its operation and would take
+    // the box with it.
+    QWidget *w = QApplication::activeModalWidget();
+    if (!w || qobject_cast<QProgressDialog *>(w))
+        w = QApplication::activeWindow();
+    while (qobject_cast<QProgressDialog *>(w))
+        w = w->parentWidget();
+    return w;
 }
 } // namespace
 

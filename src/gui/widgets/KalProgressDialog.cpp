@@ -16,7 +16,7 @@ KalProgressDialog::KalProgressDialog(QObject *parent)
 KalProgressDialog::~KalProgressDialog()
 {
     delete m_window;
-    if (m_depth > 0)
+    if (m_depth > 0 && !m_yielded)
         QApplication::restoreOverrideCursor();
 }
 
@@ -32,6 +32,7 @@ void KalProgressDialog::begin(const QString &text)
             m_window->setLabelText(text);
         return;
     }
+    m_yielded = false;
     m_text = text.isEmpty() ? tr("Bitte warten...") : text;
     m_started.start();
     m_lastPaint.start();
@@ -55,6 +56,11 @@ void KalProgressDialog::setProgress(qint64 done, qint64 total)
 {
     if (m_depth == 0 || !m_window)
         return;
+    if (m_yielded) {
+        // Setting a value would let the window show itself again.
+        keepPainting();
+        return;
+    }
     if (total > 0) {
         // The bar works with int; scale large totals down.
         const double fraction = qBound(0.0, double(done) / double(total), 1.0);
@@ -80,12 +86,25 @@ void KalProgressDialog::end()
         m_window->deleteLater();
         m_window = nullptr;
     }
+    if (!m_yielded)
+        QApplication::restoreOverrideCursor();
+    m_yielded = false;
+}
+
+void KalProgressDialog::yieldToMessage()
+{
+    if (m_depth == 0 || m_yielded)
+        return;
+    m_yielded = true;
+    m_showTimer->stop();
+    if (m_window)
+        m_window->hide();
     QApplication::restoreOverrideCursor();
 }
 
 void KalProgressDialog::showWindow()
 {
-    if (m_depth == 0 || !m_window || m_window->isVisible())
+    if (m_depth == 0 || m_yielded || !m_window || m_window->isVisible())
         return;
     m_window->show();
     m_window->raise();

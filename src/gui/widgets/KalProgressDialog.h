@@ -23,6 +23,7 @@ public:
     void begin(const QString &text) override;
     void setProgress(qint64 done, qint64 total) override;
     void end() override;
+    void yieldToMessage() override;
 
     // Delay before the window shows, in milliseconds.
     static int showDelay() { return 300; }
@@ -34,6 +35,8 @@ private:
     void keepPainting();
 
     int m_depth = 0;
+    // A message was shown during the operation: no window, no wait cursor.
+    bool m_yielded = false;
     QString m_text;
     QElapsedTimer m_started;
     QElapsedTimer m_lastPaint;

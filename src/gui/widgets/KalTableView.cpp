@@ -147,6 +147,21 @@ void KalTableView::setModel(QAbstractItemModel *model)
     slotHideMsgLabel();
 }
 
+bool KalTableView::finishEditing(bool commit)
+{
+    if (state() == EditingState) {
+        if (QWidget *editor = indexWidget(currentIndex())) {
+            if (commit)
+                commitData(editor);
+            closeEditor(editor, QAbstractItemDelegate::NoHint);
+        }
+    }
+    // The submit queued for a closed editor would die with a closing window.
+    if (commit && m_submitEdits && m_sqlModel && m_sqlModel->isDirty())
+        return m_sqlModel->submitWithNotification(true);
+    return true;
+}
+
 KalItemDelegate *KalTableView::kalDelegate() const
 {
     return m_delegate;

@@ -32,6 +32,12 @@ public:
     void setSubmitEdits(bool submit) { m_submitEdits = submit; }
     bool submitEdits() const { return m_submitEdits; }
 
+    // Ends an edit still open in a cell, as closing the grid's window does:
+    // with `commit` its text goes to the model and, when edits are written
+    // at once, everything pending is written now; without, it is dropped.
+    // False when writing failed.
+    bool finishEditing(bool commit = true);
+
     KalSqlTableModel *sqlModel() const;
     KalItemDelegate *kalDelegate() const;
     QString tableName() const;
