@@ -1,6 +1,7 @@
 #include "KalCli.h"
 
 #include "core/project/KalPrompt.h"
+#include "core/project/KalSqliteCheck.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -120,6 +121,8 @@ int run(int argc, char **argv, const QList<Command> &commands)
         KalPrompt::critical(QStringLiteral("Fehler"), QStringLiteral("Der SQLite-Treiber (QSQLITE) fehlt."));
         return Failed;
     }
+    if (!KalSqliteCheck::verify())
+        return Failed;
     if (rest.isEmpty())
         return usageError(QStringLiteral("no command given"));
     const QString name = rest.takeFirst();

@@ -179,6 +179,29 @@ private slots:
             QCOMPARE(run.out.trimmed().toLongLong(), id);
         }
     }
+
+    // A release build tells the user through its messages only; no
+    // developer diagnostics in front of them on stderr.
+    void failuresPrintOnlyMessages_data()
+    {
+        QTest::addColumn<QStringList>("damage");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("id table gone") << QStringList{"DROP TABLE id_generator"} << "Datenbankfehler: ";
+        QTest::newRow("defect table read-only view")
+            << QStringList{"ALTER TABLE defect RENAME TO defect_old", "CREATE VIEW defect AS SELECT * FROM defect_old"}
+            << "Datenbankfehler: ";
+    }
+
+    void failuresPrintOnlyMessages()
+    {
+        QFETCH(QStringList, damage);
+        QFETCH(QString, title);
+        QVERIFY(createProject(path("bau.pwp"), 1));
+        QVERIFY(execute(path("bau.pwp"), damage));
+        const KalCliResult run = kalRunCli({"add-defect", path("bau.pwp"), "--description", "neu"});
+        QCOMPARE(run.code, 1);
+        QVERIFY2(run.err.startsWith(title), qPrintable(run.err));
+    }
 };
 
 QTEST_GUILESS_MAIN(TstHostileFiles)

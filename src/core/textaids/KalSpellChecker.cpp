@@ -1,5 +1,6 @@
 #include "KalSpellChecker.h"
 
+#include "core/project/KalLog.h"
 #include "core/project/KalPrompt.h"
 
 #include <QDir>
@@ -106,7 +107,7 @@ void KalSpellChecker::readEncoding(const QString &affPath)
             const QRegularExpressionMatch match = set.match(line);
             if (match.hasMatch()) {
                 m_encoding = match.captured(1);
-                qInfo("Encoding set to %s", qPrintable(m_encoding));
+                qCDebug(kalSpellLog, "Encoding set to %s", qPrintable(m_encoding));
                 break;
             }
         }
@@ -115,7 +116,7 @@ void KalSpellChecker::readEncoding(const QString &affPath)
     if (!codec && m_encoding.startsWith(QLatin1String("ISO8859"), Qt::CaseInsensitive)) // Hunspell's spelling
         codec = QTextCodec::codecForName("ISO-8859" + m_encoding.mid(7).toLatin1());
     if (!codec) {
-        qWarning("Unknown dictionary encoding %s, using ISO 8859-1", qPrintable(m_encoding));
+        qCDebug(kalSpellLog, "Unknown dictionary encoding %s, using ISO 8859-1", qPrintable(m_encoding));
         codec = QTextCodec::codecForName("ISO-8859-1");
     }
     m_codec = codec;
@@ -124,7 +125,7 @@ void KalSpellChecker::readEncoding(const QString &affPath)
 void KalSpellChecker::loadUserDictionary()
 {
     if (m_userDictionary.isEmpty()) {
-        qInfo("User dictionary not set.");
+        qCDebug(kalSpellLog, "User dictionary not set.");
         return;
     }
     QFile file(m_userDictionary);
@@ -186,7 +187,7 @@ bool KalSpellChecker::addToUserDict(const QString &word)
         return false;
     ignoreWord(word);
     if (m_userDictionary.isEmpty()) {
-        qInfo("User dictionary not set.");
+        qCDebug(kalSpellLog, "User dictionary not set.");
         return false;
     }
     QFile file(m_userDictionary);
