@@ -82,15 +82,32 @@ private slots:
         QVERIFY(!QFileInfo::exists(path("bau.pwp-journal")));
     }
 
-    void exportFollowsALinkElsewhere()
+    void exportWritesOtherFiles_data()
     {
+        QTest::addColumn<QString>("output");
+        QTest::addColumn<QString>("written"); // the file that gets the CSV
+        QTest::newRow("through a link into another folder") << "liste.csv"
+                                                            << "ablage/liste.csv";
+        QTest::newRow("a name that begins like the project") << "bau.pwp.csv"
+                                                             << "bau.pwp.csv";
+        QTest::newRow("a backup-like name of another kind") << "bau.pwp.bak.csv"
+                                                            << "bau.pwp.bak.csv";
+    }
+
+    void exportWritesOtherFiles()
+    {
+        QFETCH(QString, output);
+        QFETCH(QString, written);
         QVERIFY(createProject(path("bau.pwp"), 2));
         QVERIFY(QDir().mkpath(path("ablage")));
-        QVERIFY(QFile::link("ablage/liste.csv", path("liste.csv")));
-        const KalCliResult run = kalRunCli({"export-defects", path("bau.pwp"), "--output", path("liste.csv")});
+        if (output != written)
+            QVERIFY(QFile::link(written, path(output)));
+        const QByteArray project = fileHash(path("bau.pwp"));
+        const KalCliResult run = kalRunCli({"export-defects", path("bau.pwp"), "--output", path(output)});
         QCOMPARE(run.code, 0);
-        QVERIFY(readAll(path("ablage/liste.csv")).contains("defect 2"));
-        QVERIFY(QFileInfo(path("liste.csv")).isSymLink());
+        QVERIFY(readAll(path(written)).contains("defect 2"));
+        QCOMPARE(QFileInfo(path(output)).isSymLink(), output != written);
+        QCOMPARE(fileHash(path("bau.pwp")), project);
     }
 
     // Texts of millions of quotes, each doubled in the CSV. Quoting that is

@@ -11,6 +11,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QHash>
+#include <QRegularExpression>
 #include <QSaveFile>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -326,13 +327,16 @@ QString KalDefectCsv::resolvedPath(const QString &path)
 bool KalDefectCsv::belongsToProject(const QString &target, const QString &projectPath)
 {
     const QFileInfo resolved(resolvedPath(target));
-    // The project as named and as its links lead; its journal, backups and
-    // user data all start with its file name.
+    // The project as named and as its links lead, with the files SQLite and
+    // the program keep beside it: journal, WAL, backups, user data.
     for (const QString &project : {QFileInfo(projectPath).absoluteFilePath(), resolvedPath(projectPath)}) {
         const QFileInfo info(project);
         const QString folder = QFileInfo(info.absolutePath()).canonicalFilePath();
-        if (resolved.absolutePath() == (folder.isEmpty() ? info.absolutePath() : folder) &&
-            resolved.fileName().startsWith(info.fileName()))
+        if (resolved.absolutePath() != (folder.isEmpty() ? info.absolutePath() : folder) ||
+            !resolved.fileName().startsWith(info.fileName()))
+            continue;
+        static const QRegularExpression companion(QStringLiteral("^(|-journal|-wal|-shm|\\.udf|(\\.\\d+)?\\.bak)$"));
+        if (companion.match(resolved.fileName().mid(info.fileName().size())).hasMatch())
             return true;
     }
     return false;
