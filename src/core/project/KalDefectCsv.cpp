@@ -342,15 +342,29 @@ bool KalDefectCsv::belongsToProject(const QString &target, const QString &projec
     return false;
 }
 
-bool KalDefectCsv::exportModel(const KalSqlTableModel *defects, Columns columns, const QString &path)
+bool KalDefectCsv::exportModel(const KalSqlTableModel *defects, Columns columns, const QString &path,
+                               const QString &projectPath)
 {
     QString error;
     if (!defects) {
         KalPrompt::critical(tr("Fehler"), tr("Es ist kein Projekt geöffnet."));
         return false;
     }
+    if (!projectPath.isEmpty() && belongsToProject(path, projectPath)) {
+        KalPrompt::critical(tr("Dateifehler"), tr("Die Mängelliste kann nicht in die Projektdatei selbst oder eine "
+                                                  "ihrer Begleitdateien geschrieben werden:\n%1")
+                                                   .arg(QDir::toNativeSeparators(path)));
+        return false;
+    }
     const auto write = [defects, columns](QIODevice *out, QString *) { return writeModel(defects, columns, out); };
-    if (!writeFile(path, write, &error)) {
+    bool written = false;
+    try {
+        written = writeFile(resolvedPath(path), write, &error);
+    } catch (const std::bad_alloc &) {
+        // The temporary file is gone with the unwinding; the target is untouched.
+        error = tr("Für die Mängelliste reicht der Arbeitsspeicher nicht.");
+    }
+    if (!written) {
         KalPrompt::critical(tr("Dateifehler"), error);
         return false;
     }

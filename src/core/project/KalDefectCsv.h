@@ -58,8 +58,10 @@ public:
     // the files beside it that belong to it (journal, backups, user data).
     static bool belongsToProject(const QString &target, const QString &projectPath);
 
-    // fromModel() + writeFile(); a failure is shown through KalPrompt.
-    static bool exportModel(const KalSqlTableModel *defects, Columns columns, const QString &path);
+    // fromModel() + writeFile(); a failure is shown through KalPrompt. With
+    // the project's path, a target that belongs to the project is refused.
+    static bool exportModel(const KalSqlTableModel *defects, Columns columns, const QString &path,
+                            const QString &projectPath = QString());
 
     // One cell quoted as RFC 4180 asks (only when needed), in linear time.
     static QString quoted(const QString &cell);
