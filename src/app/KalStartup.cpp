@@ -4,6 +4,7 @@
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
 #include "core/project/KalSettings.h"
+#include "core/project/KalSqliteCheck.h"
 #include "gui/mainwindow/KalMainWindow.h"
 
 #include <QApplication>
@@ -186,6 +187,8 @@ void KalStartup::showScalingNotice(QWidget *window)
 
 void KalStartup::carryOut(KalMainWindow *window, const KalCommandLine &commandLine)
 {
+    if (!KalSqliteCheck::verifyOrQuit())
+        return;
     switch (commandLine.kind) {
     case KalCommandLine::Nothing:
         return;

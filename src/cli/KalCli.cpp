@@ -1,12 +1,14 @@
 #include "KalCli.h"
 
 #include "core/project/KalPrompt.h"
+#include "core/project/KalSqliteCheck.h"
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QSqlDatabase>
 #include <cstdio>
+#include <new>
 
 namespace KalCli {
 
@@ -119,6 +121,8 @@ int run(int argc, char **argv, const QList<Command> &commands)
         KalPrompt::critical(QStringLiteral("Fehler"), QStringLiteral("Der SQLite-Treiber (QSQLITE) fehlt."));
         return Failed;
     }
+    if (!KalSqliteCheck::verify())
+        return Failed;
     if (rest.isEmpty())
         return usageError(QStringLiteral("no command given"));
     const QString name = rest.takeFirst();
@@ -128,7 +132,15 @@ int run(int argc, char **argv, const QList<Command> &commands)
         if (rest.isEmpty() || rest.first().startsWith(QLatin1String("--")))
             return usageError(QStringLiteral("%1 needs a project file").arg(name));
         const QString file = rest.takeFirst();
-        return command.run(file, rest);
+        try {
+            return command.run(file, rest);
+        } catch (const std::bad_alloc &) {
+            // Files are written to a temporary name first: stopping here
+            // leaves every file as it was.
+            KalPrompt::critical(tr("Speicherfehler"),
+                                tr("Für diesen Vorgang reicht der Arbeitsspeicher nicht; er wurde abgebrochen."));
+            return Failed;
+        }
     }
     return usageError(QStringLiteral("unknown command '%1'").arg(name));
 }

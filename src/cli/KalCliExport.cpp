@@ -9,6 +9,7 @@
 #include "core/project/KalSettings.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QLocale>
 #include <QSqlDatabase>
@@ -49,39 +50,44 @@ int kalCliExportDefects(const QString &file, const QStringList &options)
     const QString nativeFile = QDir::toNativeSeparators(file);
     if (fileMissing(file))
         return Failed;
-    if (!output.isEmpty() && QFileInfo(output).absoluteFilePath() == QFileInfo(file).absoluteFilePath()) {
+    // Links are followed as the write would follow them: a link to the
+    // project, its journal or a backup must not turn into a CSV file.
+    if (!output.isEmpty() && KalDefectCsv::belongsToProject(output, file)) {
         KalPrompt::critical(tr("Dateifehler"),
-                            tr("Die Mängelliste kann nicht in die Projektdatei selbst geschrieben werden."));
+                            tr("Die Mängelliste kann nicht in die Projektdatei selbst oder eine ihrer Begleitdateien "
+                               "geschrieben werden:\n%1")
+                                .arg(QDir::toNativeSeparators(output)));
         return Failed;
     }
     // Dates in the notation the program uses.
     QLocale::setDefault(KalSettings::chosenLocale());
 
-    QByteArray csv;
     QString error;
-    bool read = false;
+    bool written = false;
     kalCliReadOnly(file, [&](QSqlDatabase &db) {
-        if (!db.isOpen())
+        if (!db.isOpen()) {
             error = tr("Die Datei\n%1\nkonnte nicht geöffnet werden:\n%2").arg(nativeFile, db.lastError().text());
-        else if (!isProject(db))
-            error = tr("Die Datei\n%1\nist keine Pellwick-Projektdatei.").arg(nativeFile);
-        else
-            read = KalDefectCsv::fromDatabase(db, columns, KalCompanyFormat::load(), &csv, &error);
-    });
-    if (!read) {
-        KalPrompt::critical(tr("Dateifehler"), error);
-        return Failed;
-    }
-
-    if (output.isEmpty()) {
-        const bool written = std::fwrite(csv.constData(), 1, size_t(csv.size()), stdout) == size_t(csv.size());
-        if (std::fflush(stdout) != 0 || !written) {
-            KalPrompt::critical(tr("Dateifehler"), tr("Die Mängelliste konnte nicht ausgegeben werden."));
-            return Failed;
+            return;
         }
-        return Success;
-    }
-    if (!KalDefectCsv::writeFile(output, csv, &error)) {
+        if (!isProject(db)) {
+            error = tr("Die Datei\n%1\nist keine Pellwick-Projektdatei.").arg(nativeFile);
+            return;
+        }
+        const KalCompanyFormat format = KalCompanyFormat::load();
+        const auto write = [&](QIODevice *out, QString *errorText) {
+            return KalDefectCsv::writeDatabase(db, columns, format, out, errorText);
+        };
+        if (!output.isEmpty()) {
+            // Into a temporary file beside the resolved target, renamed over it when complete.
+            written = KalDefectCsv::writeFile(KalDefectCsv::resolvedPath(output), write, &error);
+            return;
+        }
+        QFile out;
+        written = out.open(stdout, QIODevice::WriteOnly) && write(&out, &error) && out.flush();
+        if (!written && error.isEmpty())
+            error = tr("Die Mängelliste konnte nicht ausgegeben werden.");
+    });
+    if (!written) {
         KalPrompt::critical(tr("Dateifehler"), error);
         return Failed;
     }

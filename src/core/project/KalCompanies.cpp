@@ -1,5 +1,6 @@
 #include "KalCompanies.h"
 
+#include "core/project/KalLog.h"
 #include "core/project/KalModelHost.h"
 #include "core/project/KalSqlTableModel.h"
 
@@ -129,7 +130,7 @@ bool KalCompanies::releaseDefects(KalModelHost &host, const QSqlRecord &company,
     query.prepare(QStringLiteral("UPDATE defect SET company_id = NULL WHERE company_id = :id"));
     query.bindValue(QStringLiteral(":id"), company.value(QStringLiteral("id")));
     if (!query.exec()) {
-        qDebug("SQL-Error: %s\n", qPrintable(query.lastError().text()));
+        qCDebug(kalSqlLog, "SQL-Error: %s", qPrintable(query.lastError().text()));
         return false;
     }
     if (query.numRowsAffected() > 0)

@@ -1,5 +1,6 @@
 #include "KalCompanyFormat.h"
 
+#include "core/project/KalLog.h"
 #include "core/project/KalSqlTableModel.h"
 
 #include <QSettings>
@@ -164,7 +165,7 @@ QString KalCompanyFormat::text(const QSqlDatabase &db, qint64 companyId, const Q
     query.prepare(QStringLiteral("SELECT * FROM company WHERE id = :id"));
     query.bindValue(QStringLiteral(":id"), companyId);
     if (!query.exec()) {
-        qDebug("SQL-Error: %s\n", qPrintable(query.lastError().text()));
+        qCDebug(kalSqlLog, "SQL-Error: %s", qPrintable(query.lastError().text()));
         return QString();
     }
     if (!query.next())

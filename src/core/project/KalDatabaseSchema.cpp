@@ -1,5 +1,6 @@
 #include "KalDatabaseSchema.h"
 
+#include "core/project/KalLog.h"
 #include "core/project/KalPrompt.h"
 #include "core/project/KalTransactions.h"
 
@@ -67,7 +68,7 @@ bool KalDatabaseSchema::createSchema(const QSqlDatabase &db, KalTransactions &tr
             continue;
         QSqlQuery query(db);
         if (!query.exec(statement)) {
-            qDebug("SQL-Error: %s\n", qPrintable(query.lastError().text()));
+            qCDebug(kalSqlLog, "SQL-Error: %s", qPrintable(query.lastError().text()));
             transactions.rollback();
             showInitFailure();
             return false;
@@ -95,7 +96,7 @@ bool KalDatabaseSchema::createSchema(const QSqlDatabase &db, KalTransactions &tr
     kal.bindValue(QStringLiteral(":footer_right"), tr("www.quellor.de"));
     if (kalId < 0 || !kal.exec() || !setFileVersion(db, programFileVersion())) {
         if (kal.lastError().isValid())
-            qDebug("SQL-Error: %s\n", qPrintable(kal.lastError().text()));
+            qCDebug(kalSqlLog, "SQL-Error: %s", qPrintable(kal.lastError().text()));
         transactions.rollback();
         showInitFailure();
         return false;
@@ -177,7 +178,7 @@ qint64 KalDatabaseSchema::nextId(const QSqlDatabase &db, KalTransactions &transa
     select.prepare(QStringLiteral("SELECT id_table, id_counter FROM id_generator WHERE id_table = :tablename"));
     select.bindValue(QStringLiteral(":tablename"), table);
     if (!select.exec()) {
-        qDebug("SQL-Error: %s\n", qPrintable(select.lastError().text()));
+        qCDebug(kalSqlLog, "SQL-Error: %s", qPrintable(select.lastError().text()));
         transactions.rollback();
         return -1;
     }
@@ -205,7 +206,7 @@ qint64 KalDatabaseSchema::nextId(const QSqlDatabase &db, KalTransactions &transa
     write.bindValue(QStringLiteral(":newid"), newId);
     write.bindValue(QStringLiteral(":tablename"), table);
     if (!write.exec()) {
-        qDebug("SQL-Error: %s\n", qPrintable(write.lastError().text()));
+        qCDebug(kalSqlLog, "SQL-Error: %s", qPrintable(write.lastError().text()));
         transactions.rollback();
         return -1;
     }
@@ -255,7 +256,7 @@ bool KalDatabaseSchema::setIdCounter(const QSqlDatabase &db, KalTransactions &tr
     write.bindValue(QStringLiteral(":newid"), value);
     write.bindValue(QStringLiteral(":tablename"), table);
     if (!write.exec()) {
-        qDebug("SQL-Error: %s\n", qPrintable(write.lastError().text()));
+        qCDebug(kalSqlLog, "SQL-Error: %s", qPrintable(write.lastError().text()));
         transactions.rollback();
         return false;
     }
@@ -284,7 +285,7 @@ bool KalDatabaseSchema::setMetaValue(const QSqlDatabase &db, const QString &key,
     query.bindValue(QStringLiteral(":key"), key);
     query.bindValue(QStringLiteral(":value"), value);
     if (!query.exec()) {
-        qDebug("SQL-Error: %s\n", qPrintable(query.lastError().text()));
+        qCDebug(kalSqlLog, "SQL-Error: %s", qPrintable(query.lastError().text()));
         if (error)
             *error = query.lastError();
         return false;

@@ -5,16 +5,21 @@
 #include "core/project/KalSqlTableModel.h"
 #include "core/textaids/KalDateFormat.h"
 
+#include <QBuffer>
 #include <QDate>
 #include <QDateTime>
 #include <QDir>
+#include <QFileInfo>
 #include <QHash>
+#include <QRegularExpression>
 #include <QSaveFile>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <QVariant>
 #include <algorithm>
+#include <limits>
+#include <new>
 
 namespace {
 
@@ -49,22 +54,33 @@ struct Row
     QStringList cells;
 };
 
-QByteArray buildCsv(const QStringList &captions, QVector<Row> rows)
+// One line as UTF-8, written at once: a row never waits for the next one,
+// so the whole file is never held in memory.
+bool writeLine(QIODevice *out, const QStringList &cells)
+{
+    QString line;
+    for (int i = 0; i < cells.size(); ++i) {
+        if (i > 0)
+            line += QLatin1Char(';');
+        line += KalDefectCsv::quoted(cells.at(i));
+    }
+    line += QLatin1String("\r\n");
+    const QByteArray bytes = line.toUtf8();
+    return out->write(bytes) == bytes.size();
+}
+
+// False when `out` refuses a write; its errorString() tells why.
+bool writeCsv(QIODevice *out, const QStringList &captions, QVector<Row> rows)
 {
     std::stable_sort(rows.begin(), rows.end(), [](const Row &a, const Row &b) {
         return KalDefectCsv::numberLess(a.number, a.id, b.number, b.id);
     });
-    const auto line = [](const QStringList &cells) {
-        QStringList quoted;
-        quoted.reserve(cells.size());
-        for (const QString &cell : cells)
-            quoted << KalDefectCsv::quoted(cell);
-        return quoted.join(QLatin1Char(';')) + QStringLiteral("\r\n");
-    };
-    QString text = line(captions);
-    for (const Row &row : qAsConst(rows))
-        text += line(row.cells);
-    return QByteArray("\xEF\xBB\xBF") + text.toUtf8();
+    bool written = out->write("\xEF\xBB\xBF", 3) == 3 && writeLine(out, captions);
+    for (int i = 0; written && i < rows.size(); ++i) {
+        written = writeLine(out, rows.at(i).cells);
+        rows[i].cells.clear(); // the texts of a written row are no longer needed
+    }
+    return written;
 }
 
 QString reductionSuffix()
@@ -81,18 +97,31 @@ QStringList KalDefectCsv::columnFields(Columns columns)
 
 QString KalDefectCsv::quoted(const QString &cell)
 {
+    qint64 quotes = 0;
     bool needsQuotes = false;
     for (const QChar c : cell) {
-        if (c == QLatin1Char(';') || c == QLatin1Char('"') || c == QLatin1Char('\n') || c == QLatin1Char('\r')) {
+        if (c == QLatin1Char('"'))
+            ++quotes;
+        else if (c == QLatin1Char(';') || c == QLatin1Char('\n') || c == QLatin1Char('\r'))
             needsQuotes = true;
-            break;
-        }
     }
-    if (!needsQuotes)
+    if (quotes == 0 && !needsQuotes)
         return cell;
-    QString text = cell;
-    text.replace(QLatin1Char('"'), QLatin1String("\"\""));
-    return QLatin1Char('"') + text + QLatin1Char('"');
+    // One pass into a buffer of the final size: replacing quote by quote
+    // takes quadratic time on texts full of quotes.
+    const qint64 size = cell.size() + quotes + 2;
+    if (size > std::numeric_limits<int>::max() / 2)
+        throw std::bad_alloc();
+    QString text(int(size), Qt::Uninitialized);
+    QChar *to = text.data();
+    *to++ = QLatin1Char('"');
+    for (const QChar c : cell) {
+        *to++ = c;
+        if (c == QLatin1Char('"'))
+            *to++ = c;
+    }
+    *to = QLatin1Char('"');
+    return text;
 }
 
 bool KalDefectCsv::numberLess(const QString &a, qint64 idA, const QString &b, qint64 idB)
@@ -115,6 +144,15 @@ bool KalDefectCsv::numberLess(const QString &a, qint64 idA, const QString &b, qi
 }
 
 QByteArray KalDefectCsv::fromModel(const KalSqlTableModel *defects, Columns columns)
+{
+    QByteArray csv;
+    QBuffer buffer(&csv);
+    buffer.open(QIODevice::WriteOnly);
+    writeModel(defects, columns, &buffer);
+    return csv;
+}
+
+bool KalDefectCsv::writeModel(const KalSqlTableModel *defects, Columns columns, QIODevice *out)
 {
     const QStringList fields = columnFields(columns);
     QStringList captions;
@@ -152,11 +190,23 @@ QByteArray KalDefectCsv::fromModel(const KalSqlTableModel *defects, Columns colu
         }
         rows << row;
     }
-    return buildCsv(captions, rows);
+    return writeCsv(out, captions, rows);
 }
 
 bool KalDefectCsv::fromDatabase(const QSqlDatabase &db, Columns columns, const KalCompanyFormat &format,
                                 QByteArray *csv, QString *errorText)
+{
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    if (!writeDatabase(db, columns, format, &buffer, errorText))
+        return false;
+    *csv = bytes;
+    return true;
+}
+
+bool KalDefectCsv::writeDatabase(const QSqlDatabase &db, Columns columns, const KalCompanyFormat &format,
+                                 QIODevice *out, QString *errorText)
 {
     const auto failed = [errorText](const QSqlQuery &query) {
         if (errorText)
@@ -231,41 +281,90 @@ bool KalDefectCsv::fromDatabase(const QSqlDatabase &db, Columns columns, const K
     }
     if (query.lastError().isValid())
         return failed(query);
-    *csv = buildCsv(captions, rows);
-    return true;
+    return writeCsv(out, captions, rows);
 }
 
 bool KalDefectCsv::writeFile(const QString &path, const QByteArray &csv, QString *errorText)
 {
+    return writeFile(
+        path, [&csv](QIODevice *out, QString *) { return out->write(csv) == csv.size(); }, errorText);
+}
+
+bool KalDefectCsv::writeFile(const QString &path, const std::function<bool(QIODevice *, QString *)> &write,
+                             QString *errorText)
+{
     QSaveFile file(path);
+    QString writeError;
     const auto failed = [&]() {
         if (errorText)
-            *errorText = tr("Die Datei\n%1\nkonnte nicht geschrieben werden:\n%2")
-                             .arg(QDir::toNativeSeparators(path), file.errorString());
+            *errorText = !writeError.isEmpty() ? writeError
+                                               : tr("Die Datei\n%1\nkonnte nicht geschrieben werden:\n%2")
+                                                     .arg(QDir::toNativeSeparators(path), file.errorString());
         file.cancelWriting();
         return false;
     };
     if (!file.open(QIODevice::WriteOnly))
         return failed();
-    if (file.write(csv) != csv.size())
+    if (!write(&file, &writeError))
         return failed();
-    if (!file.commit()) {
-        if (errorText)
-            *errorText = tr("Die Datei\n%1\nkonnte nicht geschrieben werden:\n%2")
-                             .arg(QDir::toNativeSeparators(path), file.errorString());
-        return false;
-    }
+    if (!file.commit())
+        return failed();
     return true;
 }
 
-bool KalDefectCsv::exportModel(const KalSqlTableModel *defects, Columns columns, const QString &path)
+QString KalDefectCsv::resolvedPath(const QString &path)
+{
+    QFileInfo info(QFileInfo(path).absoluteFilePath());
+    // Follow the links as a write would, also those whose target is missing.
+    for (int depth = 0; depth < 40 && info.isSymLink(); ++depth)
+        info.setFile(info.symLinkTarget());
+    if (info.exists())
+        return info.canonicalFilePath();
+    const QString folder = QFileInfo(info.absolutePath()).canonicalFilePath();
+    return folder.isEmpty() ? info.absoluteFilePath() : QDir(folder).filePath(info.fileName());
+}
+
+bool KalDefectCsv::belongsToProject(const QString &target, const QString &projectPath)
+{
+    const QFileInfo resolved(resolvedPath(target));
+    // The project as named and as its links lead, with the files SQLite and
+    // the program keep beside it: journal, WAL, backups, user data.
+    for (const QString &project : {QFileInfo(projectPath).absoluteFilePath(), resolvedPath(projectPath)}) {
+        const QFileInfo info(project);
+        const QString folder = QFileInfo(info.absolutePath()).canonicalFilePath();
+        if (resolved.absolutePath() != (folder.isEmpty() ? info.absolutePath() : folder) ||
+            !resolved.fileName().startsWith(info.fileName()))
+            continue;
+        static const QRegularExpression companion(QStringLiteral("^(|-journal|-wal|-shm|\\.udf|(\\.\\d+)?\\.bak)$"));
+        if (companion.match(resolved.fileName().mid(info.fileName().size())).hasMatch())
+            return true;
+    }
+    return false;
+}
+
+bool KalDefectCsv::exportModel(const KalSqlTableModel *defects, Columns columns, const QString &path,
+                               const QString &projectPath)
 {
     QString error;
     if (!defects) {
         KalPrompt::critical(tr("Fehler"), tr("Es ist kein Projekt geöffnet."));
         return false;
     }
-    if (!writeFile(path, fromModel(defects, columns), &error)) {
+    if (!projectPath.isEmpty() && belongsToProject(path, projectPath)) {
+        KalPrompt::critical(tr("Dateifehler"), tr("Die Mängelliste kann nicht in die Projektdatei selbst oder eine "
+                                                  "ihrer Begleitdateien geschrieben werden:\n%1")
+                                                   .arg(QDir::toNativeSeparators(path)));
+        return false;
+    }
+    const auto write = [defects, columns](QIODevice *out, QString *) { return writeModel(defects, columns, out); };
+    bool written = false;
+    try {
+        written = writeFile(resolvedPath(path), write, &error);
+    } catch (const std::bad_alloc &) {
+        // The temporary file is gone with the unwinding; the target is untouched.
+        error = tr("Für die Mängelliste reicht der Arbeitsspeicher nicht.");
+    }
+    if (!written) {
         KalPrompt::critical(tr("Dateifehler"), error);
         return false;
     }

@@ -7,6 +7,9 @@
 #include <QSqlDatabase>
 #include <QString>
 #include <QStringList>
+#include <functional>
+
+class QIODevice;
 
 class KalSqlTableModel;
 
@@ -28,20 +31,39 @@ public:
 
     // From the defect model of the open project (what the grid shows).
     static QByteArray fromModel(const KalSqlTableModel *defects, Columns columns);
+    // The same, row by row into `out`; false when `out` refuses a write.
+    static bool writeModel(const KalSqlTableModel *defects, Columns columns, QIODevice *out);
 
     // From a project file's connection (may be read-only): same texts, same
     // order, read with plain queries. False with a reason on failure.
     static bool fromDatabase(const QSqlDatabase &db, Columns columns, const KalCompanyFormat &format, QByteArray *csv,
                              QString *errorText);
+    // The same, row by row into `out`; false without a reason when `out`
+    // refuses a write (its errorString() tells why).
+    static bool writeDatabase(const QSqlDatabase &db, Columns columns, const KalCompanyFormat &format, QIODevice *out,
+                              QString *errorText);
 
     // Writes `csv` to `path` atomically: either the complete new file or the
     // old state stays. False with a reason on failure.
     static bool writeFile(const QString &path, const QByteArray &csv, QString *errorText);
+    // The same for content that `write` streams into the temporary file; its
+    // reason (if it gives one) is the reason of the failure.
+    static bool writeFile(const QString &path, const std::function<bool(QIODevice *, QString *)> &write,
+                          QString *errorText);
 
-    // fromModel() + writeFile(); a failure is shown through KalPrompt.
-    static bool exportModel(const KalSqlTableModel *defects, Columns columns, const QString &path);
+    // `path` with every link followed, also a dangling last one: the file a
+    // write to `path` would change.
+    static QString resolvedPath(const QString &path);
+    // True when writing to `target` would change the project file or one of
+    // the files beside it that belong to it (journal, backups, user data).
+    static bool belongsToProject(const QString &target, const QString &projectPath);
 
-    // One cell quoted as RFC 4180 asks (only when needed).
+    // fromModel() + writeFile(); a failure is shown through KalPrompt. With
+    // the project's path, a target that belongs to the project is refused.
+    static bool exportModel(const KalSqlTableModel *defects, Columns columns, const QString &path,
+                            const QString &projectPath = QString());
+
+    // One cell quoted as RFC 4180 asks (only when needed), in linear time.
     static QString quoted(const QString &cell);
 
     // Number order: numbers that are both numeric compare as numbers,

@@ -1,6 +1,7 @@
 #include "KalDefects.h"
 
 #include "core/project/KalEnvironment.h"
+#include "core/project/KalLog.h"
 #include "core/project/KalModelHost.h"
 #include "core/project/KalPrompt.h"
 #include "core/project/KalSqlTableModel.h"
@@ -20,7 +21,7 @@ bool execLogged(QSqlQuery &query)
 {
     if (query.exec())
         return true;
-    qDebug("SQL-Error: %s\n", qPrintable(query.lastError().text()));
+    qCDebug(kalSqlLog, "SQL-Error: %s", qPrintable(query.lastError().text()));
     return false;
 }
 

@@ -3,6 +3,7 @@
 #include "core/project/KalDatabaseSchema.h"
 #include "core/project/KalEnvironment.h"
 #include "core/project/KalFileOps.h"
+#include "core/project/KalLog.h"
 #include "core/project/KalProgress.h"
 #include "core/project/KalProjectLock.h"
 #include "core/project/KalProjectModels.h"
@@ -324,7 +325,7 @@ QString KalProject::checkIntegrity(const QString &connection)
             anyRow = true;
             const QVariant value = query.value(0);
             if (value.type() != QVariant::String) {
-                qDebug("integrity check : [UnknownDataType]\n");
+                qCDebug(kalSqlLog, "integrity check : [UnknownDataType]\n");
                 continue;
             }
             if (!result.isEmpty())
@@ -334,8 +335,8 @@ QString KalProject::checkIntegrity(const QString &connection)
     }
     if (!anyRow || result.isEmpty()) {
         if (!anyRow)
-            qDebug("integrity check returns nothing\n");
-        qDebug("integrity check : [NoResult]\n");
+            qCDebug(kalSqlLog, "integrity check returns nothing\n");
+        qCDebug(kalSqlLog, "integrity check : [NoResult]\n");
         QString error;
         QSqlQuery test(db);
         bool ok = test.exec(QStringLiteral("INSERT INTO meta (KEY, VALUE) VALUES('dummy', 'dummy');"));

@@ -3,6 +3,7 @@
 // checked, the previous file is kept as the newest backup through a hard
 // link, and one atomic rename puts the new file in place. The working copy
 // stays open and locked throughout.
+#include "core/project/KalLog.h"
 #include "core/project/KalProject.h"
 
 #include "core/project/KalDatabaseSchema.h"
@@ -202,7 +203,7 @@ int KalProject::saveInPlace()
     removeStaleSnapshots(m_projectPath);
     QString error;
     if (!KalSnapshot::write(database(), temporary, &error, m_workingCopyFd)) {
-        qDebug("Save failed: %s", qPrintable(error));
+        qCDebug(kalSqlLog, "Save failed: %s", qPrintable(error));
         KalPrompt::critical(tr("Dateifehler"),
                             tr("Kopieren der Datei\n%1\n fehlgeschlagen.").arg(nativeName(m_projectPath)));
         return SaveFailed;
@@ -369,7 +370,7 @@ bool KalProject::vacuumDatabase(bool silent)
     };
     QSqlQuery vacuum(database());
     if (!vacuum.exec(QStringLiteral("VACUUM"))) {
-        qDebug("SQL-Error: %s\n", qPrintable(vacuum.lastError().text()));
+        qCDebug(kalSqlLog, "SQL-Error: %s\n", qPrintable(vacuum.lastError().text()));
         rebuild();
         KalPrompt::critical(title, tr("Aufgrund eines SQL-Fehlers konnte die Datenbank nicht bereinigt werden."));
         return false;

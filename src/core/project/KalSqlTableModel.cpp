@@ -1,6 +1,7 @@
 #include "KalSqlTableModel.h"
 
 #include "core/project/KalDatabaseSchema.h"
+#include "core/project/KalLog.h"
 #include "core/project/KalModelHost.h"
 #include "core/project/KalTransactions.h"
 #include "core/textaids/KalDateFormat.h"
@@ -380,7 +381,7 @@ bool KalSqlTableModel::submitWithNotification(bool notify)
         commitTransaction();
     fetchAll();
     if (!ok)
-        qDebug("SQL-Error: %s\n", qPrintable(lastError().text()));
+        qCDebug(kalSqlLog, "SQL-Error: %s", qPrintable(lastError().text()));
     if (!m_changedTables.isEmpty())
         refreshDependentModels();
     if (notify)

@@ -1,5 +1,7 @@
 #include "KalTransactions.h"
 
+#include "core/project/KalLog.h"
+
 #include <QDebug>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -26,7 +28,7 @@ bool KalTransactions::begin()
         return true;
     QSqlQuery query(database());
     if (!query.exec(QStringLiteral("BEGIN EXCLUSIVE TRANSACTION"))) {
-        qDebug("SQL-Error: %s\n", qPrintable(query.lastError().text()));
+        qCDebug(kalSqlLog, "SQL-Error: %s", qPrintable(query.lastError().text()));
         m_depth = 0;
         return false;
     }
@@ -44,7 +46,7 @@ bool KalTransactions::commit()
     QSqlQuery query(database());
     if (!query.exec(QStringLiteral("COMMIT TRANSACTION"))) {
         // A failed commit is logged only; the caller decides what to tell.
-        qDebug("SQL-Error: %s\n", qPrintable(query.lastError().text()));
+        qCDebug(kalSqlLog, "SQL-Error: %s", qPrintable(query.lastError().text()));
         return false;
     }
     return true;
@@ -57,7 +59,7 @@ bool KalTransactions::rollback()
     m_depth = 0;
     QSqlQuery query(database());
     if (!query.exec(QStringLiteral("ROLLBACK TRANSACTION"))) {
-        qDebug("SQL-Error: %s\n", qPrintable(query.lastError().text()));
+        qCDebug(kalSqlLog, "SQL-Error: %s", qPrintable(query.lastError().text()));
         return false;
     }
     return true;

@@ -1,5 +1,6 @@
 #include "KalSpellChecker.h"
 
+#include "core/project/KalLog.h"
 #include "core/project/KalPrompt.h"
 
 #include <QDir>
@@ -150,7 +151,7 @@ void KalSpellChecker::readEncoding(const QString &affPath)
     if (!codec && m_encoding.startsWith(QLatin1String("ISO8859"), Qt::CaseInsensitive)) // Hunspell's spelling
         codec = QTextCodec::codecForName("ISO-8859" + m_encoding.mid(7).toLatin1());
     if (!codec) {
-        qWarning("Unknown dictionary encoding %s, using ISO 8859-1", qPrintable(m_encoding));
+        qCDebug(kalSpellLog, "Unknown dictionary encoding %s, using ISO 8859-1", qPrintable(m_encoding));
         codec = QTextCodec::codecForName("ISO-8859-1");
     }
     m_codec = codec;
