@@ -3,10 +3,10 @@
 #include "core/project/KalEnvironment.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
+#include "core/textaids/KalSpellChecker.h"
 #include "gui/mainwindow/KalLanguageDialog.h"
 #include "gui/mainwindow/KalMainWindow.h"
 #include "gui/widgets/KalFileDialog.h"
-#include "gui/widgets/KalItemDelegate.h"
 #include "gui/widgets/KalResources.h"
 #include "gui/widgets/KalTableView.h"
 #include "support/KalDialogAnswer.h"
@@ -20,22 +20,19 @@
 #include <QGraphicsTextItem>
 #include <QGraphicsView>
 #include <QHeaderView>
+#include <QIcon>
 #include <QLineEdit>
 #include <QMenu>
-#include <QMenuBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSettings>
-#include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <QTemporaryDir>
-#include <QToolBar>
 #include <QToolButton>
 #include <QtTest>
 
 #include <memory>
-#include <unistd.h>
 
 // The main window driven as a user would: every question is answered by the
 // scripted prompt and every file dialog from the file-dialog queue.
@@ -54,11 +51,10 @@ private slots:
     void readOnlyFileOffersSaveAs_data();
     void readOnlyFileOffersSaveAs();
     void saveFailureIsReported();
-    void recentListKeepsOneEntryOnTop();
-    void openingMissingRecentFileRemovesIt();
+    void recentList();
     void tableFormats();
-    void formatWidthsAreRemembered();
-    void addDefectSelectsNewRow();
+    void addDefectByEveryWay_data();
+    void addDefectByEveryWay();
     void copyTakesOnlyTheListedFields();
     void selectionSurvivesSortAndSubmit();
     void planPanelShowsHintForDefectWithoutPlan();
@@ -69,12 +65,18 @@ private slots:
     void importMenuState_data();
     void importMenuState();
     void actionsWithoutFeatureAreDisabled();
+    void actionsFollowTheOpenProject_data();
+    void actionsFollowTheOpenProject();
+    void spellToggleNeedsDictionary_data();
+    void spellToggleNeedsDictionary();
+    void noticeIcons_data();
+    void noticeIcons();
     void compactUntitledAsksToSaveFirst();
     void compactSavesModifiedProjectFirst();
     void languageDialog_data();
     void languageDialog();
     void quitIsRefusedOnCancel();
-    void menusShortcutsAndToolBar();
+    void ctrlSOnUntitledAsksForName();
     void commandLineIsCarriedOut_data();
     void commandLineIsCarriedOut();
     // Last: a restart ends the application's event loop, and no modal dialog
@@ -122,6 +124,7 @@ void TestMainWindow::cleanup()
     }
     m_window.reset();
     KalEnvironment::setVolumeInfoFunction({});
+    KalSpellChecker::setInstance(nullptr);
     KalFileDialog::clearQueue();
     m_dir.reset();
 }
@@ -338,7 +341,7 @@ void TestMainWindow::saveFailureIsReported()
     QCOMPARE(m_window->defectModel()->rowCount(), 1);
 }
 
-void TestMainWindow::recentListKeepsOneEntryOnTop()
+void TestMainWindow::recentList()
 {
     for (const char *name : {"a.pwp", "b.pwp"}) {
         KalFileDialog::queueChoice(path(QString::fromLatin1(name)));
@@ -364,24 +367,20 @@ void TestMainWindow::recentListKeepsOneEntryOnTop()
     menu->actions().at(1)->trigger();
     QCOMPARE(m_window->project()->projectPath(), b);
     QCOMPARE(m_window->recentFiles().first(), b);
-}
 
-void TestMainWindow::openingMissingRecentFileRemovesIt()
-{
-    KalFileDialog::queueChoice(path("gone.pwp"));
-    QCOMPARE(m_window->maybeSave(true, true), 0);
+    // A file that has gone is reported and leaves the list; the window keeps a project.
     QVERIFY(m_window->newProject());
-    QVERIFY(QFile::remove(path("gone.pwp")));
-    QVERIFY(!m_window->openProject(path("gone.pwp")));
-    QVERIFY(m_prompt->texts().contains(
-        QStringLiteral("Die Datei\n%1\nexistiert nicht.").arg(QDir::toNativeSeparators(path("gone.pwp")))));
-    QVERIFY(m_window->recentFiles().isEmpty());
-    // The window still works on a project.
+    QVERIFY(QFile::remove(b));
+    QVERIFY(!m_window->openProject(b));
+    QVERIFY(
+        m_prompt->texts().contains(QStringLiteral("Die Datei\n%1\nexistiert nicht.").arg(QDir::toNativeSeparators(b))));
+    QCOMPARE(m_window->recentFiles(), QStringList{a});
     QVERIFY(m_window->project()->isOpen());
 }
 
 // The compact format shows some of the columns of the full one, in the
-// same order; the button switches and the choice outlives the window.
+// same order, with widths of its own; the button switches and the choice
+// outlives the window.
 void TestMainWindow::tableFormats()
 {
     auto *button = m_window->findChild<QPushButton *>(QStringLiteral("pbDefectTableDisplayFormat"));
@@ -400,40 +399,74 @@ void TestMainWindow::tableFormats()
                  shared.end());
     QCOMPARE(shared, compact);
 
+    // Each format keeps its own column widths.
+    QHeaderView *header = m_window->defectTable()->horizontalHeader();
+    const int room = m_window->defectModel()->fieldIndex("roomname");
+    header->resizeSection(room, 143);
+    button->click(); // to the compact format, the full widths stored
+    header->resizeSection(room, 217);
+    button->click();
+    QCOMPARE(header->sectionSize(room), 143);
+    button->click();
+    QCOMPARE(header->sectionSize(room), 217);
+    button->click();
+
     m_window.reset();
     m_window = std::make_unique<KalMainWindow>();
     QCOMPARE(m_window->defectTableFormat(), 2);
     QCOMPARE(visibleFields(), all);
 }
 
-void TestMainWindow::formatWidthsAreRemembered()
+void TestMainWindow::addDefectByEveryWay_data()
 {
-    KalSqlTableModel *model = m_window->defectModel();
-    QHeaderView *header = m_window->defectTable()->horizontalHeader();
-    const int room = model->fieldIndex("roomname");
-    header->resizeSection(room, 217);
-    auto *button = m_window->findChild<QPushButton *>(QStringLiteral("pbDefectTableDisplayFormat"));
-    button->click(); // to format 2: compact widths stored
-    header->resizeSection(room, 143);
-    button->click(); // back to 1
-    QCOMPARE(header->sectionSize(room), 217);
-    button->click();
-    QCOMPARE(header->sectionSize(room), 143);
+    QTest::addColumn<QString>("way");
+    QTest::addColumn<bool>("ok");
+    for (const char *way : {"menu", "plus button", "double click"}) {
+        QTest::addRow("%s, OK", way) << QString(way) << true;
+        QTest::addRow("%s, Cancel", way) << QString(way) << false;
+    }
 }
 
-void TestMainWindow::addDefectSelectsNewRow()
+// Every way of adding a defect opens its editor on a stored defect; OK keeps
+// it selected, Cancel takes it back without giving its id out again.
+void TestMainWindow::addDefectByEveryWay()
 {
+    QFETCH(QString, way);
+    QFETCH(bool, ok);
+
     addDefect();
-    addDefect();
+    auto stored = [this] {
+        QSqlQuery q(m_window->project()->database());
+        return q.exec(QStringLiteral("SELECT COUNT(*) FROM defect")) && q.next() ? q.value(0).toInt() : -1;
+    };
+    int shownWith = -1;
+    KalDialogAnswer<QDialog> editor([&](QDialog *dialog) {
+        shownWith = stored();
+        kalPress(dialog, ok ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel);
+    });
+    KalTableView *view = m_window->defectTable();
+    if (way == QLatin1String("menu"))
+        m_window->findChild<QAction *>(QStringLiteral("actionAddDefect"))->trigger();
+    else if (way == QLatin1String("plus button"))
+        view->addButton()->click();
+    else
+        QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, QPoint(20, view->viewport()->height() - 5));
+
+    QVERIFY(editor.seen());
+    QCOMPARE(shownWith, 2);
     KalSqlTableModel *model = m_window->defectModel();
-    QCOMPARE(model->rowCount(), 2);
+    QCOMPARE(stored(), ok ? 2 : 1);
+    QCOMPARE(model->rowCount(), ok ? 2 : 1);
+    QCOMPARE(m_window->project()->nextId(QStringLiteral("defect")), qint64(3));
+    QVERIFY(m_window->project()->isModified());
+    if (!ok)
+        return;
     const QList<qint64> selected = m_window->selectedDefectIds();
     QCOMPARE(selected.size(), 1);
     const QSqlRecord rec = model->record(model->findRowById(selected.first()));
     QCOMPARE(rec.value("number").toString(), QStringLiteral("0002"));
     QCOMPARE(rec.value("priority").toString(), QStringLiteral("Normal"));
     QCOMPARE(rec.value("plan_info_id").toInt(), -1);
-    QVERIFY(m_window->project()->isModified());
 }
 
 void TestMainWindow::copyTakesOnlyTheListedFields()
@@ -475,21 +508,10 @@ void TestMainWindow::copyTakesOnlyTheListedFields()
     QVERIFY(q.prepare("SELECT * FROM defect WHERE id = :id"));
     q.bindValue(":id", copies.first());
     QVERIFY(q.exec() && q.next());
-    const QStringList copied{"description",
-                             "company_id",
-                             "type",
-                             "user_id",
-                             "roomname",
-                             "roombook_number",
-                             "correction_instruction",
-                             "priority",
-                             "reduction",
-                             "creation_date",
-                             "correction_date",
-                             "deadline_1",
-                             "deadline_2",
-                             "deadline_3",
-                             "status_id"};
+    const QStringList copied = QStringLiteral("description company_id type user_id roomname roombook_number "
+                                              "correction_instruction priority reduction creation_date "
+                                              "correction_date deadline_1 deadline_2 deadline_3 status_id")
+                                   .split(' ');
     for (const QString &field : copied)
         QVERIFY2(q.value(field).toString() == source.value(field).toString(), qPrintable(field));
     QVERIFY(q.value("number").toString() != QLatin1String("0042"));
@@ -727,6 +749,92 @@ void TestMainWindow::actionsWithoutFeatureAreDisabled()
     QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(' ')));
 }
 
+// Commands that work on the open project cannot be started while none is
+// open (for a moment during a restart or after a failed open).
+void TestMainWindow::actionsFollowTheOpenProject_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<bool>("withoutProject");
+    QTest::newRow("save") << "actionSaveFile" << false;
+    QTest::newRow("save as") << "actionFileSaveAs" << false;
+    QTest::newRow("compact") << "actionCompactDB" << false;
+    QTest::newRow("add defect") << "actionAddDefect" << false;
+    QTest::newRow("new") << "actionCreateFile" << true;
+    QTest::newRow("open") << "actionOpenFile" << true;
+    QTest::newRow("not built stays off") << "actionPrintPreview" << false;
+}
+
+void TestMainWindow::actionsFollowTheOpenProject()
+{
+    QFETCH(QString, action);
+    QFETCH(bool, withoutProject);
+    QAction *a = m_window->findChild<QAction *>(action);
+    QVERIFY(a);
+    const bool withProject = a->isEnabled();
+    QVERIFY(m_window->closeProject(false));
+    QCOMPARE(a->isEnabled(), withoutProject);
+    QVERIFY(m_window->newProject());
+    QCOMPARE(a->isEnabled(), withProject);
+}
+
+// Spell checking can only be switched on with a readable dictionary.
+void TestMainWindow::spellToggleNeedsDictionary_data()
+{
+    QTest::addColumn<QString>("dictionary");
+    QTest::addColumn<bool>("enabled");
+    QTest::newRow("none") << "none" << false;
+    QTest::newRow("unreadable") << "broken" << false;
+    QTest::newRow("German") << "German" << true;
+}
+
+void TestMainWindow::spellToggleNeedsDictionary()
+{
+    QFETCH(QString, dictionary);
+    QFETCH(bool, enabled);
+    QString base = QStringLiteral(KAL_TEST_DICTIONARIES_DIR "/pym_DE");
+    if (dictionary == QLatin1String("broken")) {
+        base = path(QStringLiteral("pym_DE"));
+        for (const char *extension : {".aff", ".dic"}) {
+            QFile file(base + QLatin1String(extension));
+            QVERIFY(file.open(QIODevice::WriteOnly) && file.write("no word count\n") > 0);
+        }
+    }
+    m_window.reset();
+    if (dictionary != QLatin1String("none"))
+        KalSpellChecker::setInstance(new KalSpellChecker(base, QString()));
+    m_window = std::make_unique<KalMainWindow>();
+    auto *toggle = m_window->findChild<QAction *>(QStringLiteral("actionStartSpellChecking"));
+    QVERIFY(toggle);
+    QCOMPARE(toggle->isEnabled(), enabled);
+    const QString before = toggle->text();
+    toggle->trigger();
+    QVERIFY2(m_prompt->shown().isEmpty(), qPrintable(m_prompt->texts().join(QLatin1Char('|'))));
+    QCOMPARE(toggle->text() != before, enabled);
+}
+
+void TestMainWindow::noticeIcons_data()
+{
+    QTest::addColumn<QString>("notice");
+    QTest::addColumn<QString>("icon");
+    QTest::newRow("data import help") << "import help"
+                                      << ":/KalMainWindow/Resources/icon-help.ico";
+    QTest::newRow("compaction") << "compaction"
+                                << ":/KalMainWindow/Resources/icon-datei-datenbank.ico";
+}
+
+void TestMainWindow::noticeIcons()
+{
+    QFETCH(QString, notice);
+    QFETCH(QString, icon);
+    if (notice == QLatin1String("import help"))
+        KalStartup::showDataImportHelp();
+    else
+        m_window->findChild<QAction *>(QStringLiteral("actionCompactDB"))->trigger();
+    QVERIFY(!m_prompt->shown().isEmpty());
+    QCOMPARE(m_prompt->shown().first().iconPath, icon);
+    QVERIFY(!QIcon(icon).pixmap(48, 48).isNull());
+}
+
 void TestMainWindow::compactUntitledAsksToSaveFirst()
 {
     m_prompt->queueAnswer(QStringLiteral("Datenbank bereinigen"));
@@ -853,17 +961,8 @@ void TestMainWindow::quitIsRefusedOnCancel()
     QVERIFY(QSettings().contains("MainWindow/WindowState"));
 }
 
-void TestMainWindow::menusShortcutsAndToolBar()
+void TestMainWindow::ctrlSOnUntitledAsksForName()
 {
-    QCOMPARE(m_window->findChildren<QToolBar *>().size(), 1);
-    const QList<QPair<QString, QKeySequence>> shortcuts{
-        {"actionCreateFile", QKeySequence(Qt::CTRL | Qt::Key_N)},
-        {"actionOpenFile", QKeySequence(Qt::CTRL | Qt::Key_O)},
-        {"actionSaveFile", QKeySequence(Qt::CTRL | Qt::Key_S)},
-        {"actionFileSaveAs", QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_S)}};
-    for (const auto &s : shortcuts)
-        QCOMPARE(m_window->findChild<QAction *>(s.first)->shortcut(), s.second);
-
     // Ctrl+S on an untitled project asks for a name.
     KalFileDialog::queueChoice(path("kurz.pwp"));
     QTest::keyClick(m_window.get(), Qt::Key_S, Qt::ControlModifier);

@@ -67,8 +67,6 @@ void TstStartup::scalingPercent_data()
     QTest::newRow("96") << qreal(96) << 100;
     QTest::newRow("100 is not scaled") << qreal(100) << 100;
     QTest::newRow("120") << qreal(120) << 125;
-    QTest::newRow("144") << qreal(144) << 150;
-    QTest::newRow("192") << qreal(192) << 200;
     QTest::newRow("72") << qreal(72) << 75;
 }
 

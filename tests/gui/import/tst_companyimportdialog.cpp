@@ -1,5 +1,7 @@
-// Importing companies into the open project: from another project file
-// and from an address file whose columns the user maps.
+// Importing companies into the open project: from another project file and
+// from an address file, whose preview shows the field each column fills, how
+// it is read and what is left out; the user's corrections hold for the next
+// file of the same address book.
 #include "core/import/KalAddressFile.h"
 #include "core/project/KalProject.h"
 #include "gui/import/KalCompanyImportDialog.h"
@@ -13,10 +15,32 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QLabel>
 #include <QPushButton>
+#include <QSettings>
 #include <QTableWidget>
 #include <QTemporaryDir>
 #include <QtTest>
+
+namespace {
+const QByteArray webExport("Name,Given Name,Family Name,Phone 1 - Type,Phone 1 - Value,Birthday,Gruppe\n"
+                           "Hans Berg,Hans,Berg,Mobile,0171 5,1970-01-01,Rohbau\n");
+
+std::shared_ptr<KalAddressFile> load(const QByteArray &data)
+{
+    auto file = std::make_shared<KalAddressFile>();
+    QString error;
+    return file->loadData(data, &error) ? file : nullptr;
+}
+
+QString shownField(KalCompanyImportDialog &dialog, int column)
+{
+    // Combo boxes of an earlier preview go with the next event loop turn.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    auto *combo = dialog.findChild<QComboBox *>(QStringLiteral("cbxMapping%1").arg(column));
+    return combo ? combo->currentText() : QStringLiteral("<none>");
+}
+} // namespace
 
 class TstCompanyImportDialog : public QObject
 {
@@ -27,6 +51,9 @@ private slots:
     void init();
     void importPointsOutDuplicates();
     void addressFileMapping();
+    void previewNamesFieldsAndLeftOutColumns();
+    void correctionHoldsForTheNextFile();
+    void unclosedQuoteAfterChangingSeparatorBlocksImport();
 
 private:
     KalTestProject m_fx;
@@ -54,6 +81,7 @@ void TstCompanyImportDialog::initTestCase()
 void TstCompanyImportDialog::init()
 {
     m_prompt->clear();
+    QSettings().remove(QStringLiteral("CompanyImport"));
     QVERIFY(m_fx.open());
 }
 
@@ -123,6 +151,54 @@ void TstCompanyImportDialog::addressFileMapping()
     map(0, -1);
     map(1, -1);
     QVERIFY(dialog.companies().isEmpty());
+    QVERIFY(!dialog.findChild<QPushButton *>(QStringLiteral("pbImport"))->isEnabled());
+}
+
+void TstCompanyImportDialog::previewNamesFieldsAndLeftOutColumns()
+{
+    KalCompanyImportDialog dialog(m_fx.project());
+    dialog.setAddressFile(load(webExport), QStringLiteral("kontakte.csv"));
+    auto *preview = dialog.findChild<QTableWidget *>(QStringLiteral("twPreview"));
+    QVERIFY(preview);
+    const QStringList fields{"- ignorieren -", "Vorname",        "Nachname",      "- ignorieren -",
+                             "Telefon",        "- ignorieren -", "- ignorieren -"};
+    for (int column = 0; column < fields.size(); ++column)
+        QCOMPARE(shownField(dialog, column), fields.at(column));
+    QVERIFY(preview->item(1, 4)->text().contains(QStringLiteral("„Phone 1 - Type“")));
+    QCOMPARE(preview->item(1, 0)->text(), QStringLiteral("wird nicht übernommen"));
+    const QString unmapped = dialog.findChild<QLabel *>(QStringLiteral("lblUnmapped"))->text();
+    QVERIFY2(unmapped.contains(QStringLiteral("Name, Birthday, Gruppe")), qPrintable(unmapped));
+    // The type column chose the mobile field for this row.
+    QCOMPARE(dialog.companies().first().value(KalCompanyRecord::Mobile), QStringLiteral("0171 5"));
+}
+
+void TstCompanyImportDialog::correctionHoldsForTheNextFile()
+{
+    {
+        KalCompanyImportDialog dialog(m_fx.project());
+        dialog.setAddressFile(load(webExport), QStringLiteral("kontakte.csv"));
+        dialog.setColumnMapping(6, KalCompanyRecord::Type);
+        QCOMPARE(shownField(dialog, 6), QStringLiteral("Gewerk"));
+        QVERIFY(!dialog.findChild<QLabel *>(QStringLiteral("lblUnmapped"))->text().contains("Gruppe"));
+        dialog.findChild<QPushButton *>(QStringLiteral("pbImport"))->click();
+        QCOMPARE(dialog.result(), int(QDialog::Accepted));
+        QCOMPARE(dialog.insertedIds().size(), 1);
+    }
+    KalCompanyImportDialog again(m_fx.project());
+    again.setAddressFile(load(webExport + "Eva Roth,Eva,Roth,Work,0228 1,,Maler\n"), QStringLiteral("neu.csv"));
+    QCOMPARE(shownField(again, 6), QStringLiteral("Gewerk"));
+    QCOMPARE(again.companies().last().value(KalCompanyRecord::Type), QStringLiteral("Maler"));
+    QCOMPARE(again.duplicateRows(), QVector<int>{0});
+}
+
+void TstCompanyImportDialog::unclosedQuoteAfterChangingSeparatorBlocksImport()
+{
+    KalCompanyImportDialog dialog(m_fx.project());
+    dialog.setAddressFile(load("Firma|Ort\nRoth|Bonn;\"x\nKaya|K\xC3\xB6ln\n"), QStringLiteral("a.csv"));
+    QVERIFY(dialog.findChild<QPushButton *>(QStringLiteral("pbImport"))->isEnabled());
+    auto *separator = dialog.findChild<QComboBox *>(QStringLiteral("cbxSeparator"));
+    separator->setCurrentIndex(separator->findData(QVariant(QChar(';'))));
+    QVERIFY(dialog.findChild<QLabel *>(QStringLiteral("lblUnmapped"))->text().contains("Zeile"));
     QVERIFY(!dialog.findChild<QPushButton *>(QStringLiteral("pbImport"))->isEnabled());
 }
 

@@ -1,7 +1,6 @@
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
 #include "gui/textaids/KalCompleterLineEdit.h"
-#include "gui/textaids/KalCompleterTextEdit.h"
 #include "gui/textaids/KalDateEdit.h"
 #include "gui/widgets/KalItemDelegate.h"
 #include "gui/widgets/KalTableView.h"
@@ -11,14 +10,12 @@
 
 #include <QDir>
 #include <QHeaderView>
-#include <QIcon>
 #include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QSortFilterProxyModel>
-#include <QSqlError>
 #include <QSqlQuery>
 #include <QTextEdit>
 #include <QToolButton>
@@ -88,45 +85,63 @@ private slots:
     void deleteAsksPerTable_data()
     {
         QTest::addColumn<QString>("table");
+        QTest::addColumn<int>("rows"); // selected; one more row stays unselected
         QTest::addColumn<bool>("viaDeleteKey");
         QTest::addColumn<QString>("answer");
-        QTest::addColumn<bool>("removed");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("text");
 
-        auto row = [](const char *table, bool key, const char *answer, bool removed) {
-            QTest::newRow(qPrintable(QStringLiteral("%1%2 %3").arg(table, key ? " key" : "", answer)))
-                << QString(table) << key << QString(answer) << removed;
+        const QString one = QStringLiteral("Soll der gewählte Eintrag tatsächlich entfernt werden?");
+        const QString warning = QStringLiteral("Wenn Sie einen Status löschen, der bereits Mängeln zugeordnet ist, "
+                                               "verlieren diese Mängel ihren Status!\n");
+        const QString oneStatus = warning + QStringLiteral("Soll der gewählte Status tatsächlich gelöscht werden?");
+        auto row = [](const char *name, const char *table, int rows, bool key, const char *answer, const char *title,
+                      const QString &text) {
+            QTest::newRow(name) << QString(table) << rows << key << QString(answer) << QString(title) << text;
         };
-        for (const char *table : {"status", "company", "defect"}) {
-            row(table, false, "Ja", true);
-            row(table, false, "Nein", false);
-            row(table, true, "Ja", true);
-            row(table, true, "Nein", false);
-        }
+        row("status", "status", 1, false, "Ja", "Status löschen", oneStatus);
+        row("status key, no", "status", 1, true, "Nein", "Status löschen", oneStatus);
+        row("two statuses key", "status", 2, true, "Ja", "Status löschen",
+            warning + QStringLiteral("Sollen die 2 gewählten Status tatsächlich gelöscht werden?"));
+        row("company", "company", 1, false, "Ja", "Eintrag entfernen", one);
+        row("company, no", "company", 1, false, "Nein", "Eintrag entfernen", one);
+        row("defect key", "defect", 1, true, "Ja", "Eintrag entfernen", one);
+        row("defect key, no", "defect", 1, true, "Nein", "Eintrag entfernen", one);
+        row("three defects", "defect", 3, false, "Ja", "Einträge entfernen",
+            QStringLiteral("Sollen die 3 gewählten Einträge tatsächlich entfernt werden?"));
     }
 
     void deleteAsksPerTable()
     {
         QFETCH(QString, table);
+        QFETCH(int, rows);
         QFETCH(bool, viaDeleteKey);
         QFETCH(QString, answer);
-        QFETCH(bool, removed);
+        QFETCH(QString, title);
+        QFETCH(QString, text);
 
-        qint64 id = -1;
-        if (table == QLatin1String("status"))
-            id = m_fx.insert(
-                table, {{"status", "Prüfen"}, {"color", "#00ff00"}, {"type", 2}, {"reduction_option", 0}, {"pos", 50}});
-        else if (table == QLatin1String("company"))
-            id = insertCompany(QStringLiteral("Maler Schulz"));
-        else
-            id = insertDefect(QStringLiteral("7"));
-        QVERIFY(id > 0);
+        QList<qint64> ids;
+        for (int i = 0; i <= rows; ++i) {
+            if (table == QLatin1String("status"))
+                ids << m_fx.insert(table, {{"status", QStringLiteral("Prüfen %1").arg(i)},
+                                           {"color", "#00ff00"},
+                                           {"type", 2},
+                                           {"reduction_option", 0},
+                                           {"pos", 50 + i}});
+            else if (table == QLatin1String("company"))
+                ids << insertCompany(QStringLiteral("Maler %1").arg(i));
+            else
+                ids << insertDefect(QString::number(i + 7));
+            QVERIFY(ids.last() > 0);
+        }
+        const qint64 unselected = ids.takeLast();
         KalSqlTableModel *m = model(table);
         QVERIFY(m->select());
-        const int rowsBefore = count(QStringLiteral("SELECT COUNT(*) FROM %1").arg(table));
+        const int rowsBefore = m_fx.count(table);
 
         KalTableView view;
         view.setModel(m);
-        QVERIFY(view.selectId(id));
+        QCOMPARE(view.selectIds(ids), rows);
         QSignalSpy deleted(&view, &KalTableView::signalRowsDeleted);
 
         m_prompt->queueAnswer(answer);
@@ -135,23 +150,14 @@ private slots:
         else
             view.deleteButton()->click();
 
-        QCOMPARE(m_prompt->shown().size(), 1);
-        const KalScriptedPrompt::Shown &shown = m_prompt->shown().first();
-        if (table == QLatin1String("status")) {
-            QCOMPARE(shown.title, QStringLiteral("Status löschen"));
-            QCOMPARE(shown.text, QStringLiteral("Wenn Sie einen Status löschen, der bereits Mängeln zugeordnet ist, "
-                                                "verlieren diese Mängel ihren Status!\nSoll der gewählte Status "
-                                                "tatsächlich gelöscht werden?"));
-        } else {
-            QCOMPARE(shown.title, QStringLiteral("Eintrag entfernen"));
-            QCOMPARE(shown.text, QStringLiteral("Soll der gewählte Eintrag tatsächlich entfernt werden?"));
-        }
-        QCOMPARE(shown.buttons, QStringList({QStringLiteral("Ja"), QStringLiteral("Nein")}));
-
-        const int stillThere = count(QStringLiteral("SELECT COUNT(*) FROM %1 WHERE id = %2").arg(table).arg(id));
-        QCOMPARE(stillThere, removed ? 0 : 1);
-        QCOMPARE(count(QStringLiteral("SELECT COUNT(*) FROM %1").arg(table)), rowsBefore - (removed ? 1 : 0));
-        QCOMPARE(m->findRowById(id) < 0, removed);
+        QCOMPARE(m_prompt->titles(), QStringList{title});
+        QCOMPARE(m_prompt->texts(), QStringList{text});
+        QCOMPARE(m_prompt->shown().first().buttons, QStringList({QStringLiteral("Ja"), QStringLiteral("Nein")}));
+        const bool removed = answer == QLatin1String("Ja");
+        QCOMPARE(m_fx.count(table), rowsBefore - (removed ? rows : 0));
+        QCOMPARE(m_fx.count(table, QStringLiteral("id = %1").arg(unselected)), 1);
+        for (qint64 id : ids)
+            QCOMPARE(m->findRowById(id) < 0, removed);
         QCOMPARE(deleted.count(), removed ? 1 : 0);
         QVERIFY(!m->isDirty());
     }
@@ -469,10 +475,8 @@ private slots:
             if (c.width == 0)
                 continue;
             settings.setValue(kDefectFormat, c.format);
-            QCOMPARE(KalTableView::columnWidthsKey(c.table), c.key);
             KalTableView view;
             view.setModel(model(c.table));
-            QCOMPARE(view.columnWidthsKey(), c.key);
             view.setColumnWidth(1, c.width);
             view.setColumnWidth(2, c.width + 1);
             view.setColumnHidden(3, true);
@@ -539,19 +543,14 @@ private slots:
         QVERIFY(!view.addButton()->isEnabled());
         QVERIFY(!view.copyButton()->isEnabled());
         QVERIFY(!view.deleteButton()->isEnabled());
-        QVERIFY(!view.addButton()->icon().isNull());
-        QVERIFY(!view.deleteButton()->icon().isNull());
-        QVERIFY(!view.copyButton()->icon().isNull());
 
         QSignalSpy add(&view, &KalTableView::signalButtonAddClicked);
-        QSignalSpy addOtherName(&view, &KalTableView::signalAddButtonClicked);
         QSignalSpy copy(&view, &KalTableView::signalButtonCopyClicked);
         QVERIFY(view.addButton()->isEnabled());
         QVERIFY(!view.copyButton()->isEnabled()); // nothing selected
 
         view.addButton()->click();
         QCOMPARE(add.count(), 1);
-        QCOMPARE(addOtherName.count(), 1);
 
         // A double click below the rows asks for a new row as well.
         const QPoint below(20, view.viewport()->height() - 5);
