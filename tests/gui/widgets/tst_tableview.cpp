@@ -45,18 +45,29 @@ class TstTableView : public QObject
     Q_OBJECT
 
 private:
-    qint64 insertDefect(const QString &number, const QVariantMap &extra = {})
+    // A row of `table` with the fields it needs; `values` go on top.
+    qint64 insertRow(const QString &table, const QVariantMap &values = {})
     {
-        QVariantMap values{{"number", number}, {"description", "Mangel " + number}, {"site_journal_data_modified", 0}};
-        for (auto it = extra.constBegin(); it != extra.constEnd(); ++it)
-            values.insert(it.key(), it.value());
-        return m_fx.addDefect(values);
+        QVariantMap row;
+        if (table == QLatin1String("status"))
+            row = {{"status", "Prüfen"}, {"color", "#00ff00"}, {"type", 2}, {"reduction_option", 0}, {"pos", 50}};
+        else if (table == QLatin1String("photo_info"))
+            row = {{"defect_id", insertRow("defect")}, {"pos", 1}, {"site_journal_data_modified", 0}};
+        else if (table == QLatin1String("plan_info"))
+            row = {{"plan_name", "EG"}, {"pos", 1}};
+        else if (table == QLatin1String("defect"))
+            row = {{"number", "1"}, {"description", "Mangel"}, {"site_journal_data_modified", 0}};
+        else
+            row = {{"company", "Bau GmbH"}, {"city", "Köln"}, {"modified", 0}};
+        for (auto it = values.constBegin(); it != values.constEnd(); ++it)
+            row.insert(it.key(), it.value());
+        if (table != QLatin1String("company"))
+            return m_fx.insert(table, row);
+        const QString name = row.take("company").toString();
+        return m_fx.addCompany(name, "Rohbau", row);
     }
 
-    qint64 insertCompany(const QString &name)
-    {
-        return m_fx.addCompany(name, "Rohbau", {{"city", "Köln"}, {"modified", 0}});
-    }
+    qint64 insertCompany(const QString &name) { return insertRow("company", {{"company", name}}); }
 
     KalSqlTableModel *model(const QString &table) const { return m_fx.model(table); }
     int count(const QString &sql) { return m_fx.value(sql).toInt(); }
@@ -120,18 +131,10 @@ private slots:
         QFETCH(QString, title);
         QFETCH(QString, text);
 
+        const QString nameField = table == QLatin1String("defect") ? QStringLiteral("number") : table;
         QList<qint64> ids;
         for (int i = 0; i <= rows; ++i) {
-            if (table == QLatin1String("status"))
-                ids << m_fx.insert(table, {{"status", QStringLiteral("Prüfen %1").arg(i)},
-                                           {"color", "#00ff00"},
-                                           {"type", 2},
-                                           {"reduction_option", 0},
-                                           {"pos", 50 + i}});
-            else if (table == QLatin1String("company"))
-                ids << insertCompany(QStringLiteral("Maler %1").arg(i));
-            else
-                ids << insertDefect(QString::number(i + 7));
+            ids << insertRow(table, {{nameField, QString::number(i + 7)}});
             QVERIFY(ids.last() > 0);
         }
         const qint64 unselected = ids.takeLast();
@@ -234,24 +237,7 @@ private slots:
         QFETCH(QVariant, expected);
         QFETCH(bool, changed);
 
-        qint64 id = -1;
-        if (table == QLatin1String("company")) {
-            id = insertCompany(QStringLiteral("Bau GmbH"));
-            QSqlQuery q(m_fx.project()->database());
-            q.prepare(QStringLiteral("UPDATE company SET %1 = :v WHERE id = :id").arg(field));
-            q.bindValue(QStringLiteral(":v"), stored);
-            q.bindValue(QStringLiteral(":id"), id);
-            QVERIFY(q.exec());
-        } else if (table == QLatin1String("photo_info")) {
-            const qint64 defect = insertDefect(QStringLiteral("1"));
-            id = m_fx.insert(table,
-                             {{"defect_id", defect}, {"pos", 1}, {field, stored}, {"site_journal_data_modified", 0}});
-        } else if (table == QLatin1String("defect")) {
-            id = insertDefect(QStringLiteral("1"), {{field, stored}});
-        } else {
-            id = m_fx.insert(
-                table, {{"status", stored}, {"color", "#00ff00"}, {"type", 2}, {"reduction_option", 0}, {"pos", 50}});
-        }
+        const qint64 id = insertRow(table, {{field, stored}});
         QVERIFY(id > 0);
         KalSqlTableModel *m = model(table);
         QVERIFY(m->select());
@@ -340,7 +326,7 @@ private slots:
     void invalidDateInGridWarnsOnce()
     {
         QFETCH(bool, byReturn);
-        const qint64 id = insertDefect(QStringLiteral("1"), {{"correction_date", QDate(2024, 4, 3)}});
+        const qint64 id = insertRow("defect", {{"correction_date", QDate(2024, 4, 3)}});
         KalSqlTableModel *m = model(QStringLiteral("defect"));
         QVERIFY(m->select());
 
@@ -411,15 +397,7 @@ private slots:
         QFETCH(QString, field);
         QFETCH(QString, editorClass);
 
-        qint64 id = 1; // a standard status
-        if (table == QLatin1String("defect"))
-            id = insertDefect(QStringLiteral("1"));
-        else if (table == QLatin1String("company"))
-            id = insertCompany(QStringLiteral("Dach AG"));
-        else if (table == QLatin1String("photo_info"))
-            id = m_fx.insert(table, {{"defect_id", insertDefect(QStringLiteral("2"))}, {"pos", 1}});
-        else if (table == QLatin1String("plan_info"))
-            id = m_fx.insert(table, {{"plan_name", "EG"}, {"pos", 1}});
+        const qint64 id = table == QLatin1String("status") ? 1 : insertRow(table); // 1: a standard status
         KalSqlTableModel *m = model(table);
         QVERIFY(m->select());
 
@@ -610,8 +588,8 @@ private slots:
 
     void colourAndCameraCellsArePainted()
     {
-        const qint64 none = insertDefect(QStringLiteral("1"), {{"image_cnt", 0}});
-        const qint64 three = insertDefect(QStringLiteral("2"), {{"image_cnt", 3}});
+        const qint64 none = insertRow("defect", {{"image_cnt", 0}});
+        const qint64 three = insertRow("defect", {{"number", "2"}, {"image_cnt", 3}});
         KalSqlTableModel *defects = model(QStringLiteral("defect"));
         QVERIFY(defects->select());
         KalTableView view;
@@ -640,15 +618,8 @@ private slots:
         QVERIFY(darkPixels(cameraCell.adjusted(0, 0, -cameraCell.width() / 2, 0)) > 20); // the camera on the left
 
         // A status's colour cell shows its colour, also in a selected row.
-        m_fx.insert(
-            QStringLiteral("status"),
-            {{"id", 77}, {"status", "Lila"}, {"color", "#8020c0"}, {"type", 2}, {"reduction_option", 0}, {"pos", 77}});
-        m_fx.insert(QStringLiteral("status"), {{"id", 78},
-                                               {"status", "Unbekannt"},
-                                               {"color", "keine Farbe"},
-                                               {"type", 2},
-                                               {"reduction_option", 0},
-                                               {"pos", 78}});
+        insertRow("status", {{"id", 77}, {"status", "Lila"}, {"color", "#8020c0"}});
+        insertRow("status", {{"id", 78}, {"status", "Unbekannt"}, {"color", "keine Farbe"}});
         KalSqlTableModel *status = model(QStringLiteral("status"));
         QVERIFY(status->select());
         KalTableView statusView;
