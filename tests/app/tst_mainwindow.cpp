@@ -20,7 +20,6 @@
 #include <QGraphicsTextItem>
 #include <QGraphicsView>
 #include <QHeaderView>
-#include <QIcon>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPushButton>
@@ -78,7 +77,6 @@ private slots:
     void windowTitles()
     {
         QCOMPARE(m_window->windowTitle(), QStringLiteral("Neues Pellwick-Projekt"));
-        QCOMPARE(KalMainWindow::windowTitleFor(false, QString()), QStringLiteral("Quellor Pellwick"));
 
         KalFileDialog::queueChoice(path("Bauvorhaben Nord.pwp"));
         QCOMPARE(m_window->maybeSave(true, true), int(KalMainWindow::GoOn));
@@ -441,7 +439,7 @@ private slots:
         QCOMPARE(photos.value(0).toInt(), 0);
     }
 
-    void selectionSurvivesSortAndSubmit()
+    void selectionSurvivesSortAndSave()
     {
         const QStringList rooms{"Flur", "Bad", "Wohnen", "Abstellraum", "Küche", "Diele"};
         QList<qint64> ids;
@@ -466,12 +464,6 @@ private slots:
         QCOMPARE(model->data(model->index(0, room)).toString(), QStringLiteral("Abstellraum"));
         QCOMPARE(sorted(), chosen);
 
-        // An edit that is submitted re-selects the model; the selection stays.
-        QVERIFY(
-            model->setData(model->index(model->findRowById(ids.at(0)), model->fieldIndex("description")), "geändert"));
-        QVERIFY(model->submitWithNotification(true));
-        QCOMPARE(sorted(), chosen);
-
         // Saving rebuilds the models; order and selection stay.
         KalFileDialog::queueChoice(path("s.pwp"));
         QCOMPARE(m_window->maybeSave(false, true), 0);
@@ -490,15 +482,14 @@ private slots:
             if (auto *text = dynamic_cast<QGraphicsTextItem *>(item))
                 texts << text->toPlainText();
         }
-        QCOMPARE(texts, QStringList{m_window->planPanelHint()});
+        QCOMPARE(texts,
+                 QStringList{QStringLiteral(
+                     "Dieser Mangel ist in keinem Plan verortet.\nMit einem Doppelklick in dieses Fenster können "
+                     "Sie dem Mangel einen Plan zuordnen.\nMit einem Doppelklick auf einen Mangel können Sie "
+                     "diesen Mangel bearbeiten.\n")});
         // The double click the hint invites says that plans cannot be assigned yet.
         QTest::mouseDClick(view->viewport(), Qt::LeftButton, {}, view->viewport()->rect().center());
         QCOMPARE(m_prompt->titles(), QStringList{"Pläne"});
-        QCOMPARE(
-            m_window->planPanelHint(),
-            QStringLiteral("Dieser Mangel ist in keinem Plan verortet.\nMit einem Doppelklick in dieses Fenster können "
-                           "Sie dem Mangel einen Plan zuordnen.\nMit einem Doppelklick auf einen Mangel können Sie "
-                           "diesen Mangel bearbeiten.\n"));
     }
 
     void doubleClickOpensDefectEditor()
@@ -727,27 +718,11 @@ private slots:
         QCOMPARE(toggle->text() != before, enabled);
     }
 
-    void noticeIcons_data()
+    void dataImportHelpHasItsIcon()
     {
-        QTest::addColumn<QString>("notice");
-        QTest::addColumn<QString>("icon");
-        QTest::newRow("data import help") << "import help"
-                                          << ":/KalMainWindow/Resources/icon-help.ico";
-        QTest::newRow("compaction") << "compaction"
-                                    << ":/KalMainWindow/Resources/icon-datei-datenbank.ico";
-    }
-
-    void noticeIcons()
-    {
-        QFETCH(QString, notice);
-        QFETCH(QString, icon);
-        if (notice == QLatin1String("import help"))
-            KalStartup::showDataImportHelp();
-        else
-            m_window->findChild<QAction *>(QStringLiteral("actionCompactDB"))->trigger();
+        KalStartup::showDataImportHelp();
         QVERIFY(!m_prompt->shown().isEmpty());
-        QCOMPARE(m_prompt->shown().first().iconPath, icon);
-        QVERIFY(!QIcon(icon).pixmap(48, 48).isNull());
+        QCOMPARE(m_prompt->shown().first().iconPath, QStringLiteral(":/KalMainWindow/Resources/icon-help.ico"));
     }
 
     void compactUntitledAsksToSaveFirst()
@@ -761,6 +736,8 @@ private slots:
         QVERIFY(m_window->project()->projectPath().isEmpty());
         QVERIFY(m_prompt->texts().first().startsWith(
             QStringLiteral("Verringern der Datenbankgröße durch Bereinigung der Datenbank")));
+        QCOMPARE(m_prompt->shown().first().iconPath,
+                 QStringLiteral(":/KalMainWindow/Resources/icon-datei-datenbank.ico"));
     }
 
     void compactSavesModifiedProjectFirst()

@@ -237,6 +237,8 @@ private slots:
 
     void combosFollowPositions()
     {
+        QVERIFY(m_fx.exec("UPDATE status SET pos = 0 WHERE id = 8"));
+        QVERIFY(m_fx.reselect());
         const qint64 id = newDefect();
         KalDefectEditor editor(m_fx.project(), rowOf(id));
         auto *company = editor.findChild<QComboBox *>(QStringLiteral("cbxCompany"));
@@ -252,21 +254,17 @@ private slots:
         QCOMPARE(company->itemText(2), QStringLiteral("Neu..."));
         QCOMPARE(company->currentIndex(), -1);
 
-        // Statuses in their `pos` order, as stored; "Neu..." ends the list.
-        QSqlQuery q(m_fx.project()->database());
-        QVERIFY(q.exec("SELECT id FROM status ORDER BY pos"));
-        QList<int> stored, shown;
-        while (q.next())
-            stored << q.value(0).toInt();
-        for (int i = 0; i < status->count() - 1; ++i)
-            shown << status->itemData(i).toInt();
-        QCOMPARE(shown, stored);
-        QCOMPARE(status->itemText(status->count() - 1), QStringLiteral("Neu..."));
-
+        // Statuses in their `pos` order, not their ids; "Neu..." ends the list.
+        QCOMPARE(status->count(), 9);
+        QCOMPARE(status->itemData(0).toInt(), 8);
+        QCOMPARE(status->itemData(1).toInt(), 1);
+        QCOMPARE(status->itemText(8), QStringLiteral("Neu..."));
         QCOMPARE(plan->count(), 2);
         QCOMPARE(plan->itemText(0), QStringLiteral("Neu..."));
         QCOMPARE(plan->itemText(1), QStringLiteral("Planzuordnung aufheben"));
         kalPress(&editor, QDialogButtonBox::Cancel);
+        QVERIFY(m_fx.exec("UPDATE status SET pos = 8 WHERE id = 8"));
+        QVERIFY(m_fx.reselect());
     }
 
     void invalidDateKeepsDialogOpen()
