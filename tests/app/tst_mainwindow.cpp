@@ -22,6 +22,7 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
+#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSettings>
@@ -895,6 +896,77 @@ private slots:
         if (title == QLatin1String("Info"))
             QVERIFY(m_prompt->texts().first().startsWith(
                 QStringLiteral("Die vom Bautagebuch Programm übergebenen Parameter sind fehlerhaft:\n\n\n")));
+    }
+
+    // A refused opening leaves one message, and the project that was open
+    // stays open as it was.
+    void refusedOpenKeepsTheOpenProject_data()
+    {
+        QTest::addColumn<QString>("refusal");
+        QTest::addColumn<QString>("title");
+        QTest::newRow("held by another instance") << "held"
+                                                  << "Datenbank in Bearbeitung";
+        QTest::newRow("made by a newer version") << "newer"
+                                                 << "Dateifehler";
+    }
+
+    void refusedOpenKeepsTheOpenProject()
+    {
+        QFETCH(QString, refusal);
+        QFETCH(QString, title);
+        const QString own = path("eigen.pwp");
+        const QString other = path("anderes.pwp");
+        for (const QString &file : {other, own}) {
+            QVERIFY(m_window->newProject());
+            for (int i = file == own ? 2 : 1; i > 0; --i)
+                insertDefect({{"number", QString::number(i)}, {"description", "D"}});
+            KalFileDialog::queueChoice(file);
+            QCOMPARE(m_window->maybeSave(true, true), 0);
+        }
+        QProcess holder;
+        if (refusal == "held") {
+            holder.start(KalTestSettings::testBinDir() + "/kal_test_holder", {"hold", other});
+            QVERIFY(holder.waitForReadyRead(30000));
+        } else {
+            QVERIFY(KalTestFiles::execute(other, {"UPDATE meta SET value = '9.0' WHERE key = 'fileversion'"}));
+        }
+        m_prompt->clear();
+
+        QVERIFY(!m_window->openProject(other));
+        QCOMPARE(m_prompt->titles(), QStringList{title});
+        QVERIFY(m_window->project()->isOpen());
+        QCOMPARE(m_window->project()->projectPath(), QFileInfo(own).absoluteFilePath());
+        QCOMPARE(m_window->defectModel()->rowCount(), 2);
+        insertDefect({{"number", "3"}, {"description", "D"}});
+        QCOMPARE(m_window->project()->saveProject(), int(KalProject::Saved));
+        QCOMPARE(KalTestFiles::countRows(own, "defect"), 3);
+        holder.kill();
+        holder.waitForFinished(5000);
+    }
+
+    // The recovered state of a crashed run was never saved: giving it up asks.
+    void recoveredProjectAsksBeforeClosing()
+    {
+        const QString file = path("absturz.pwp");
+        insertDefect({{"number", "1"}, {"description", "D"}});
+        KalFileDialog::queueChoice(file);
+        QCOMPARE(m_window->maybeSave(true, true), 0);
+        QVERIFY(m_window->newProject());
+        QVERIFY(QFile::copy(file, file + ".workingcopy"));
+        QVERIFY(KalTestFiles::execute(file + ".workingcopy",
+                                      {"INSERT INTO defect (id, description) VALUES (77, 'ungesichert')"}));
+        QFile udf(file + ".udf");
+        QVERIFY(udf.open(QIODevice::WriteOnly));
+        udf.write("erika\nBAUBUERO\n01.02.26\n10:15\n4711\n");
+        udf.close();
+        qputenv("USERNAME", "erika");
+        qputenv("COMPUTERNAME", "BAUBUERO");
+        QVERIFY(m_window->openProject(file));
+        QCOMPARE(m_window->defectModel()->rowCount(), 2);
+        m_prompt->clear();
+        QVERIFY(!m_window->closeProject(true)); // the unqueued question is cancelled
+        QCOMPARE(m_prompt->titles(), QStringList{"Projekt geändert"});
+        QVERIFY(m_window->project()->isOpen());
     }
 
     // Last: a restart ends the application's event loop, and no modal dialog

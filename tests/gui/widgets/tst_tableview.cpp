@@ -67,6 +67,15 @@ private:
         return m_fx.addCompany(name, "Rohbau", row);
     }
 
+    // Shows `view` on `model` as the user sees it.
+    static bool shown(KalTableView &view, QAbstractItemModel *model, const QSize &size = QSize(900, 400))
+    {
+        view.setModel(model);
+        view.resize(size);
+        view.show();
+        return QTest::qWaitForWindowExposed(&view);
+    }
+
     qint64 insertCompany(const QString &name) { return insertRow("company", {{"company", name}}); }
 
     KalSqlTableModel *model(const QString &table) const { return m_fx.model(table); }
@@ -296,10 +305,7 @@ private slots:
         QVERIFY(m->select());
         KalTableView view;
         view.setSubmitEdits(submitEdits);
-        view.setModel(m);
-        view.resize(900, 300);
-        view.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        QVERIFY(shown(view, m, QSize(900, 300)));
         const QModelIndex index = m->index(m->findRowById(id), m->fieldIndex(QStringLiteral("city")));
         view.setCurrentIndex(index);
         view.edit(index);
@@ -402,10 +408,7 @@ private slots:
         QVERIFY(m->select());
 
         KalTableView view;
-        view.setModel(m);
-        view.resize(900, 300);
-        view.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        QVERIFY(shown(view, m, QSize(900, 300)));
         const QModelIndex index = m->index(m->findRowById(id), m->fieldIndex(field));
         QVERIFY(index.isValid());
 
@@ -512,10 +515,7 @@ private slots:
         KalSqlTableModel *m = model(QStringLiteral("company"));
         QVERIFY(m->select());
         KalTableView view;
-        view.setModel(m);
-        view.resize(700, 400);
-        view.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        QVERIFY(shown(view, m, QSize(700, 400)));
 
         // Nobody handles adding or copying yet: those buttons are disabled.
         QVERIFY(!view.addButton()->isEnabled());
@@ -549,10 +549,7 @@ private slots:
         KalSqlTableModel *m = model(QStringLiteral("status"));
         QVERIFY(m->select());
         KalTableView view;
-        view.setModel(m);
-        view.resize(700, 400);
-        view.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        QVERIFY(shown(view, m, QSize(700, 400)));
         QSignalSpy spy(&view, &KalTableView::mouseClickOnStatusColorField);
 
         const int row = m->findRowById(3);
@@ -574,10 +571,7 @@ private slots:
         const qint64 id = insertCompany(QStringLiteral("C"));
         QVERIFY(model(QStringLiteral("company"))->select());
         KalTableView companies;
-        companies.setModel(model(QStringLiteral("company")));
-        companies.resize(700, 300);
-        companies.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&companies));
+        QVERIFY(shown(companies, model(QStringLiteral("company")), QSize(700, 300)));
         QSignalSpy other(&companies, &KalTableView::mouseClickOnStatusColorField);
         KalSqlTableModel *cm = model(QStringLiteral("company"));
         const QModelIndex cell = cm->index(cm->findRowById(id), 5);
@@ -623,10 +617,7 @@ private slots:
         KalSqlTableModel *status = model(QStringLiteral("status"));
         QVERIFY(status->select());
         KalTableView statusView;
-        statusView.setModel(status);
-        statusView.resize(900, 500);
-        statusView.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&statusView));
+        QVERIFY(shown(statusView, status, QSize(900, 500)));
         const int colourColumn = status->fieldIndex(QStringLiteral("color"));
         for (bool selected : {false, true}) {
             if (selected)
