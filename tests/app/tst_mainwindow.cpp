@@ -432,12 +432,6 @@ private slots:
         QCOMPARE(q.value("site_journal_id").toInt(), -1);
         QCOMPARE(q.value("imported_report_id").toInt(), -1);
         QCOMPARE(q.value("delete_on_import").toInt(), 1);
-
-        QSqlQuery photos(m_window->project()->database());
-        QVERIFY(
-            photos.exec(QStringLiteral("SELECT COUNT(*) FROM photo_info WHERE defect_id = %1").arg(copies.first())));
-        QVERIFY(photos.next());
-        QCOMPARE(photos.value(0).toInt(), 0);
     }
 
     void selectionSurvivesSortAndSave()

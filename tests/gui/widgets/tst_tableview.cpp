@@ -381,12 +381,9 @@ private slots:
         row("defect", "reduction", "");
         row("defect", "image_cnt", "");
         row("defect", "correction_date", "KalDateEdit");
-        row("defect", "deadline_3", "KalDateEdit");
         row("defect", "number", "-");
         // Ids shown as names are chosen in the defect editor, never typed.
         row("defect", "company_id", "");
-        row("defect", "status_id", "");
-        row("defect", "plan_info_id", "");
         row("status", "type", "");
         row("status", "status", "QLineEdit");
         row("company", "email", "QLineEdit");
