@@ -5,19 +5,6 @@
 #include <QXmlStreamReader>
 #include <QtTest>
 
-// The shipped translations: complete, with the same placeholders as the
-// German source texts, and compiled into files the program can load.
-class TestTranslations : public QObject
-{
-    Q_OBJECT
-
-private slots:
-    void complete_data();
-    void complete();
-    void compiledFilesTranslate_data();
-    void compiledFilesTranslate();
-};
-
 namespace {
 struct Entry
 {
@@ -76,67 +63,75 @@ QStringList placeholders(const QString &text)
 }
 } // namespace
 
-void TestTranslations::complete_data()
+// The shipped translations: complete, with the same placeholders as the
+// German source texts, and compiled into files the program can load.
+class TestTranslations : public QObject
 {
-    QTest::addColumn<QString>("file");
-    for (const char *name : {"kal_en_GB.ts", "kal_en_US.ts", "kal_es.ts"})
-        QTest::newRow(name) << QStringLiteral(KAL_TS_DIR "/") + QString::fromLatin1(name);
-}
+    Q_OBJECT
 
-void TestTranslations::complete()
-{
-    QFETCH(QString, file);
-    QString error;
-    const QVector<Entry> entries = readTs(file, &error);
-    QVERIFY2(error.isEmpty(), qPrintable(error));
-    QVERIFY(entries.size() > 100);
-
-    QStringList problems;
-    for (const Entry &e : entries) {
-        if (e.obsolete)
-            continue;
-        const QString where = e.context + QStringLiteral(": ") + QString(e.source).left(60).replace('\n', ' ');
-        if (e.unfinished || e.translation.isEmpty())
-            problems << QStringLiteral("unfinished ") + where;
-        else if (placeholders(e.source) != placeholders(e.translation))
-            problems << QStringLiteral("placeholders differ ") + where;
-        else if (e.source.endsWith('\n') != e.translation.endsWith('\n'))
-            problems << QStringLiteral("trailing line break differs ") + where;
+private slots:
+    void complete_data()
+    {
+        QTest::addColumn<QString>("file");
+        for (const char *name : {"kal_en_GB.ts", "kal_en_US.ts", "kal_es.ts"})
+            QTest::newRow(name) << QStringLiteral(KAL_TS_DIR "/") + QString::fromLatin1(name);
     }
-    QVERIFY2(problems.isEmpty(), qPrintable(problems.join('\n')));
-}
 
-void TestTranslations::compiledFilesTranslate_data()
-{
-    QTest::addColumn<QString>("locale");
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("open");
-    QTest::newRow("en_GB") << "en_GB"
-                           << "File"
-                           << "Open";
-    QTest::newRow("en_US") << "en_US"
-                           << "File"
-                           << "Open";
-    QTest::newRow("es_ES") << "es_ES"
-                           << "Archivo"
-                           << "Abrir";
-}
+    void complete()
+    {
+        QFETCH(QString, file);
+        QString error;
+        const QVector<Entry> entries = readTs(file, &error);
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        QVERIFY(entries.size() > 100);
 
-void TestTranslations::compiledFilesTranslate()
-{
-    QFETCH(QString, locale);
-    QFETCH(QString, file);
-    QFETCH(QString, open);
+        QStringList problems;
+        for (const Entry &e : entries) {
+            if (e.obsolete)
+                continue;
+            const QString where = e.context + QStringLiteral(": ") + QString(e.source).left(60).replace('\n', ' ');
+            if (e.unfinished || e.translation.isEmpty())
+                problems << QStringLiteral("unfinished ") + where;
+            else if (placeholders(e.source) != placeholders(e.translation))
+                problems << QStringLiteral("placeholders differ ") + where;
+            else if (e.source.endsWith('\n') != e.translation.endsWith('\n'))
+                problems << QStringLiteral("trailing line break differs ") + where;
+        }
+        QVERIFY2(problems.isEmpty(), qPrintable(problems.join('\n')));
+    }
 
-    // Loaded the way start-up loads them ("kal_es_ES" falls back to kal_es.qm).
-    QTranslator own;
-    QVERIFY2(own.load(QStringLiteral("kal_") + locale, QStringLiteral(KAL_QM_DIR)), qPrintable(locale));
-    QCOMPARE(own.translate("KalMainWindow", "Datei"), file);
-    QCOMPARE(own.translate("KalMainWindow", "Öffnen"), open);
+    void compiledFilesTranslate_data()
+    {
+        QTest::addColumn<QString>("locale");
+        QTest::addColumn<QString>("file");
+        QTest::addColumn<QString>("open");
+        QTest::newRow("en_GB") << "en_GB"
+                               << "File"
+                               << "Open";
+        QTest::newRow("en_US") << "en_US"
+                               << "File"
+                               << "Open";
+        QTest::newRow("es_ES") << "es_ES"
+                               << "Archivo"
+                               << "Abrir";
+    }
 
-    QTranslator qt;
-    QVERIFY(qt.load(QStringLiteral("qtBase_") + locale, QStringLiteral(KAL_QM_DIR)));
-}
+    void compiledFilesTranslate()
+    {
+        QFETCH(QString, locale);
+        QFETCH(QString, file);
+        QFETCH(QString, open);
+
+        // Loaded the way start-up loads them ("kal_es_ES" falls back to kal_es.qm).
+        QTranslator own;
+        QVERIFY2(own.load(QStringLiteral("kal_") + locale, QStringLiteral(KAL_QM_DIR)), qPrintable(locale));
+        QCOMPARE(own.translate("KalMainWindow", "Datei"), file);
+        QCOMPARE(own.translate("KalMainWindow", "Öffnen"), open);
+
+        QTranslator qt;
+        QVERIFY(qt.load(QStringLiteral("qtBase_") + locale, QStringLiteral(KAL_QM_DIR)));
+    }
+};
 
 QTEST_GUILESS_MAIN(TestTranslations)
 #include "tst_translations.moc"

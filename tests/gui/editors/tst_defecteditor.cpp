@@ -1,8 +1,10 @@
 #include "core/project/KalDefects.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
+#include "core/textaids/KalCompleterStore.h"
 #include "gui/editors/KalCompanyDialog.h"
 #include "gui/editors/KalDefectEditor.h"
+#include "gui/textaids/KalCompleterTextEdit.h"
 #include "gui/textaids/KalDateEdit.h"
 #include "support/KalDialogAnswer.h"
 #include "support/KalScriptedPrompt.h"
@@ -12,7 +14,9 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QInputDialog>
+#include <QLabel>
 #include <QLineEdit>
+#include <QSettings>
 #include <QSqlQuery>
 #include <QTextEdit>
 #include <QtTest>
@@ -66,37 +70,61 @@ private slots:
 
     void init() { m_prompt->clear(); }
 
+    // The author is the user's initials: typed letters are filtered as they
+    // come, a whole text (put there by the auto-text list) is refused unless
+    // it is up to two letters; the last accepted initials start new defects.
     void userIdInitials_data()
     {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<QString>("shown");
+        QTest::addColumn<QString>("entered");
+        QTest::addColumn<bool>("typed");
+        QTest::addColumn<QString>("stored"); // empty: refused, the dialog stays open
 
-        for (const auto &row : {std::pair<const char *, const char *>{"KM", "KM"},
-                                {"km", "KM"},
-                                {"kM", "KM"},
-                                {"abc", "AB"},
-                                {"a1", "A"},
-                                {"7x", "X"},
-                                {"a b", "AB"}})
-            QTest::newRow(row.first) << QString(row.first) << QString(row.second);
+        auto row = [](const char *entered, bool typed, const char *stored) {
+            QTest::addRow("%s %s", typed ? "typed" : "whole", entered) << QString(entered) << typed << QString(stored);
+        };
+        row("KM", true, "KM");
+        row("kM", true, "KM");
+        row("abc", true, "AB");
+        row("a1", true, "A");
+        row("7x", true, "X");
+        row("a b", true, "AB");
+        row("KM", false, "KM");
+        row("ab", false, "AB");
+        row("mueller", false, "");
+        row("MUELLX", false, "");
+        row("K1", false, "");
     }
 
     void userIdInitials()
     {
-        QFETCH(QString, typed);
-        QFETCH(QString, shown);
+        QFETCH(QString, entered);
+        QFETCH(bool, typed);
+        QFETCH(QString, stored);
 
-        const qint64 id = newDefect();
+        QSettings().setValue("DefectDialog/LastAuthorInitials", "XY");
+        const qint64 id = newDefect({{QStringLiteral("user_id"), QString()}});
         QVERIFY(id > 0);
-        KalDefectEditor editor(m_fx.project(), rowOf(id));
-        auto *userId = editor.findChild<QLineEdit *>(QStringLiteral("leUserId"));
-        QVERIFY(userId);
-        userId->clear();
-        QTest::keyClicks(userId, typed);
-        QCOMPARE(userId->text(), shown);
-
-        kalPress(&editor, QDialogButtonBox::Ok);
-        QCOMPARE(m_fx.field("defect", id, "user_id").toString(), shown);
+        const bool accepted = !stored.isEmpty();
+        {
+            KalDefectEditor editor(m_fx.project(), rowOf(id));
+            editor.show();
+            auto *userId = editor.findChild<QLineEdit *>(QStringLiteral("leUserId"));
+            QVERIFY(userId);
+            userId->clear();
+            if (typed) {
+                QTest::keyClicks(userId, entered);
+                QCOMPARE(userId->text(), stored);
+            } else {
+                userId->setText(entered);
+            }
+            kalPress(&editor, QDialogButtonBox::Ok);
+            QCOMPARE(editor.isVisible(), !accepted);
+            QCOMPARE(m_prompt->hasTitle(QStringLiteral("Erfasst von")), !accepted);
+            if (!accepted)
+                editor.reject();
+        }
+        QCOMPARE(m_fx.field("defect", id, "user_id").toString(), stored);
+        QCOMPARE(m_fx.field("defect", newDefect(), "user_id").toString(), accepted ? stored : QStringLiteral("XY"));
     }
 
     void reductionFollowsStatus_data()
@@ -209,6 +237,8 @@ private slots:
 
     void combosFollowPositions()
     {
+        QVERIFY(m_fx.exec("UPDATE status SET pos = 0 WHERE id = 8"));
+        QVERIFY(m_fx.reselect());
         const qint64 id = newDefect();
         KalDefectEditor editor(m_fx.project(), rowOf(id));
         auto *company = editor.findChild<QComboBox *>(QStringLiteral("cbxCompany"));
@@ -224,21 +254,17 @@ private slots:
         QCOMPARE(company->itemText(2), QStringLiteral("Neu..."));
         QCOMPARE(company->currentIndex(), -1);
 
-        // Statuses in their `pos` order, as stored; "Neu..." ends the list.
-        QSqlQuery q(m_fx.project()->database());
-        QVERIFY(q.exec("SELECT id FROM status ORDER BY pos"));
-        QList<int> stored, shown;
-        while (q.next())
-            stored << q.value(0).toInt();
-        for (int i = 0; i < status->count() - 1; ++i)
-            shown << status->itemData(i).toInt();
-        QCOMPARE(shown, stored);
-        QCOMPARE(status->itemText(status->count() - 1), QStringLiteral("Neu..."));
-
+        // Statuses in their `pos` order, not their ids; "Neu..." ends the list.
+        QCOMPARE(status->count(), 9);
+        QCOMPARE(status->itemData(0).toInt(), 8);
+        QCOMPARE(status->itemData(1).toInt(), 1);
+        QCOMPARE(status->itemText(8), QStringLiteral("Neu..."));
         QCOMPARE(plan->count(), 2);
         QCOMPARE(plan->itemText(0), QStringLiteral("Neu..."));
         QCOMPARE(plan->itemText(1), QStringLiteral("Planzuordnung aufheben"));
         kalPress(&editor, QDialogButtonBox::Cancel);
+        QVERIFY(m_fx.exec("UPDATE status SET pos = 8 WHERE id = 8"));
+        QVERIFY(m_fx.reselect());
     }
 
     void invalidDateKeepsDialogOpen()
@@ -279,14 +305,20 @@ private slots:
             KalDefectEditor editor(m_fx.project(), rowOf(id));
             auto *status = editor.findChild<QComboBox *>(QStringLiteral("cbxStatus"));
             auto *reduction = editor.findChild<QCheckBox *>(QStringLiteral("cbReduction"));
+            bool hintReadable = false;
             KalDialogAnswer<QInputDialog> answer([&](QInputDialog *input) {
                 title = input->windowTitle();
+                const QString hint = QStringLiteral("Sie können hier einen neuen Status für dieses Projekt anlegen");
+                for (QLabel *label : input->findChildren<QLabel *>())
+                    hintReadable = hintReadable || (label->isVisible() && label->text().contains(hint) &&
+                                                    label->width() >= label->fontMetrics().horizontalAdvance(hint));
                 input->setTextValue(name);
                 input->accept();
             });
             choose(status, KalDefectEditor::NewEntry);
             QVERIFY(answer.seen());
             QCOMPARE(title, QStringLiteral("Neuen Status anlegen"));
+            QVERIFY(hintReadable);
             if (created) {
                 QCOMPARE(status->currentText(), name);
                 QCOMPARE(status->itemText(status->count() - 1), QStringLiteral("Neu..."));
@@ -313,6 +345,35 @@ private slots:
             QCOMPARE(q.value(3).toInt(), 0);
             QCOMPARE(q.value(4).toInt(), statusesBefore + 1);
         }
+    }
+
+    // The description's auto-text list learns only what the user keeps.
+    void descriptionAutoTexts_data()
+    {
+        QTest::addColumn<bool>("ok");
+        QTest::addColumn<QStringList>("expected");
+        QTest::newRow("OK keeps the final text only") << true << QStringList{"Riss im Putz neben der Tür"};
+        QTest::newRow("Cancel keeps nothing") << false << QStringList();
+    }
+
+    void descriptionAutoTexts()
+    {
+        QFETCH(bool, ok);
+        QFETCH(QStringList, expected);
+        QSettings().remove(KalCompleterStore::languageGroup());
+        auto stored = [] { return KalCompleterStore::read("defect", "description").values; };
+        KalDefectEditor editor(m_fx.project(), rowOf(newDefect()));
+        auto *description = editor.findChild<KalCompleterTextEdit *>(QStringLiteral("teDescription"));
+        QVERIFY(description);
+        // The user leaves the field several times while writing, typos included.
+        for (const char *draft : {"Riss im Ptuz", "Riss im Putz", "Riss im Putz neben der Tür"}) {
+            description->setPlainText(QString::fromUtf8(draft));
+            QFocusEvent leave(QEvent::FocusOut, Qt::TabFocusReason);
+            QApplication::sendEvent(description, &leave);
+        }
+        QVERIFY(stored().isEmpty());
+        kalPress(&editor, ok ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel);
+        QCOMPARE(stored(), expected);
     }
 
     void newCompanyFromEditorStays()

@@ -1,4 +1,5 @@
 #include "core/project/KalCompanyFormat.h"
+#include "core/project/KalDefects.h"
 #include "core/project/KalPrivacyNotice.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
@@ -43,6 +44,7 @@ private slots:
         QVERIFY(m_fx.exec("UPDATE kal SET projectname = 'Haus am See', headline_left = 'Haus am See', headline_center "
                           "= '', headline_right = '', footer_right = 'www', project_data_modified = 0"));
         QVERIFY(m_fx.exec("DELETE FROM company"));
+        QVERIFY(m_fx.exec("DELETE FROM defect"));
         QVERIFY(m_fx.reselect());
     }
 
@@ -254,6 +256,59 @@ private slots:
         QCoreApplication::processEvents();
         QVERIFY(!m_prompt->hasTitle(QStringLiteral("Erfassung personenbezogener Daten")));
         kalPress(&second, QDialogButtonBox::Cancel);
+    }
+    // Removing companies: the question says how many defects lose their
+    // company, and only Yes removes them and leaves those defects without one.
+    void companyRemovalCountsTheDefects_data()
+    {
+        QTest::addColumn<QList<int>>("selected"); // of companies A (two defects), B (one), C (none)
+        QTest::addColumn<bool>("yes");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("says");
+        QTest::addColumn<int>("released"); // defects left without a company
+
+        QTest::newRow("one company, two defects") << QList<int>{0} << true << "Firma entfernen"
+                                                  << "Der gewählten Firma sind 2 Mängel zugeordnet." << 2;
+        QTest::newRow("one company, one defect") << QList<int>{1} << true << "Firma entfernen"
+                                                 << "Der gewählten Firma ist 1 Mangel zugeordnet." << 1;
+        QTest::newRow("two companies") << QList<int>{0, 1} << true << "Firma entfernen"
+                                       << "Den gewählten Firmen sind 3 Mängel zugeordnet." << 3;
+        QTest::newRow("unused company") << QList<int>{2} << true << "Eintrag entfernen"
+                                        << "Soll der gewählte Eintrag tatsächlich entfernt werden?" << 0;
+        QTest::newRow("no keeps all") << QList<int>{0, 1} << false << "Firma entfernen"
+                                      << "3 Mängel" << 0;
+    }
+
+    void companyRemovalCountsTheDefects()
+    {
+        QFETCH(QList<int>, selected);
+        QFETCH(bool, yes);
+        QFETCH(QString, title);
+        QFETCH(QString, says);
+        QFETCH(int, released);
+
+        const QList<qint64> companies{m_fx.addCompany("A", "Maler", {{"pos", 1}}),
+                                      m_fx.addCompany("B", "Maurer", {{"pos", 2}}),
+                                      m_fx.addCompany("C", "Dach", {{"pos", 3}})};
+        QVERIFY(m_fx.reselect());
+        for (int owner : {0, 0, 1})
+            QVERIFY(KalDefects(*m_fx.project()).add({{"company_id", companies.at(owner)}}) > 0);
+        QList<qint64> ids;
+        for (int i : selected)
+            ids << companies.at(i);
+
+        KalMasterDataDialog dialog(m_fx.project());
+        dialog.setCurrentPage(KalMasterDataDialog::CompanyPage);
+        QCOMPARE(dialog.companyView()->selectIds(ids), ids.size());
+        m_prompt->clear();
+        m_prompt->queueAnswerIndex(yes ? 0 : 1);
+        dialog.companyView()->deleteButton()->click();
+
+        QCOMPARE(m_prompt->titles(), QStringList{title});
+        QVERIFY2(m_prompt->texts().first().contains(says), qPrintable(m_prompt->texts().first()));
+        QCOMPARE(m_fx.count("company"), yes ? 3 - ids.size() : 3);
+        QCOMPARE(m_fx.count("defect", "company_id IS NULL"), released);
+        dialog.reject();
     }
 };
 

@@ -11,6 +11,7 @@
 #include <QAbstractItemView>
 #include <QListView>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QTableView>
 #include <QVBoxLayout>
@@ -75,75 +76,64 @@ private slots:
 
     void cleanup() { m_window.reset(); }
 
-    void typing_data()
+    // Keys as the user presses them: "^E" is Ctrl+E, "<BS>" Backspace, "<Left>"
+    // the arrow key, "<Ret>" Return in the open popup, anything else is typed.
+    void keys_data()
     {
-        QTest::addColumn<QString>("typed");
+        QTest::addColumn<QString>("keys");
+        QTest::addColumn<QString>("text");
         QTest::addColumn<bool>("popupVisible");
-        QTest::addColumn<QString>("firstOffer");
+        QTest::addColumn<QString>("firstOffer"); // empty: not checked
+        QTest::addColumn<int>("offers");         // -1: not checked, 0: the whole list
 
-        QTest::newRow("prefix offers") << "Zi" << true << "Zimmer";
-        QTest::newRow("case-insensitive") << "fl" << true << "Flur";
-        QTest::newRow("complete word hides") << "Zimmer" << false << "";
-        QTest::newRow("comma ends the word") << "Flur," << false << "";
-        QTest::newRow("dash ends the word") << "WC-" << false << "";
-        QTest::newRow("nothing matches") << "Keller" << false << "";
-        QTest::newRow("whole text is the prefix") << "Treppenh" << true << "Treppenhaus";
+        auto row = [](const char *name, const char *keys, const char *text, bool popup, const char *first, int offers) {
+            QTest::newRow(name) << QString(keys) << QString(text) << popup << QString(first) << offers;
+        };
+        row("prefix offers", "Zi", "Zi", true, "Zimmer", -1);
+        row("case-insensitive", "fl", "fl", true, "Flur", -1);
+        row("complete word hides", "Zimmer", "Zimmer", false, "", -1);
+        row("comma ends the word", "Flur,", "Flur,", false, "", -1);
+        row("dash ends the word", "WC-", "WC-", false, "", -1);
+        row("nothing matches", "Keller", "Keller", false, "", -1);
+        row("whole text is the prefix", "Treppenh", "Treppenh", true, "Treppenhaus", -1);
+        row("backspace reopens after an exact match", "Zimmer<BS>", "Zimme", true, "", -1);
+        row("arrow keys close", "Zimmer<BS><Left>", "Zimme", false, "", -1);
+        row("Ctrl+E offers everything and is not typed", "^E", "", true, "", 0);
+        row("Ctrl+E on a prefix", "Fl^E", "Fl", true, "", 1);
+        row("Return in the popup chooses", "Tr<Ret>", "Treppenhaus", false, "", -1);
     }
 
-    void typing()
+    void keys()
     {
-        QFETCH(QString, typed);
+        QFETCH(QString, keys);
+        QFETCH(QString, text);
         QFETCH(bool, popupVisible);
         QFETCH(QString, firstOffer);
+        QFETCH(int, offers);
 
-        QTest::keyClicks(m_edit, typed);
-        QCOMPARE(m_edit->text(), typed);
         KalCompleter *completer = m_edit->kalCompleter();
+        static const QRegularExpression token(QStringLiteral("\\^E|<BS>|<Left>|<Ret>|[^<^]+"));
+        for (auto it = token.globalMatch(keys); it.hasNext();) {
+            const QString key = it.next().captured();
+            if (key == QLatin1String("^E"))
+                QTest::keyClick(m_edit, Qt::Key_E, Qt::ControlModifier);
+            else if (key == QLatin1String("<BS>"))
+                QTest::keyClick(m_edit, Qt::Key_Backspace);
+            else if (key == QLatin1String("<Left>"))
+                QTest::keyClick(m_edit, Qt::Key_Left);
+            else if (key == QLatin1String("<Ret>"))
+                QTest::keyClick(completer->popup(), Qt::Key_Return);
+            else
+                QTest::keyClicks(m_edit, key);
+        }
+        QCOMPARE(m_edit->text(), text);
         QCOMPARE(completer->popup()->isVisible(), popupVisible);
-        if (popupVisible) {
-            QCOMPARE(completer->completionPrefix(), typed);
+        if (!firstOffer.isEmpty()) {
+            QCOMPARE(completer->completionPrefix(), text);
             QCOMPARE(completer->popup()->currentIndex().data().toString(), firstOffer);
         }
-    }
-
-    void backspaceReopensAfterExactMatch()
-    {
-        QTest::keyClicks(m_edit, QStringLiteral("Zimmer"));
-        QVERIFY(!m_edit->kalCompleter()->popup()->isVisible());
-        QTest::keyClick(m_edit, Qt::Key_Backspace);
-        QCOMPARE(m_edit->text(), QStringLiteral("Zimme"));
-        QVERIFY(m_edit->kalCompleter()->popup()->isVisible());
-        // Arrow keys produce no text: the popup closes.
-        QTest::keyClick(m_edit, Qt::Key_Left);
-        QVERIFY(!m_edit->kalCompleter()->popup()->isVisible());
-    }
-
-    void ctrlEForcesPopup()
-    {
-        QTest::keyClick(m_edit, Qt::Key_E, Qt::ControlModifier);
-        KalCompleter *completer = m_edit->kalCompleter();
-        QVERIFY(completer->popup()->isVisible());
-        QCOMPARE(completer->completionCount(), m_roomDefaults.size());
-        QCOMPARE(m_edit->text(), QString()); // the shortcut is not typed
-
-        completer->popup()->hide();
-        QTest::keyClicks(m_edit, QStringLiteral("Flur,"));
-        QVERIFY(!completer->popup()->isVisible());
-        m_edit->setText(QStringLiteral("Fl"));
-        QTest::keyClick(m_edit, Qt::Key_E, Qt::ControlModifier);
-        QVERIFY(completer->popup()->isVisible());
-        QCOMPARE(completer->completionCount(), 1);
-    }
-
-    void popupKeysChooseValue()
-    {
-        QTest::keyClicks(m_edit, QStringLiteral("Tr"));
-        KalCompleter *completer = m_edit->kalCompleter();
-        QVERIFY(completer->popup()->isVisible());
-        // Return while the popup is open belongs to the popup, which chooses.
-        QTest::keyClick(completer->popup(), Qt::Key_Return);
-        QCOMPARE(m_edit->text(), QStringLiteral("Treppenhaus"));
-        QVERIFY(!completer->popup()->isVisible());
+        if (offers >= 0)
+            QCOMPARE(completer->completionCount(), offers ? offers : m_roomDefaults.size());
     }
 
     void disabledCompleterNeverPopsUp()
@@ -275,6 +265,38 @@ private slots:
         QVERIFY(!m_edit->kalCompleter()->isEnabled());
         QTest::keyClicks(m_edit, QStringLiteral("Fl"));
         QVERIFY(!m_edit->kalCompleter()->popup()->isVisible());
+    }
+
+    // The dialog opens large enough to read every field, even after it was shrunk.
+    void dialogShowsEveryField_data()
+    {
+        QTest::addColumn<bool>("tinyGeometryStored");
+        QTest::newRow("first opening") << false;
+        QTest::newRow("after being shrunk") << true;
+    }
+
+    void dialogShowsEveryField()
+    {
+        QFETCH(bool, tinyGeometryStored);
+        if (tinyGeometryStored) {
+            QDialog tiny;
+            tiny.resize(120, 80);
+            QSettings().setValue(QStringLiteral("CompleterDialog/Geometry"), tiny.saveGeometry());
+        }
+        KalCompleterDialog dialog;
+        dialog.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QTableView *fields = dialog.completerView();
+        const QFontMetrics metrics(fields->font());
+        QVERIFY(fields->model()->rowCount() > 5);
+        for (int row = 0; row < fields->model()->rowCount(); ++row) {
+            const QModelIndex index = fields->model()->index(row, 0);
+            const QString text = index.data().toString();
+            QVERIFY2(fields->visualRect(index).width() >= metrics.horizontalAdvance(text) + 8, qPrintable(text));
+        }
+        QVERIFY(dialog.valuesView()->width() >= metrics.averageCharWidth() * 30);
+        QVERIFY(fields->viewport()->height() >= metrics.height() * 8);
+        dialog.reject();
     }
 
     void dialogAsksBeforeDiscarding_data()

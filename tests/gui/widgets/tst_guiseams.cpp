@@ -40,11 +40,8 @@ private slots:
         QTest::addColumn<int>("untouchedKind");
 
         QTest::newRow("photos") << int(KalSettings::ImageFiles) << "files" << int(KalSettings::PlanFiles);
-        QTest::newRow("plans") << int(KalSettings::PlanFiles) << "files" << int(KalSettings::ImageFiles);
         QTest::newRow("project open") << int(KalSettings::ProjectOpen) << "open" << int(KalSettings::ProjectSave);
         QTest::newRow("project save") << int(KalSettings::ProjectSave) << "save" << int(KalSettings::ProjectOpen);
-        QTest::newRow("logo") << int(KalSettings::LogoFile) << "open" << int(KalSettings::PdfExport);
-        QTest::newRow("pdf") << int(KalSettings::PdfExport) << "save" << int(KalSettings::LogoFile);
         QTest::newRow("photo folder") << int(KalSettings::ImageDirectory) << "folder" << int(KalSettings::ImageFiles);
     }
 

@@ -1,7 +1,6 @@
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
 #include "gui/textaids/KalCompleterLineEdit.h"
-#include "gui/textaids/KalCompleterTextEdit.h"
 #include "gui/textaids/KalDateEdit.h"
 #include "gui/widgets/KalItemDelegate.h"
 #include "gui/widgets/KalTableView.h"
@@ -11,14 +10,12 @@
 
 #include <QDir>
 #include <QHeaderView>
-#include <QIcon>
 #include <QImageReader>
 #include <QLabel>
 #include <QLineEdit>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QSortFilterProxyModel>
-#include <QSqlError>
 #include <QSqlQuery>
 #include <QTextEdit>
 #include <QToolButton>
@@ -48,18 +45,38 @@ class TstTableView : public QObject
     Q_OBJECT
 
 private:
-    qint64 insertDefect(const QString &number, const QVariantMap &extra = {})
+    // A row of `table` with the fields it needs; `values` go on top.
+    qint64 insertRow(const QString &table, const QVariantMap &values = {})
     {
-        QVariantMap values{{"number", number}, {"description", "Mangel " + number}, {"site_journal_data_modified", 0}};
-        for (auto it = extra.constBegin(); it != extra.constEnd(); ++it)
-            values.insert(it.key(), it.value());
-        return m_fx.addDefect(values);
+        QVariantMap row;
+        if (table == QLatin1String("status"))
+            row = {{"status", "Prüfen"}, {"color", "#00ff00"}, {"type", 2}, {"reduction_option", 0}, {"pos", 50}};
+        else if (table == QLatin1String("photo_info"))
+            row = {{"defect_id", insertRow("defect")}, {"pos", 1}, {"site_journal_data_modified", 0}};
+        else if (table == QLatin1String("plan_info"))
+            row = {{"plan_name", "EG"}, {"pos", 1}};
+        else if (table == QLatin1String("defect"))
+            row = {{"number", "1"}, {"description", "Mangel"}, {"site_journal_data_modified", 0}};
+        else
+            row = {{"company", "Bau GmbH"}, {"city", "Köln"}, {"modified", 0}};
+        for (auto it = values.constBegin(); it != values.constEnd(); ++it)
+            row.insert(it.key(), it.value());
+        if (table != QLatin1String("company"))
+            return m_fx.insert(table, row);
+        const QString name = row.take("company").toString();
+        return m_fx.addCompany(name, "Rohbau", row);
     }
 
-    qint64 insertCompany(const QString &name)
+    // Shows `view` on `model` as the user sees it.
+    static bool shown(KalTableView &view, QAbstractItemModel *model, const QSize &size = QSize(900, 400))
     {
-        return m_fx.addCompany(name, "Rohbau", {{"city", "Köln"}, {"modified", 0}});
+        view.setModel(model);
+        view.resize(size);
+        view.show();
+        return QTest::qWaitForWindowExposed(&view);
     }
+
+    qint64 insertCompany(const QString &name) { return insertRow("company", {{"company", name}}); }
 
     KalSqlTableModel *model(const QString &table) const { return m_fx.model(table); }
     int count(const QString &sql) { return m_fx.value(sql).toInt(); }
@@ -88,45 +105,55 @@ private slots:
     void deleteAsksPerTable_data()
     {
         QTest::addColumn<QString>("table");
+        QTest::addColumn<int>("rows"); // selected; one more row stays unselected
         QTest::addColumn<bool>("viaDeleteKey");
         QTest::addColumn<QString>("answer");
-        QTest::addColumn<bool>("removed");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("text");
 
-        auto row = [](const char *table, bool key, const char *answer, bool removed) {
-            QTest::newRow(qPrintable(QStringLiteral("%1%2 %3").arg(table, key ? " key" : "", answer)))
-                << QString(table) << key << QString(answer) << removed;
+        const QString one = QStringLiteral("Soll der gewählte Eintrag tatsächlich entfernt werden?");
+        const QString warning = QStringLiteral("Wenn Sie einen Status löschen, der bereits Mängeln zugeordnet ist, "
+                                               "verlieren diese Mängel ihren Status!\n");
+        const QString oneStatus = warning + QStringLiteral("Soll der gewählte Status tatsächlich gelöscht werden?");
+        auto row = [](const char *name, const char *table, int rows, bool key, const char *answer, const char *title,
+                      const QString &text) {
+            QTest::newRow(name) << QString(table) << rows << key << QString(answer) << QString(title) << text;
         };
-        for (const char *table : {"status", "company", "defect"}) {
-            row(table, false, "Ja", true);
-            row(table, false, "Nein", false);
-            row(table, true, "Ja", true);
-            row(table, true, "Nein", false);
-        }
+        row("status", "status", 1, false, "Ja", "Status löschen", oneStatus);
+        row("status key, no", "status", 1, true, "Nein", "Status löschen", oneStatus);
+        row("two statuses key", "status", 2, true, "Ja", "Status löschen",
+            warning + QStringLiteral("Sollen die 2 gewählten Status tatsächlich gelöscht werden?"));
+        row("company", "company", 1, false, "Ja", "Eintrag entfernen", one);
+        row("company, no", "company", 1, false, "Nein", "Eintrag entfernen", one);
+        row("defect key", "defect", 1, true, "Ja", "Eintrag entfernen", one);
+        row("defect key, no", "defect", 1, true, "Nein", "Eintrag entfernen", one);
+        row("three defects", "defect", 3, false, "Ja", "Einträge entfernen",
+            QStringLiteral("Sollen die 3 gewählten Einträge tatsächlich entfernt werden?"));
     }
 
     void deleteAsksPerTable()
     {
         QFETCH(QString, table);
+        QFETCH(int, rows);
         QFETCH(bool, viaDeleteKey);
         QFETCH(QString, answer);
-        QFETCH(bool, removed);
+        QFETCH(QString, title);
+        QFETCH(QString, text);
 
-        qint64 id = -1;
-        if (table == QLatin1String("status"))
-            id = m_fx.insert(
-                table, {{"status", "Prüfen"}, {"color", "#00ff00"}, {"type", 2}, {"reduction_option", 0}, {"pos", 50}});
-        else if (table == QLatin1String("company"))
-            id = insertCompany(QStringLiteral("Maler Schulz"));
-        else
-            id = insertDefect(QStringLiteral("7"));
-        QVERIFY(id > 0);
+        const QString nameField = table == QLatin1String("defect") ? QStringLiteral("number") : table;
+        QList<qint64> ids;
+        for (int i = 0; i <= rows; ++i) {
+            ids << insertRow(table, {{nameField, QString::number(i + 7)}});
+            QVERIFY(ids.last() > 0);
+        }
+        const qint64 unselected = ids.takeLast();
         KalSqlTableModel *m = model(table);
         QVERIFY(m->select());
-        const int rowsBefore = count(QStringLiteral("SELECT COUNT(*) FROM %1").arg(table));
+        const int rowsBefore = m_fx.count(table);
 
         KalTableView view;
         view.setModel(m);
-        QVERIFY(view.selectId(id));
+        QCOMPARE(view.selectIds(ids), rows);
         QSignalSpy deleted(&view, &KalTableView::signalRowsDeleted);
 
         m_prompt->queueAnswer(answer);
@@ -135,23 +162,14 @@ private slots:
         else
             view.deleteButton()->click();
 
-        QCOMPARE(m_prompt->shown().size(), 1);
-        const KalScriptedPrompt::Shown &shown = m_prompt->shown().first();
-        if (table == QLatin1String("status")) {
-            QCOMPARE(shown.title, QStringLiteral("Status löschen"));
-            QCOMPARE(shown.text, QStringLiteral("Wenn Sie einen Status löschen, der bereits Mängeln zugeordnet ist, "
-                                                "verlieren diese Mängel ihren Status!\nSoll der gewählte Status "
-                                                "tatsächlich gelöscht werden?"));
-        } else {
-            QCOMPARE(shown.title, QStringLiteral("Eintrag entfernen"));
-            QCOMPARE(shown.text, QStringLiteral("Soll der gewählte Eintrag tatsächlich entfernt werden?"));
-        }
-        QCOMPARE(shown.buttons, QStringList({QStringLiteral("Ja"), QStringLiteral("Nein")}));
-
-        const int stillThere = count(QStringLiteral("SELECT COUNT(*) FROM %1 WHERE id = %2").arg(table).arg(id));
-        QCOMPARE(stillThere, removed ? 0 : 1);
-        QCOMPARE(count(QStringLiteral("SELECT COUNT(*) FROM %1").arg(table)), rowsBefore - (removed ? 1 : 0));
-        QCOMPARE(m->findRowById(id) < 0, removed);
+        QCOMPARE(m_prompt->titles(), QStringList{title});
+        QCOMPARE(m_prompt->texts(), QStringList{text});
+        QCOMPARE(m_prompt->shown().first().buttons, QStringList({QStringLiteral("Ja"), QStringLiteral("Nein")}));
+        const bool removed = answer == QLatin1String("Ja");
+        QCOMPARE(m_fx.count(table), rowsBefore - (removed ? rows : 0));
+        QCOMPARE(m_fx.count(table, QStringLiteral("id = %1").arg(unselected)), 1);
+        for (qint64 id : ids)
+            QCOMPARE(m->findRowById(id) < 0, removed);
         QCOMPARE(deleted.count(), removed ? 1 : 0);
         QVERIFY(!m->isDirty());
     }
@@ -228,24 +246,7 @@ private slots:
         QFETCH(QVariant, expected);
         QFETCH(bool, changed);
 
-        qint64 id = -1;
-        if (table == QLatin1String("company")) {
-            id = insertCompany(QStringLiteral("Bau GmbH"));
-            QSqlQuery q(m_fx.project()->database());
-            q.prepare(QStringLiteral("UPDATE company SET %1 = :v WHERE id = :id").arg(field));
-            q.bindValue(QStringLiteral(":v"), stored);
-            q.bindValue(QStringLiteral(":id"), id);
-            QVERIFY(q.exec());
-        } else if (table == QLatin1String("photo_info")) {
-            const qint64 defect = insertDefect(QStringLiteral("1"));
-            id = m_fx.insert(table,
-                             {{"defect_id", defect}, {"pos", 1}, {field, stored}, {"site_journal_data_modified", 0}});
-        } else if (table == QLatin1String("defect")) {
-            id = insertDefect(QStringLiteral("1"), {{field, stored}});
-        } else {
-            id = m_fx.insert(
-                table, {{"status", stored}, {"color", "#00ff00"}, {"type", 2}, {"reduction_option", 0}, {"pos", 50}});
-        }
+        const qint64 id = insertRow(table, {{field, stored}});
         QVERIFY(id > 0);
         KalSqlTableModel *m = model(table);
         QVERIFY(m->select());
@@ -304,10 +305,7 @@ private slots:
         QVERIFY(m->select());
         KalTableView view;
         view.setSubmitEdits(submitEdits);
-        view.setModel(m);
-        view.resize(900, 300);
-        view.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        QVERIFY(shown(view, m, QSize(900, 300)));
         const QModelIndex index = m->index(m->findRowById(id), m->fieldIndex(QStringLiteral("city")));
         view.setCurrentIndex(index);
         view.edit(index);
@@ -334,7 +332,7 @@ private slots:
     void invalidDateInGridWarnsOnce()
     {
         QFETCH(bool, byReturn);
-        const qint64 id = insertDefect(QStringLiteral("1"), {{"correction_date", QDate(2024, 4, 3)}});
+        const qint64 id = insertRow("defect", {{"correction_date", QDate(2024, 4, 3)}});
         KalSqlTableModel *m = model(QStringLiteral("defect"));
         QVERIFY(m->select());
 
@@ -383,12 +381,9 @@ private slots:
         row("defect", "reduction", "");
         row("defect", "image_cnt", "");
         row("defect", "correction_date", "KalDateEdit");
-        row("defect", "deadline_3", "KalDateEdit");
         row("defect", "number", "-");
         // Ids shown as names are chosen in the defect editor, never typed.
         row("defect", "company_id", "");
-        row("defect", "status_id", "");
-        row("defect", "plan_info_id", "");
         row("status", "type", "");
         row("status", "status", "QLineEdit");
         row("company", "email", "QLineEdit");
@@ -405,23 +400,12 @@ private slots:
         QFETCH(QString, field);
         QFETCH(QString, editorClass);
 
-        qint64 id = 1; // a standard status
-        if (table == QLatin1String("defect"))
-            id = insertDefect(QStringLiteral("1"));
-        else if (table == QLatin1String("company"))
-            id = insertCompany(QStringLiteral("Dach AG"));
-        else if (table == QLatin1String("photo_info"))
-            id = m_fx.insert(table, {{"defect_id", insertDefect(QStringLiteral("2"))}, {"pos", 1}});
-        else if (table == QLatin1String("plan_info"))
-            id = m_fx.insert(table, {{"plan_name", "EG"}, {"pos", 1}});
+        const qint64 id = table == QLatin1String("status") ? 1 : insertRow(table); // 1: a standard status
         KalSqlTableModel *m = model(table);
         QVERIFY(m->select());
 
         KalTableView view;
-        view.setModel(m);
-        view.resize(900, 300);
-        view.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        QVERIFY(shown(view, m, QSize(900, 300)));
         const QModelIndex index = m->index(m->findRowById(id), m->fieldIndex(field));
         QVERIFY(index.isValid());
 
@@ -469,10 +453,8 @@ private slots:
             if (c.width == 0)
                 continue;
             settings.setValue(kDefectFormat, c.format);
-            QCOMPARE(KalTableView::columnWidthsKey(c.table), c.key);
             KalTableView view;
             view.setModel(model(c.table));
-            QCOMPARE(view.columnWidthsKey(), c.key);
             view.setColumnWidth(1, c.width);
             view.setColumnWidth(2, c.width + 1);
             view.setColumnHidden(3, true);
@@ -530,28 +512,20 @@ private slots:
         KalSqlTableModel *m = model(QStringLiteral("company"));
         QVERIFY(m->select());
         KalTableView view;
-        view.setModel(m);
-        view.resize(700, 400);
-        view.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        QVERIFY(shown(view, m, QSize(700, 400)));
 
         // Nobody handles adding or copying yet: those buttons are disabled.
         QVERIFY(!view.addButton()->isEnabled());
         QVERIFY(!view.copyButton()->isEnabled());
         QVERIFY(!view.deleteButton()->isEnabled());
-        QVERIFY(!view.addButton()->icon().isNull());
-        QVERIFY(!view.deleteButton()->icon().isNull());
-        QVERIFY(!view.copyButton()->icon().isNull());
 
         QSignalSpy add(&view, &KalTableView::signalButtonAddClicked);
-        QSignalSpy addOtherName(&view, &KalTableView::signalAddButtonClicked);
         QSignalSpy copy(&view, &KalTableView::signalButtonCopyClicked);
         QVERIFY(view.addButton()->isEnabled());
         QVERIFY(!view.copyButton()->isEnabled()); // nothing selected
 
         view.addButton()->click();
         QCOMPARE(add.count(), 1);
-        QCOMPARE(addOtherName.count(), 1);
 
         // A double click below the rows asks for a new row as well.
         const QPoint below(20, view.viewport()->height() - 5);
@@ -572,10 +546,7 @@ private slots:
         KalSqlTableModel *m = model(QStringLiteral("status"));
         QVERIFY(m->select());
         KalTableView view;
-        view.setModel(m);
-        view.resize(700, 400);
-        view.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        QVERIFY(shown(view, m, QSize(700, 400)));
         QSignalSpy spy(&view, &KalTableView::mouseClickOnStatusColorField);
 
         const int row = m->findRowById(3);
@@ -597,10 +568,7 @@ private slots:
         const qint64 id = insertCompany(QStringLiteral("C"));
         QVERIFY(model(QStringLiteral("company"))->select());
         KalTableView companies;
-        companies.setModel(model(QStringLiteral("company")));
-        companies.resize(700, 300);
-        companies.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&companies));
+        QVERIFY(shown(companies, model(QStringLiteral("company")), QSize(700, 300)));
         QSignalSpy other(&companies, &KalTableView::mouseClickOnStatusColorField);
         KalSqlTableModel *cm = model(QStringLiteral("company"));
         const QModelIndex cell = cm->index(cm->findRowById(id), 5);
@@ -611,8 +579,8 @@ private slots:
 
     void colourAndCameraCellsArePainted()
     {
-        const qint64 none = insertDefect(QStringLiteral("1"), {{"image_cnt", 0}});
-        const qint64 three = insertDefect(QStringLiteral("2"), {{"image_cnt", 3}});
+        const qint64 none = insertRow("defect", {{"image_cnt", 0}});
+        const qint64 three = insertRow("defect", {{"number", "2"}, {"image_cnt", 3}});
         KalSqlTableModel *defects = model(QStringLiteral("defect"));
         QVERIFY(defects->select());
         KalTableView view;
@@ -641,22 +609,12 @@ private slots:
         QVERIFY(darkPixels(cameraCell.adjusted(0, 0, -cameraCell.width() / 2, 0)) > 20); // the camera on the left
 
         // A status's colour cell shows its colour, also in a selected row.
-        m_fx.insert(
-            QStringLiteral("status"),
-            {{"id", 77}, {"status", "Lila"}, {"color", "#8020c0"}, {"type", 2}, {"reduction_option", 0}, {"pos", 77}});
-        m_fx.insert(QStringLiteral("status"), {{"id", 78},
-                                               {"status", "Unbekannt"},
-                                               {"color", "keine Farbe"},
-                                               {"type", 2},
-                                               {"reduction_option", 0},
-                                               {"pos", 78}});
+        insertRow("status", {{"id", 77}, {"status", "Lila"}, {"color", "#8020c0"}});
+        insertRow("status", {{"id", 78}, {"status", "Unbekannt"}, {"color", "keine Farbe"}});
         KalSqlTableModel *status = model(QStringLiteral("status"));
         QVERIFY(status->select());
         KalTableView statusView;
-        statusView.setModel(status);
-        statusView.resize(900, 500);
-        statusView.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&statusView));
+        QVERIFY(shown(statusView, status, QSize(900, 500)));
         const int colourColumn = status->fieldIndex(QStringLiteral("color"));
         for (bool selected : {false, true}) {
             if (selected)
