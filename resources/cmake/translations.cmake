@@ -1,6 +1,9 @@
 # Translations: our own kal_<locale>.ts compiled with lrelease, plus Qt's base
 # translation from the system, both into Translations/ beside bin/.
-file(GLOB KAL_TS_FILES CONFIGURE_DEPENDS ${CMAKE_CURRENT_LIST_DIR}/../translations/kal_*.ts)
+set(KAL_TS_FILES)
+foreach(locale en_GB en_US es)
+  list(APPEND KAL_TS_FILES ${CMAKE_CURRENT_LIST_DIR}/../translations/kal_${locale}.ts)
+endforeach()
 
 set(KAL_QM_FILES)
 foreach(ts ${KAL_TS_FILES})
