@@ -112,6 +112,12 @@ QByteArray fileHash(const QString &path)
     return hash.result().toHex();
 }
 
+bool writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(bytes) == bytes.size();
+}
+
 QStringList folderState(const QString &folder)
 {
     QStringList state;

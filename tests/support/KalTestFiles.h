@@ -17,6 +17,8 @@ QString scalar(const QString &file, const QString &sql);
 QString integrity(const QString &file);
 bool execute(const QString &file, const QStringList &statements);
 
+// Replaces the file's content; false when it cannot be written in full.
+bool writeFile(const QString &path, const QByteArray &bytes);
 QByteArray fileHash(const QString &path);
 // Names of the files in a folder, sorted, with size and modification time:
 // equal listings mean nothing on disk changed.

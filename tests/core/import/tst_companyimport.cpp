@@ -15,6 +15,7 @@
 #include <QtTest>
 
 using namespace CompanyTestData;
+using KalTestFiles::writeFile;
 using R = KalCompanyRecord;
 
 namespace {
@@ -22,23 +23,6 @@ namespace {
 QByteArray cp1252(const QString &text)
 {
     return QTextCodec::codecForName("Windows-1252")->fromUnicode(text);
-}
-
-// "field=value" for every non-empty field, in field order.
-QStringList describe(const KalCompanyRecord &record)
-{
-    QStringList parts;
-    for (int field = 0; field < R::FieldCount; ++field) {
-        if (!record.value(field).isEmpty())
-            parts << R::columnName(field) + '=' + record.value(field);
-    }
-    return parts;
-}
-
-bool writeFile(const QString &path, const QByteArray &data)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(data) == data.size();
 }
 
 int companyCount(KalProject &project)

@@ -52,33 +52,6 @@ private slots:
         m_project.reset();
     }
 
-    void removedDefectTakesItsPlanItemsAlong_data()
-    {
-        QTest::addColumn<QString>("table");
-        QTest::newRow("marker") << "marker";
-        QTest::newRow("text") << "marker_text";
-    }
-
-    void removedDefectTakesItsPlanItemsAlong()
-    {
-        QFETCH(QString, table);
-        const qint64 doomed = KalDefects(*m_project).add();
-        const qint64 kept = KalDefects(*m_project).add();
-        QSqlQuery q(m_project->database());
-        for (qint64 defectId : {doomed, doomed, kept})
-            QVERIFY(q.exec(
-                QStringLiteral("INSERT INTO %1 (plan_info_id, defect_id) VALUES (1, %2)").arg(table).arg(defectId)));
-        QVERIFY(model(table.toLatin1().constData())->select());
-
-        QVERIFY(model("defect")->removeRowsById({doomed}));
-        QCOMPARE(scalar(QStringLiteral("SELECT COUNT(*) FROM %1 WHERE defect_id = %2").arg(table).arg(doomed)).toInt(),
-                 0);
-        QCOMPARE(scalar(QStringLiteral("SELECT COUNT(*) FROM %1 WHERE defect_id = %2").arg(table).arg(kept)).toInt(),
-                 1);
-        // The plan editor's model no longer shows them.
-        QCOMPARE(model(table.toLatin1().constData())->rowCount(), 1);
-    }
-
     void authorInitials_data()
     {
         QTest::addColumn<QString>("text");

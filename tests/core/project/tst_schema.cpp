@@ -106,31 +106,6 @@ private slots:
         QCOMPARE(KalDatabaseSchema::nextId(db, m_tx, "photo_info"), 1);
     }
 
-    void fileVersionComparison_data()
-    {
-        QTest::addColumn<QString>("version");
-        QTest::addColumn<bool>("newer");
-        QTest::newRow("same") << "0.1" << false;
-        QTest::newRow("older") << "0.0" << false;
-        QTest::newRow("minor newer") << "0.2" << true;
-        QTest::newRow("major newer") << "1.0" << true;
-        QTest::newRow("major newer, minor smaller") << "1.0" << true;
-        QTest::newRow("empty") << "" << false;
-        QTest::newRow("text") << "abc" << false;
-        QTest::newRow("half text") << "0.x" << false;
-        QTest::newRow("three parts: the first two decide") << "0.2.1" << true;
-        QTest::newRow("three parts, newer major") << "1.0.0" << true;
-        QTest::newRow("three parts, same major and minor") << "0.1.7" << false;
-        QTest::newRow("leading zeros") << "00.02" << true;
-    }
-
-    void fileVersionComparison()
-    {
-        QFETCH(QString, version);
-        QFETCH(bool, newer);
-        QCOMPARE(KalDatabaseSchema::isFileVersionNewer(version), newer);
-    }
-
     void automaticImportModeParsing_data()
     {
         QTest::addColumn<QString>("value");
