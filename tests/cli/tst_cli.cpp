@@ -1,8 +1,10 @@
 // pellwick-cli driven as a user's script would: real processes, real files.
 // A defect it adds is the defect the program's list adds.
+#include "core/project/KalDefectCsv.h"
 #include "core/project/KalDefects.h"
 #include "core/project/KalProject.h"
 #include "support/KalCliRun.h"
+#include "support/KalCompanyTestData.h"
 #include "support/KalScriptedPrompt.h"
 #include "support/KalTestFiles.h"
 #include "support/KalTestSettings.h"
@@ -19,6 +21,9 @@
 #include <QtTest>
 
 using namespace KalTestFiles;
+using namespace CompanyTestData;
+
+Q_DECLARE_METATYPE(KalDefectCsv::Columns)
 
 namespace {
 
@@ -61,6 +66,8 @@ class TstCli : public QObject
 
 private:
     std::unique_ptr<QTemporaryDir> m_dir;
+    QTemporaryDir m_listDir;
+    QString m_list; // a saved project with a defect list, shared by the export runs
     QString path(const QString &name) { return m_dir->filePath(name); }
 
     // A saved project with defects numbered as given and company 1.
@@ -80,6 +87,8 @@ private slots:
         KalTestSettings::isolate();
         KalScriptedPrompt::install();
         QVERIFY(QFileInfo::exists(KalTestSettings::binDir() + "/pellwick-cli"));
+        m_list = m_listDir.filePath("liste.pwp");
+        QVERIFY(createDefectProject(m_list));
     }
 
     void init() { m_dir.reset(new QTemporaryDir); }
@@ -401,6 +410,79 @@ private slots:
             }
         }
         QCOMPARE(countRows(file, "defect"), ids.isEmpty() ? 3 : 5);
+    }
+
+    // export-defects: read-only, to stdout or a file, in the user's date
+    // notation and company format.
+    void cliExport_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<KalDefectCsv::Columns>("columns");
+        QTest::newRow("default is compact") << QStringList() << KalDefectCsv::Compact;
+        QTest::newRow("compact") << QStringList{"--columns", "compact"} << KalDefectCsv::Compact;
+        QTest::newRow("all") << QStringList{"--columns", "all"} << KalDefectCsv::All;
+    }
+
+    void cliExport()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(KalDefectCsv::Columns, columns);
+        const QString project = path("p.pwp");
+        QVERIFY(QFile::copy(m_list, project));
+        const QByteArray hash = fileHash(project);
+        const QStringList before = folderState(m_dir->path());
+
+        const KalCliRun toStdout = kalCli(QStringList{"export-defects", project} + options);
+        QCOMPARE(toStdout.code, 0);
+        // Read-only: no working copy, no user file, no byte changed.
+        QCOMPARE(folderState(m_dir->path()), before);
+        QCOMPARE(fileHash(project), hash);
+
+        const QString output = path("liste.csv");
+        const KalCliRun toFile = kalCli(QStringList{"export-defects", project, "--output", output} + options);
+        QCOMPARE(toFile.code, 0);
+        QVERIFY(toFile.out.isEmpty());
+        QCOMPARE(readFile(output), toStdout.out);
+        QCOMPARE(fileHash(project), hash);
+
+        QCOMPARE(toStdout.out, exportDefects(m_list, columns));
+    }
+
+    void cliFollowsSettings_data()
+    {
+        QTest::addColumn<int>("language");
+        QTest::addColumn<int>("country");
+        QTest::addColumn<QString>("deadline");
+        QTest::newRow("German") << int(QLocale::German) << int(QLocale::Germany) << "05.03.2024";
+        QTest::newRow("English (US)") << int(QLocale::English) << int(QLocale::UnitedStates) << "03/05/2024";
+    }
+
+    // Dates in the program's notation and companies in the user's format.
+    void cliFollowsSettings()
+    {
+        QFETCH(int, language);
+        QFETCH(int, country);
+        QFETCH(QString, deadline);
+        QSettings settings;
+        settings.setValue("Language", language);
+        settings.setValue("Country", country);
+        KalCompanyFormat format;
+        format.field1 = KalCompanyFormat::Empty;
+        format.field2 = KalCompanyFormat::Type;
+        format.field3 = KalCompanyFormat::Empty;
+        format.field2InBrackets = true;
+        format.save();
+        settings.sync();
+        const KalCliRun run = kalCli({"export-defects", m_list});
+        settings.clear();
+        settings.sync();
+        QCOMPARE(run.code, 0);
+        const QList<QStringList> rows = parseCsv(run.out);
+        QCOMPARE(rows.size(), 5);
+        const QStringList ten = rows.at(3);
+        QCOMPARE(ten.first(), QStringLiteral("10"));
+        QCOMPARE(ten.at(rows.first().indexOf("Frist")), deadline);
+        QCOMPARE(ten.at(rows.first().indexOf("Firma")), QStringLiteral("(Maler"));
     }
 };
 

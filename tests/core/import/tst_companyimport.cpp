@@ -266,33 +266,18 @@ private slots:
         QTest::addColumn<QString>("kind");
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("reason");
-        QTest::newRow("project: missing") << "project"
-                                          << "fehlt.pwp"
-                                          << "existiert nicht";
-        QTest::newRow("project: empty file") << "project"
-                                             << "leer.pwp"
-                                             << "keine Pellwick-Projektdatei";
-        QTest::newRow("project: junk") << "project"
-                                       << "junk.pwp"
-                                       << "";
-        QTest::newRow("project: a site journal") << "project"
-                                                 << "journal.sjd"
-                                                 << "keine Pellwick-Projektdatei";
-        QTest::newRow("project: no companies") << "project"
-                                               << "ohne.pwp"
-                                               << "enthält keine Firmen";
-        QTest::newRow("journal: missing") << "journal"
-                                          << "fehlt.sjd"
-                                          << "existiert nicht";
-        QTest::newRow("journal: junk") << "journal"
-                                       << "junk.pwp"
-                                       << "";
-        QTest::newRow("journal: a project") << "journal"
-                                            << "ohne.pwp"
-                                            << "keine Bautagebuch-Datei";
-        QTest::newRow("journal: only deleted companies") << "journal"
-                                                         << "journal.sjd"
-                                                         << "enthält keine Firmen";
+        auto row = [](const char *kind, const char *file, const char *reason) {
+            QTest::newRow(qPrintable(QStringLiteral("%1: %2").arg(kind, file))) << kind << file << reason;
+        };
+        row("project", "fehlt.pwp", "existiert nicht");
+        row("project", "leer.pwp", "keine Pellwick-Projektdatei");
+        row("project", "junk.pwp", "");
+        row("project", "journal.sjd", "keine Pellwick-Projektdatei"); // a site journal
+        row("project", "ohne.pwp", "enthält keine Firmen");
+        row("journal", "fehlt.sjd", "existiert nicht");
+        row("journal", "junk.pwp", "");
+        row("journal", "ohne.pwp", "keine Bautagebuch-Datei"); // a project
+        row("journal", "journal.sjd", "enthält keine Firmen");  // only deleted companies
     }
 
     void badSources()

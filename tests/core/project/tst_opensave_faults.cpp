@@ -5,7 +5,6 @@
 #include "core/project/KalEnvironment.h"
 #include "core/project/KalFileOps.h"
 #include "core/project/KalProject.h"
-#include "core/project/KalSettings.h"
 #include "core/project/KalSqlTableModel.h"
 #include "support/KalCliRun.h"
 #include "support/KalHolderProcess.h"
@@ -542,25 +541,6 @@ private slots:
         QVERIFY(project.closeProject());
         QCOMPARE(countRows(target, "defect"), 3);
         QCOMPARE(integrity(target), QStringLiteral("ok"));
-    }
-
-    void rememberedSaveFolderIsAFolder_data()
-    {
-        QTest::addColumn<QString>("stored");
-        QTest::newRow("two paths joined below a project file") << "sa.pwp/ordner/proj";
-        QTest::newRow("a project file") << "sa.pwp";
-        QTest::newRow("a folder that was removed") << "weg/unterordner";
-    }
-
-    void rememberedSaveFolderIsAFolder()
-    {
-        QFETCH(QString, stored);
-        writeFile(path("sa.pwp"), "");
-        QSettings().setValue("FileDialogPaths/DBSavePath", path(stored));
-        QCOMPARE(KalSettings::filePathForDialog(KalSettings::ProjectSave), QDir::toNativeSeparators(m_dir->path()));
-        // Choosing a name below a file does not make that file the folder.
-        KalSettings::rememberFilePath(KalSettings::ProjectSave, path("sa.pwp/neu.pwp"), false);
-        QCOMPARE(KalSettings::filePathForDialog(KalSettings::ProjectSave), QDir::toNativeSeparators(m_dir->path()));
     }
 };
 

@@ -266,26 +266,6 @@ private slots:
         QVERIFY(prompt()->shown().isEmpty());
     }
 
-    void languageCodes_data()
-    {
-        QTest::addColumn<QLocale>("locale");
-        QTest::addColumn<QString>("code");
-        QTest::newRow("German") << QLocale(QLocale::German, QLocale::Austria) << "DE";
-        QTest::newRow("Spanish") << QLocale(QLocale::Spanish, QLocale::Spain) << "ES";
-        QTest::newRow("English") << QLocale(QLocale::English, QLocale::UnitedKingdom) << "EN";
-        QTest::newRow("English USA") << QLocale(QLocale::English, QLocale::UnitedStates) << "USA";
-        QTest::newRow("other") << QLocale(QLocale::French, QLocale::France) << "DE";
-    }
-
-    void languageCodes()
-    {
-        QFETCH(QLocale, locale);
-        QFETCH(QString, code);
-        QCOMPARE(KalSpellChecker::dictionaryBase(QStringLiteral("/opt/p/bin"), locale),
-                 QStringLiteral("/opt/p/Dictionaries/pym_") + code);
-        QVERIFY(KalSpellChecker::userDictionaryPath(locale).endsWith(QStringLiteral("/kal_userDict_%1.txt").arg(code)));
-    }
-
 private:
     static KalSpellChecker *checker() { return KalSpellChecker::instance(); }
 
