@@ -88,23 +88,16 @@ private slots:
         QTest::addColumn<QString>("flag"); // empty: the table has none
         QTest::addColumn<bool>("marked");
 
-        QTest::newRow("company name") << "company"
-                                      << "company" << QVariant("Neu GmbH") << "modified" << true;
-        QTest::newRow("company unchanged") << "company"
-                                           << "company" << QVariant("Alt GmbH") << "modified" << false;
-        QTest::newRow("defect room") << "defect"
-                                     << "roomname" << QVariant("Bad") << "site_journal_data_modified" << true;
-        QTest::newRow("defect date") << "defect"
-                                     << "correction_date" << QVariant(QDate(2026, 5, 4)) << "site_journal_data_modified"
-                                     << true;
-        QTest::newRow("defect same date as text")
-            << "defect"
-            << "creation_date" << QVariant(QDate(2026, 1, 2).toString(Qt::ISODate)) << "site_journal_data_modified"
-            << false;
-        QTest::newRow("project name") << "kal"
-                                      << "projectname" << QVariant("Rathaus") << "project_data_modified" << true;
-        QTest::newRow("status has no flag") << "status"
-                                            << "status" << QVariant("Erledigt?") << "" << true;
+        auto row = [](const char *name, const char *table, const char *field, const QVariant &value, const char *flag,
+                      bool marked) { QTest::newRow(name) << table << field << value << flag << marked; };
+        const char *journalFlag = "site_journal_data_modified";
+        row("company name", "company", "company", "Neu GmbH", "modified", true);
+        row("company unchanged", "company", "company", "Alt GmbH", "modified", false);
+        row("defect room", "defect", "roomname", "Bad", journalFlag, true);
+        row("defect date", "defect", "correction_date", QDate(2026, 5, 4), journalFlag, true);
+        row("defect same date as text", "defect", "creation_date", "2026-01-02", journalFlag, false);
+        row("project name", "kal", "projectname", "Rathaus", "project_data_modified", true);
+        row("status has no flag", "status", "status", "Erledigt?", "", true);
     }
 
     void userEditMarksTheRow()

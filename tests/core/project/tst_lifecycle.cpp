@@ -323,14 +323,13 @@ private slots:
         QTest::addColumn<QString>("answer");
         QTest::addColumn<bool>("opens");
         QTest::addColumn<int>("defects");
-        QTest::newRow("restore newest intact backup") << "intact"
-                                                      << "Backup wiederherstellen" << true << 2;
-        QTest::newRow("cancel") << "intact"
-                                << "Abbrechen" << false << -1;
-        QTest::newRow("no backups, cancel") << "none"
-                                            << "Abbrechen" << false << -1;
-        QTest::newRow("damaged backups, cancel") << "damaged"
-                                                 << "Abbrechen" << false << -1;
+        auto row = [](const char *name, const char *backups, const char *answer, bool opens, int defects) {
+            QTest::newRow(name) << backups << answer << opens << defects;
+        };
+        row("restore newest intact backup", "intact", "Backup wiederherstellen", true, 2);
+        row("cancel", "intact", "Abbrechen", false, -1);
+        row("no backups, cancel", "none", "Abbrechen", false, -1);
+        row("damaged backups, cancel", "damaged", "Abbrechen", false, -1);
     }
 
     void damagedFile()
@@ -426,22 +425,19 @@ private slots:
         QTest::addColumn<bool>("done");
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("text"); // start; %1: the MB missing
-        QTest::newRow("opening refused")
-            << "open"
-            << "/daten" << 0 << 1000 << false << "Speicherplatz nicht ausreichend"
-            << "Auf dem Laufwerk /daten steht nicht genügend Speicherplatz zur Verfügung, um das Projekt zu "
-               "öffnen.\nGeben Sie mindestens %1 MB Speicherplatz frei und versuchen Sie es erneut.";
-        QTest::newRow("opening warns") << "open"
-                                       << "D:" << 2 << 0 << true << "Speicherplatz"
-                                       << "Sie sollten auf dem Laufwerk D: Speicherplatz freigeben";
-        QTest::newRow("saving refused")
-            << "save"
-            << "/voll" << 0 << 0 << false << "Speicherplatz nicht ausreichend"
-            << "Auf dem Ziellaufwerk /voll steht nicht genügend Speicherplatz zur Verfügung, um das Projekt zu "
-               "speichern.";
-        QTest::newRow("save as needs room for two copies") << "saveas"
-                                                           << "/usb" << 2 << -1 << false << ""
-                                                           << "";
+        auto row = [](const char *name, const char *step, const char *volume, int factor, int offset, bool done,
+                      const char *title, const QString &text) {
+            QTest::newRow(name) << step << volume << factor << offset << done << title << text;
+        };
+        row("opening refused", "open", "/daten", 0, 1000, false, "Speicherplatz nicht ausreichend",
+            "Auf dem Laufwerk /daten steht nicht genügend Speicherplatz zur Verfügung, um das Projekt zu öffnen.\n"
+            "Geben Sie mindestens %1 MB Speicherplatz frei und versuchen Sie es erneut.");
+        row("opening warns", "open", "D:", 2, 0, true, "Speicherplatz",
+            "Sie sollten auf dem Laufwerk D: Speicherplatz freigeben");
+        row("saving refused", "save", "/voll", 0, 0, false, "Speicherplatz nicht ausreichend",
+            "Auf dem Ziellaufwerk /voll steht nicht genügend Speicherplatz zur Verfügung, um das Projekt zu "
+            "speichern.");
+        row("save as needs room for two copies", "saveas", "/usb", 2, -1, false, "", "");
     }
 
     void lowSpace()

@@ -292,12 +292,12 @@ private slots:
         QTest::addColumn<bool>("opens");
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("textStart");
-        QTest::newRow("disk full") << "full" << false << "Speicherplatz nicht ausreichend"
-                                   << "Auf dem Laufwerk ";
-        QTest::newRow("read-only folder") << "readonly" << false << "Dateifehler"
-                                          << "Sie haben keine Schreibrechte für die Datei";
-        QTest::newRow("not a database") << "garbage" << true << ""
-                                        << "";
+        auto row = [](const char *name, const char *fault, bool opens, const char *title, const char *text) {
+            QTest::newRow(name) << fault << opens << title << text;
+        };
+        row("disk full", "full", false, "Speicherplatz nicht ausreichend", "Auf dem Laufwerk ");
+        row("read-only folder", "readonly", false, "Dateifehler", "Sie haben keine Schreibrechte für die Datei");
+        row("not a database", "garbage", true, "", "");
     }
 
     // A crashed run's unsaved work is discarded only when it is somebody
@@ -398,16 +398,14 @@ private slots:
         QTest::addColumn<QString>("companion");
         QTest::addColumn<QString>("kind");
         QTest::addColumn<bool>("leftover");
-        QTest::newRow("user file is a pipe") << ".udf"
-                                             << "pipe" << false;
-        QTest::newRow("user file is a pipe, working copy left") << ".udf"
-                                                                << "pipe" << true;
-        QTest::newRow("working copy is a pipe") << ".workingcopy"
-                                                << "pipe" << false;
-        QTest::newRow("user file links to the project") << ".udf"
-                                                        << "link" << false;
-        QTest::newRow("working copy links to the project") << ".workingcopy"
-                                                           << "link" << false;
+        auto row = [](const char *name, const char *companion, const char *kind, bool leftover) {
+            QTest::newRow(name) << companion << kind << leftover;
+        };
+        row("user file is a pipe", ".udf", "pipe", false);
+        row("user file is a pipe, working copy left", ".udf", "pipe", true);
+        row("working copy is a pipe", ".workingcopy", "pipe", false);
+        row("user file links to the project", ".udf", "link", false);
+        row("working copy links to the project", ".workingcopy", "link", false);
     }
 
     // A pipe must not make opening wait forever; nothing is written through

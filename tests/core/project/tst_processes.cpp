@@ -83,14 +83,13 @@ private slots:
         QTest::addColumn<QString>("computer");
         QTest::addColumn<bool>("withUdf");
         QTest::addColumn<bool>("recovered");
-        QTest::newRow("same user, same computer") << "erika"
-                                                  << "BAUBUERO" << true << true;
-        QTest::newRow("other user") << "max"
-                                    << "BAUBUERO" << true << false;
-        QTest::newRow("other computer") << "erika"
-                                        << "LAPTOP" << true << false;
-        QTest::newRow("no user data file") << "erika"
-                                           << "BAUBUERO" << false << false;
+        auto row = [](const char *name, const char *user, const char *computer, bool withUdf, bool recovered) {
+            QTest::newRow(name) << user << computer << withUdf << recovered;
+        };
+        row("same user, same computer", "erika", "BAUBUERO", true, true);
+        row("other user", "max", "BAUBUERO", true, false);
+        row("other computer", "erika", "LAPTOP", true, false);
+        row("no user data file", "erika", "BAUBUERO", false, false);
     }
 
     void crashRecovery()
