@@ -187,7 +187,6 @@ private slots:
         QCOMPARE(info.value("integrity").toString(), QStringLiteral("ok"));
         QCOMPARE(info.value("projectname").toString(), QStringLiteral("Neues Projekt"));
         QCOMPARE(info.value("tables").toObject().value("defect").toInt(), 4);
-        QCOMPARE(info.value("tables").toObject().value("status").toInt(), 8);
         QCOMPARE(folderState(m_dir->path()), before);
 
         const KalCliRun text = kalCli({"info", file});

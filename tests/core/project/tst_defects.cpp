@@ -6,6 +6,7 @@
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
 #include "support/KalScriptedPrompt.h"
+#include "support/KalTestProject.h"
 #include "support/KalTestSettings.h"
 
 #include <QSettings>
@@ -18,15 +19,11 @@ class TstDefects : public QObject
 
 private:
     KalScriptedPrompt *m_prompt = nullptr;
-    std::unique_ptr<KalProject> m_project;
+    KalTestProject m_fx;
+    KalProject *m_project = nullptr;
 
-    KalSqlTableModel *model(const char *table) const { return m_project->model(QLatin1String(table)); }
-
-    QVariant scalar(const QString &sql)
-    {
-        QSqlQuery q(m_project->database());
-        return q.exec(sql) && q.next() ? q.value(0) : QVariant();
-    }
+    KalSqlTableModel *model(const char *table) const { return m_fx.model(QLatin1String(table)); }
+    QVariant scalar(const QString &sql) { return m_fx.value(sql); }
 
     qint64 company(const QString &name) { return KalCompanies(*m_project).add({{QStringLiteral("company"), name}}); }
 
@@ -42,15 +39,11 @@ private slots:
     void init()
     {
         m_prompt->clear();
-        m_project = std::make_unique<KalProject>();
-        QVERIFY(m_project->newProject());
+        QVERIFY(m_fx.open());
+        m_project = m_fx.project();
     }
 
-    void cleanup()
-    {
-        m_project->closeProject();
-        m_project.reset();
-    }
+    void cleanup() { m_fx.close(); }
 
     void authorInitials_data()
     {
@@ -133,13 +126,9 @@ private slots:
     void newCompaniesFollowTheLast()
     {
         QFETCH(QString, way);
-        QVERIFY(m_project->beginTransaction());
-        QSqlQuery q(m_project->database());
-        QVERIFY(q.exec("INSERT INTO company (id, type, firstname, lastname, company, street, plz, city, telephone, "
-                       "telefax, mobile, email, pos, modified) VALUES (40, '', '', '', 'Alt', '', '', '', '', '', "
-                       "'', '', 7, 1)"));
-        QVERIFY(m_project->commitTransaction());
+        QVERIFY(m_fx.addCompany("Alt", "", {{"id", 40}, {"pos", 7}, {"modified", 1}}) == 40);
         QVERIFY(model("company")->select());
+        QSqlQuery q(m_project->database());
 
         KalCompanies companies(*m_project);
         const QVariantMap texts{{QStringLiteral("company"), QStringLiteral("Neu")}};
