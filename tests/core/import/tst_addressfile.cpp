@@ -194,20 +194,6 @@ private slots:
                    .toUtf8()
             << QString("Empresa=company | Teléfono=telephone | Teléfono móvil=mobile | Dirección=street | "
                        "Código postal=plz | Ciudad=city | Correo electrónico=email");
-        QTest::newRow("hand-made spreadsheet")
-            << QString(
-                   "Firma;Gewerk;Straße;PLZ;Ort;Telefon;Fax;Mobil;E-Mail\nRoth;Maler;Weg 1;53111;Bonn;1;2;3;a@b.de\n")
-                   .toUtf8()
-            << QString("Firma=company | Gewerk=type | Straße=street | PLZ=plz | Ort=city | Telefon=telephone | "
-                       "Fax=telefax | Mobil=mobile | E-Mail=email");
-        QTest::newRow("spreadsheet, first name beside name")
-            << QByteArray("Vorname;Name;Strasse;Hausnummer\nKarl;Berg;Lindenweg;7\n")
-            << QString("Vorname=firstname | Name=lastname | Strasse=street | Hausnummer=street");
-        QTest::newRow("no caption row")
-            << QByteArray("Roth GmbH;Hauptstr. 12;53111;Bonn;0228 123456;0171 2345678;info@roth.de\n"
-                          "Kaya Fliesen;Am Markt 3a;50667;K\xC3\xB6ln;0221 98765;0160 111222;kaya@example.org\n")
-            << QString("Spalte 1=company | Spalte 2=street | Spalte 3=plz | Spalte 4=city | Spalte 5=telephone | "
-                       "Spalte 6=mobile | Spalte 7=email");
     }
 
     void columnsOfLayouts()

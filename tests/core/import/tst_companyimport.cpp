@@ -6,6 +6,7 @@
 #include "core/project/KalSqlTableModel.h"
 #include "support/KalCompanyTestData.h"
 #include "support/KalTestFiles.h"
+#include "support/KalTestProject.h"
 #include "support/KalTestSettings.h"
 
 #include <QFile>
@@ -25,12 +26,6 @@ QByteArray cp1252(const QString &text)
     return QTextCodec::codecForName("Windows-1252")->fromUnicode(text);
 }
 
-int companyCount(KalProject &project)
-{
-    QSqlQuery q(project.database());
-    return q.exec("SELECT COUNT(*) FROM company") && q.next() ? q.value(0).toInt() : -1;
-}
-
 } // namespace
 
 class TstCompanyImport : public QObject
@@ -39,9 +34,11 @@ class TstCompanyImport : public QObject
 
 private:
     QTemporaryDir m_dir;
+    KalTestProject m_fx;
 
 private slots:
     void initTestCase() { KalTestSettings::isolate(); }
+    void cleanup() { m_fx.close(); }
 
     void addressFiles_data()
     {
@@ -303,8 +300,8 @@ private slots:
 
     void insertWithDuplicates()
     {
-        KalProject project;
-        QVERIFY(project.newProject());
+        QVERIFY(m_fx.open());
+        KalProject &project = *m_fx.project();
         KalCompanyImport::Result first =
             KalCompanyImport::insertCompanies(project, {company("Roth GmbH", "Maler"), company("Kaya", "Fliesen")});
         QVERIFY2(first.ok, qPrintable(first.errorText));
@@ -326,7 +323,7 @@ private slots:
         QCOMPARE(second.duplicates.at(0).value(R::Company), QStringLiteral("  roth   gmbh "));
         QCOMPARE(second.insertedIds.size(), 2);
         QVERIFY(second.insertedIds.at(0) > first.insertedIds.at(1));
-        QCOMPARE(companyCount(project), 4);
+        QCOMPARE(m_fx.count("company"), 4);
         QVERIFY(project.isModified());
         // New rows show up in the model at once.
         KalSqlTableModel *model = project.model("company");
@@ -337,14 +334,13 @@ private slots:
         QVERIFY(third.ok);
         QCOMPARE(third.insertedIds.size(), 2);
         QCOMPARE(third.duplicates.size(), 2);
-        QCOMPARE(companyCount(project), 6);
-        QVERIFY(project.closeProject());
+        QCOMPARE(m_fx.count("company"), 6);
     }
 
     void failedInsertLeavesNothing()
     {
-        KalProject project;
-        QVERIFY(project.newProject());
+        QVERIFY(m_fx.open());
+        KalProject &project = *m_fx.project();
         QVERIFY(KalCompanyImport::insertCompanies(project, {company("Roth GmbH", "Maler")}).ok);
         QSqlQuery q(project.database());
         QVERIFY(q.exec("CREATE TRIGGER refuse BEFORE INSERT ON company WHEN NEW.company = 'Kaputt' "
@@ -358,30 +354,26 @@ private slots:
         QVERIFY(!result.ok);
         QVERIFY(result.insertedIds.isEmpty());
         QVERIFY(result.errorText.contains("refused"));
-        QCOMPARE(companyCount(project), 1);
+        QCOMPARE(m_fx.count("company"), 1);
         QVERIFY(q.exec(counter) && q.next());
         QCOMPARE(q.value(0).toLongLong(), before);
         QCOMPARE(project.transactions().depth(), 0);
         // The connection is usable again afterwards.
         QVERIFY(KalCompanyImport::insertCompanies(project, {company("Stein AG", "Maurer")}).ok);
-        QCOMPARE(companyCount(project), 2);
-        QVERIFY(project.closeProject());
+        QCOMPARE(m_fx.count("company"), 2);
     }
 
     void pendingEditsSurviveTheImport()
     {
-        KalProject project;
-        QVERIFY(project.newProject());
+        QVERIFY(m_fx.open());
+        KalProject &project = *m_fx.project();
         QVERIFY(KalCompanyImport::insertCompanies(project, {company("Roth GmbH", "Maler")}).ok);
         KalSqlTableModel *model = project.model("company");
         QVERIFY(model->setData(model->index(0, model->fieldIndex("city")), "Bonn"));
         QVERIFY(model->isDirty());
         QVERIFY(KalCompanyImport::insertCompanies(project, {company("Kaya", "Fliesen")}).ok);
-        QSqlQuery q(project.database());
-        QVERIFY(q.exec("SELECT city FROM company WHERE company = 'Roth GmbH'") && q.next());
-        QCOMPARE(q.value(0).toString(), QStringLiteral("Bonn"));
+        QCOMPARE(m_fx.value("SELECT city FROM company WHERE company = 'Roth GmbH'").toString(), QStringLiteral("Bonn"));
         QCOMPARE(model->rowCount(), 2);
-        QVERIFY(project.closeProject());
     }
 };
 
