@@ -15,8 +15,6 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSettings>
-#include <QSqlQuery>
-#include <QSqlRecord>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -33,29 +31,6 @@ const char *const kLogin = "mueller";
 KalCliRun cli(const QStringList &args)
 {
     return kalCli(args, kLogin);
-}
-
-// Every column of one defect, read from the saved file.
-QVariantMap defectRow(const QString &file, qint64 id)
-{
-    QVariantMap row;
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "ROWREAD");
-        db.setDatabaseName(file);
-        db.setConnectOptions("QSQLITE_OPEN_READONLY");
-        if (db.open()) {
-            QSqlQuery q(db);
-            q.prepare("SELECT * FROM defect WHERE id = :id");
-            q.bindValue(":id", id);
-            if (q.exec() && q.next()) {
-                const QSqlRecord rec = q.record();
-                for (int i = 0; i < rec.count(); ++i)
-                    row.insert(rec.fieldName(i), rec.value(i));
-            }
-        }
-    }
-    QSqlDatabase::removeDatabase("ROWREAD");
-    return row;
 }
 
 } // namespace
@@ -359,8 +334,10 @@ private slots:
         QCOMPARE(run.code, 0);
         QCOMPARE(run.text().trimmed().toLongLong(), listId);
 
-        const QVariantMap fromList = defectRow(path("list.pwp"), listId);
-        const QVariantMap fromCli = defectRow(path("cli.pwp"), listId);
+        const QVariantMap fromList =
+            row(path("list.pwp"), QStringLiteral("SELECT * FROM defect WHERE id = %1").arg(listId));
+        const QVariantMap fromCli =
+            row(path("cli.pwp"), QStringLiteral("SELECT * FROM defect WHERE id = %1").arg(listId));
         QCOMPARE(fromList.value("number").toString(), number);
         QCOMPARE(fromList.value("user_id").toString(), author);
         QCOMPARE(fromCli.keys(), fromList.keys());

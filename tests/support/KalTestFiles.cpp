@@ -11,6 +11,7 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QSqlRecord>
 #include <QVariant>
 #include <QVariantMap>
 
@@ -64,6 +65,19 @@ QString scalar(const QString &file, const QString &sql)
         if (q.exec(sql) && q.next())
             return q.value(0).toString();
         return QString();
+    });
+}
+
+QVariantMap row(const QString &file, const QString &sql)
+{
+    return withReadOnly(file, [&](QSqlDatabase &db) {
+        QVariantMap values;
+        QSqlQuery q(db);
+        if (q.exec(sql) && q.next()) {
+            for (int i = 0; i < q.record().count(); ++i)
+                values.insert(q.record().fieldName(i), q.value(i));
+        }
+        return values;
     });
 }
 

@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <QVariantMap>
 
 // Project files for tests, made through the real lifecycle.
 namespace KalTestFiles {
@@ -14,6 +15,8 @@ bool createProject(const QString &path, int defects = 0);
 // Reads the file itself, read-only.
 int countRows(const QString &file, const QString &table);
 QString scalar(const QString &file, const QString &sql);
+// Every column of the first row the query gives, empty when none.
+QVariantMap row(const QString &file, const QString &sql);
 QString integrity(const QString &file);
 bool execute(const QString &file, const QStringList &statements);
 
