@@ -5,6 +5,8 @@
 #include "core/project/KalSqlTableModel.h"
 
 #include <QDate>
+#include <QDebug>
+#include <QFile>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -19,6 +21,16 @@ KalCompanyRecord company(const QString &name, const QString &trade, const QStrin
     record.setValue(KalCompanyRecord::Type, trade);
     record.setValue(KalCompanyRecord::City, city);
     return record;
+}
+
+QStringList describe(const KalCompanyRecord &record)
+{
+    QStringList parts;
+    for (int field = 0; field < KalCompanyRecord::FieldCount; ++field) {
+        if (!record.value(field).isEmpty())
+            parts << KalCompanyRecord::columnName(field) + '=' + record.value(field);
+    }
+    return parts;
 }
 
 bool createDefectProject(const QString &path)
@@ -157,6 +169,28 @@ QList<QStringList> parseCsv(const QByteArray &csv)
         rows << row;
     }
     return rows;
+}
+
+QByteArray exportDefects(const QString &project, KalDefectCsv::Columns columns, const KalCompanyFormat &format)
+{
+    QByteArray csv;
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("csvtest"));
+        db.setDatabaseName(project);
+        db.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY"));
+        QString error;
+        if (db.open() && !KalDefectCsv::fromDatabase(db, columns, format, &csv, &error))
+            qWarning() << error;
+        db.close();
+    }
+    QSqlDatabase::removeDatabase(QStringLiteral("csvtest"));
+    return csv;
+}
+
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 } // namespace CompanyTestData

@@ -11,6 +11,7 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QSqlRecord>
 #include <QVariant>
 #include <QVariantMap>
 
@@ -67,6 +68,19 @@ QString scalar(const QString &file, const QString &sql)
     });
 }
 
+QVariantMap row(const QString &file, const QString &sql)
+{
+    return withReadOnly(file, [&](QSqlDatabase &db) {
+        QVariantMap values;
+        QSqlQuery q(db);
+        if (q.exec(sql) && q.next()) {
+            for (int i = 0; i < q.record().count(); ++i)
+                values.insert(q.record().fieldName(i), q.value(i));
+        }
+        return values;
+    });
+}
+
 QString integrity(const QString &file)
 {
     return withReadOnly(file, [&](QSqlDatabase &db) {
@@ -110,6 +124,12 @@ QByteArray fileHash(const QString &path)
     QCryptographicHash hash(QCryptographicHash::Sha256);
     hash.addData(&f);
     return hash.result().toHex();
+}
+
+bool writeFile(const QString &path, const QByteArray &bytes)
+{
+    QFile file(path);
+    return file.open(QIODevice::WriteOnly | QIODevice::Truncate) && file.write(bytes) == bytes.size();
 }
 
 QStringList folderState(const QString &folder)

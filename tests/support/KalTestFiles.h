@@ -3,6 +3,7 @@
 #include <QByteArray>
 #include <QString>
 #include <QStringList>
+#include <QVariantMap>
 
 // Project files for tests, made through the real lifecycle.
 namespace KalTestFiles {
@@ -14,9 +15,13 @@ bool createProject(const QString &path, int defects = 0);
 // Reads the file itself, read-only.
 int countRows(const QString &file, const QString &table);
 QString scalar(const QString &file, const QString &sql);
+// Every column of the first row the query gives, empty when none.
+QVariantMap row(const QString &file, const QString &sql);
 QString integrity(const QString &file);
 bool execute(const QString &file, const QStringList &statements);
 
+// Replaces the file's content; false when it cannot be written in full.
+bool writeFile(const QString &path, const QByteArray &bytes);
 QByteArray fileHash(const QString &path);
 // Names of the files in a folder, sorted, with size and modification time:
 // equal listings mean nothing on disk changed.

@@ -3,6 +3,7 @@
 // that can still be read. (Files that cannot are refused through
 // pellwick-cli in tst_cliimport.)
 #include "core/import/KalAddressFile.h"
+#include "support/KalCompanyTestData.h"
 #include "support/KalTestSettings.h"
 
 #include <QSettings>
@@ -10,6 +11,7 @@
 #include <QtTest>
 
 using R = KalCompanyRecord;
+using CompanyTestData::describe;
 
 namespace {
 
@@ -33,16 +35,6 @@ QStringList mappingOf(const KalAddressFile &file)
                           (field == KalAddressFile::FullName ? QStringLiteral("fullname") : R::columnName(field));
     }
     return result;
-}
-
-QStringList describe(const KalCompanyRecord &record)
-{
-    QStringList parts;
-    for (int field = 0; field < R::FieldCount; ++field) {
-        if (!record.value(field).isEmpty())
-            parts << R::columnName(field) + '=' + record.value(field);
-    }
-    return parts;
 }
 
 // A file with the captions and one row: `values` as "caption=value", or
@@ -202,20 +194,6 @@ private slots:
                    .toUtf8()
             << QString("Empresa=company | Teléfono=telephone | Teléfono móvil=mobile | Dirección=street | "
                        "Código postal=plz | Ciudad=city | Correo electrónico=email");
-        QTest::newRow("hand-made spreadsheet")
-            << QString(
-                   "Firma;Gewerk;Straße;PLZ;Ort;Telefon;Fax;Mobil;E-Mail\nRoth;Maler;Weg 1;53111;Bonn;1;2;3;a@b.de\n")
-                   .toUtf8()
-            << QString("Firma=company | Gewerk=type | Straße=street | PLZ=plz | Ort=city | Telefon=telephone | "
-                       "Fax=telefax | Mobil=mobile | E-Mail=email");
-        QTest::newRow("spreadsheet, first name beside name")
-            << QByteArray("Vorname;Name;Strasse;Hausnummer\nKarl;Berg;Lindenweg;7\n")
-            << QString("Vorname=firstname | Name=lastname | Strasse=street | Hausnummer=street");
-        QTest::newRow("no caption row")
-            << QByteArray("Roth GmbH;Hauptstr. 12;53111;Bonn;0228 123456;0171 2345678;info@roth.de\n"
-                          "Kaya Fliesen;Am Markt 3a;50667;K\xC3\xB6ln;0221 98765;0160 111222;kaya@example.org\n")
-            << QString("Spalte 1=company | Spalte 2=street | Spalte 3=plz | Spalte 4=city | Spalte 5=telephone | "
-                       "Spalte 6=mobile | Spalte 7=email");
     }
 
     void columnsOfLayouts()
@@ -341,8 +319,6 @@ private slots:
                                                         << QStringList{"company=Aä GmbH", "city=Trier"} << 0;
         QTest::newRow("UTF-16 big-endian without mark") << QTextCodec::codecForName("UTF-16BE")->fromUnicode(text)
                                                         << QStringList{"company=Aä GmbH", "city=Trier"} << 0;
-        QTest::newRow("sep= line") << QByteArray("sep=|\nFirma|Ort\nA;B GmbH|Trier\n")
-                                   << QStringList{"company=A;B GmbH", "city=Trier"} << 0;
         QTest::newRow("more fields than captions")
             << QByteArray("Firma;Ort\nRoth;Bonn;Hauptstr. 1\n") << QStringList{"company=Roth", "city=Bonn"} << 1;
     }

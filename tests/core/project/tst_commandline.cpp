@@ -23,7 +23,6 @@ private slots:
     void emptyRestartKeyOpensNothing();
 
 private:
-    QString existing(const QString &name) const;
     QTemporaryDir m_dir;
 };
 
@@ -35,11 +34,6 @@ void TestCommandLine::initTestCase()
         QFile f(m_dir.filePath(QString::fromLatin1(name)));
         QVERIFY(f.open(QIODevice::WriteOnly));
     }
-}
-
-QString TestCommandLine::existing(const QString &name) const
-{
-    return m_dir.filePath(name);
 }
 
 void TestCommandLine::parse_data()
@@ -128,8 +122,8 @@ void TestCommandLine::connectModeProblems()
     QFETCH(QString, journal);
     QFETCH(QStringList, problems);
 
-    const QString p = project.isEmpty() ? QString() : existing(project);
-    const QString j = journal.isEmpty() ? QString() : existing(journal);
+    const QString p = project.isEmpty() ? QString() : m_dir.filePath(project);
+    const QString j = journal.isEmpty() ? QString() : m_dir.filePath(journal);
     QStringList args{"pellwick", "-connectmode", mode};
     args << "-file" << p << "-sitejournalfile" << j;
     const KalCommandLine cl = KalCommandLine::parse(args);
@@ -157,13 +151,13 @@ void TestCommandLine::restartKeyWinsAndIsConsumed()
 {
     {
         QSettings s;
-        s.setValue(KalCommandLine::reopenKey(), existing("a.pwp"));
+        s.setValue(KalCommandLine::reopenKey(), m_dir.filePath("a.pwp"));
     }
-    const QStringList args{"pellwick",         "-connectmode",   "102", "-file", existing("b.sjd"),
-                           "-sitejournalfile", existing("b.sjd")};
+    const QStringList args{"pellwick",         "-connectmode",         "102", "-file", m_dir.filePath("b.sjd"),
+                           "-sitejournalfile", m_dir.filePath("b.sjd")};
     const KalCommandLine first = KalCommandLine::forStartup(args);
     QCOMPARE(first.kind, KalCommandLine::OpenFile);
-    QCOMPARE(first.projectFile, existing("a.pwp"));
+    QCOMPARE(first.projectFile, m_dir.filePath("a.pwp"));
     QVERIFY(first.fromRestart);
     QVERIFY(!QSettings().contains(KalCommandLine::reopenKey()));
 
@@ -176,7 +170,7 @@ void TestCommandLine::restartKeyWinsAndIsConsumed()
 void TestCommandLine::emptyRestartKeyOpensNothing()
 {
     QSettings().setValue(KalCommandLine::reopenKey(), QString());
-    const KalCommandLine cl = KalCommandLine::forStartup({"pellwick", existing("a.pwp")});
+    const KalCommandLine cl = KalCommandLine::forStartup({"pellwick", m_dir.filePath("a.pwp")});
     QCOMPARE(cl.kind, KalCommandLine::Nothing);
     QVERIFY(cl.fromRestart);
     QVERIFY(!QSettings().contains(KalCommandLine::reopenKey()));

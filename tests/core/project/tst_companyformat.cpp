@@ -114,12 +114,6 @@ private slots:
         QCOMPARE(format.text(company(emptyColumns), separator), expected);
     }
 
-    void sampleWithFactorySettings()
-    {
-        QCOMPARE(F::factoryDefaults().text(F::sampleCompany(), F::gridSeparator()),
-                 QStringLiteral("Mustermann & Söhne  (Architekt)"));
-    }
-
     void unusableStoredValues_data()
     {
         QTest::addColumn<QString>("key");

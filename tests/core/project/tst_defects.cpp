@@ -6,6 +6,7 @@
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
 #include "support/KalScriptedPrompt.h"
+#include "support/KalTestProject.h"
 #include "support/KalTestSettings.h"
 
 #include <QSettings>
@@ -18,15 +19,11 @@ class TstDefects : public QObject
 
 private:
     KalScriptedPrompt *m_prompt = nullptr;
-    std::unique_ptr<KalProject> m_project;
+    KalTestProject m_fx;
+    KalProject *m_project = nullptr;
 
-    KalSqlTableModel *model(const char *table) const { return m_project->model(QLatin1String(table)); }
-
-    QVariant scalar(const QString &sql)
-    {
-        QSqlQuery q(m_project->database());
-        return q.exec(sql) && q.next() ? q.value(0) : QVariant();
-    }
+    KalSqlTableModel *model(const char *table) const { return m_fx.model(QLatin1String(table)); }
+    QVariant scalar(const QString &sql) { return m_fx.value(sql); }
 
     qint64 company(const QString &name) { return KalCompanies(*m_project).add({{QStringLiteral("company"), name}}); }
 
@@ -42,42 +39,11 @@ private slots:
     void init()
     {
         m_prompt->clear();
-        m_project = std::make_unique<KalProject>();
-        QVERIFY(m_project->newProject());
+        QVERIFY(m_fx.open());
+        m_project = m_fx.project();
     }
 
-    void cleanup()
-    {
-        m_project->closeProject();
-        m_project.reset();
-    }
-
-    void removedDefectTakesItsPlanItemsAlong_data()
-    {
-        QTest::addColumn<QString>("table");
-        QTest::newRow("marker") << "marker";
-        QTest::newRow("text") << "marker_text";
-    }
-
-    void removedDefectTakesItsPlanItemsAlong()
-    {
-        QFETCH(QString, table);
-        const qint64 doomed = KalDefects(*m_project).add();
-        const qint64 kept = KalDefects(*m_project).add();
-        QSqlQuery q(m_project->database());
-        for (qint64 defectId : {doomed, doomed, kept})
-            QVERIFY(q.exec(
-                QStringLiteral("INSERT INTO %1 (plan_info_id, defect_id) VALUES (1, %2)").arg(table).arg(defectId)));
-        QVERIFY(model(table.toLatin1().constData())->select());
-
-        QVERIFY(model("defect")->removeRowsById({doomed}));
-        QCOMPARE(scalar(QStringLiteral("SELECT COUNT(*) FROM %1 WHERE defect_id = %2").arg(table).arg(doomed)).toInt(),
-                 0);
-        QCOMPARE(scalar(QStringLiteral("SELECT COUNT(*) FROM %1 WHERE defect_id = %2").arg(table).arg(kept)).toInt(),
-                 1);
-        // The plan editor's model no longer shows them.
-        QCOMPARE(model(table.toLatin1().constData())->rowCount(), 1);
-    }
+    void cleanup() { m_fx.close(); }
 
     void authorInitials_data()
     {
@@ -115,23 +81,16 @@ private slots:
         QTest::addColumn<QString>("flag"); // empty: the table has none
         QTest::addColumn<bool>("marked");
 
-        QTest::newRow("company name") << "company"
-                                      << "company" << QVariant("Neu GmbH") << "modified" << true;
-        QTest::newRow("company unchanged") << "company"
-                                           << "company" << QVariant("Alt GmbH") << "modified" << false;
-        QTest::newRow("defect room") << "defect"
-                                     << "roomname" << QVariant("Bad") << "site_journal_data_modified" << true;
-        QTest::newRow("defect date") << "defect"
-                                     << "correction_date" << QVariant(QDate(2026, 5, 4)) << "site_journal_data_modified"
-                                     << true;
-        QTest::newRow("defect same date as text")
-            << "defect"
-            << "creation_date" << QVariant(QDate(2026, 1, 2).toString(Qt::ISODate)) << "site_journal_data_modified"
-            << false;
-        QTest::newRow("project name") << "kal"
-                                      << "projectname" << QVariant("Rathaus") << "project_data_modified" << true;
-        QTest::newRow("status has no flag") << "status"
-                                            << "status" << QVariant("Erledigt?") << "" << true;
+        auto row = [](const char *name, const char *table, const char *field, const QVariant &value, const char *flag,
+                      bool marked) { QTest::newRow(name) << table << field << value << flag << marked; };
+        const char *journalFlag = "site_journal_data_modified";
+        row("company name", "company", "company", "Neu GmbH", "modified", true);
+        row("company unchanged", "company", "company", "Alt GmbH", "modified", false);
+        row("defect room", "defect", "roomname", "Bad", journalFlag, true);
+        row("defect date", "defect", "correction_date", QDate(2026, 5, 4), journalFlag, true);
+        row("defect same date as text", "defect", "creation_date", "2026-01-02", journalFlag, false);
+        row("project name", "kal", "projectname", "Rathaus", "project_data_modified", true);
+        row("status has no flag", "status", "status", "Erledigt?", "", true);
     }
 
     void userEditMarksTheRow()
@@ -167,13 +126,9 @@ private slots:
     void newCompaniesFollowTheLast()
     {
         QFETCH(QString, way);
-        QVERIFY(m_project->beginTransaction());
-        QSqlQuery q(m_project->database());
-        QVERIFY(q.exec("INSERT INTO company (id, type, firstname, lastname, company, street, plz, city, telephone, "
-                       "telefax, mobile, email, pos, modified) VALUES (40, '', '', '', 'Alt', '', '', '', '', '', "
-                       "'', '', 7, 1)"));
-        QVERIFY(m_project->commitTransaction());
+        QVERIFY(m_fx.addCompany("Alt", "", {{"id", 40}, {"pos", 7}, {"modified", 1}}) == 40);
         QVERIFY(model("company")->select());
+        QSqlQuery q(m_project->database());
 
         KalCompanies companies(*m_project);
         const QVariantMap texts{{QStringLiteral("company"), QStringLiteral("Neu")}};

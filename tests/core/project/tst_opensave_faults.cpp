@@ -5,8 +5,9 @@
 #include "core/project/KalEnvironment.h"
 #include "core/project/KalFileOps.h"
 #include "core/project/KalProject.h"
-#include "core/project/KalSettings.h"
 #include "core/project/KalSqlTableModel.h"
+#include "support/KalCliRun.h"
+#include "support/KalHolderProcess.h"
 #include "support/KalScriptedPrompt.h"
 #include "support/KalTestFiles.h"
 #include "support/KalTestSettings.h"
@@ -27,44 +28,6 @@
 using namespace KalTestFiles;
 
 namespace {
-QProcessEnvironment instanceEnvironment(const QString &user, const QString &computer)
-{
-    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-    env.insert("USERNAME", user);
-    env.insert("COMPUTERNAME", computer);
-    return env;
-}
-
-// A second program instance (kal_test_holder) holding a project open.
-struct Instance
-{
-    QProcess process;
-
-    void start(const QString &file, const QString &user = "alice", const QString &computer = "PC-17",
-               const QString &barrier = QString())
-    {
-        QProcessEnvironment env = instanceEnvironment(user, computer);
-        if (!barrier.isEmpty())
-            env.insert("PELLWICK_TEST_COPY_BARRIER", barrier);
-        process.setProcessEnvironment(env);
-        process.start(KalTestSettings::testBinDir() + "/kal_test_holder", {"hold", file});
-    }
-    // True once the instance holds the project; false when it gave up.
-    bool ready()
-    {
-        while (process.waitForReadyRead(30000) || process.canReadLine())
-            while (process.canReadLine())
-                if (process.readLine().startsWith("ready"))
-                    return true;
-        return false;
-    }
-    ~Instance()
-    {
-        process.kill();
-        process.waitForFinished(5000);
-    }
-};
-
 // A small tmpfs, unmounted when the test ends however it ends.
 class SmallVolume
 {
@@ -96,13 +59,6 @@ private:
     QString m_mountPoint;
     bool m_mounted = false;
 };
-
-void writeFile(const QString &path, const QByteArray &bytes)
-{
-    QFile file(path);
-    file.open(QIODevice::WriteOnly | QIODevice::Truncate);
-    file.write(bytes);
-}
 
 // What a crashed run of this program leaves beside `file`: a working copy
 // with one unsaved defect (id 77) and the user file naming erika/BAUBUERO.
@@ -184,18 +140,17 @@ private slots:
         QVERIFY(createProject(file, 2));
         const QString barrier = path("barrier");
         QDir().mkpath(barrier);
-        Instance first, second;
-        first.start(file, "alice", "PC-17", barrier);
-        second.start(file, "bob", "PC-18", barrier);
+        KalHolderProcess first("hold", file, "alice", "PC-17", -1, barrier);
+        KalHolderProcess second("hold", file, "bob", "PC-18", -1, barrier);
         QTRY_COMPARE_WITH_TIMEOUT(QDir(barrier).entryList(QDir::Files).size(), 2, 30000);
         writeFile(barrier + "/go", "");
 
-        const bool firstWon = first.ready();
-        Instance &loser = firstWon ? second : first;
-        QVERIFY(firstWon || second.ready());
-        QVERIFY(loser.process.state() == QProcess::NotRunning || loser.process.waitForFinished(30000));
-        QCOMPARE(loser.process.exitCode(), 1);
-        const QString said = QString::fromUtf8(loser.process.readAllStandardError());
+        const bool firstWon = first.waitFor("ready") >= 0;
+        KalHolderProcess &loser = firstWon ? second : first;
+        QVERIFY(firstWon || second.waitFor("ready") >= 0);
+        QVERIFY(loser.process().state() == QProcess::NotRunning || loser.process().waitForFinished(30000));
+        QCOMPARE(loser.process().exitCode(), 1);
+        const QString said = loser.errors();
         QVERIFY2(said.startsWith("Datenbank in Bearbeitung: "), qPrintable(said));
         QCOMPARE(QDir(m_dir->path()).entryList({"*.part*"}, QDir::Files), QStringList());
 
@@ -236,9 +191,8 @@ private slots:
         QFETCH(bool, targetFileExists);
         const QString target = path("belegt.pwp");
         QVERIFY(createProject(target, 3));
-        Instance holder;
-        holder.start(target);
-        QVERIFY(holder.ready());
+        KalHolderProcess holder("hold", target);
+        QVERIFY(holder.waitFor("ready") >= 0);
         if (!targetFileExists)
             QVERIFY(QFile::remove(target));
         const QStringList before = folderState(m_dir->path()).filter("belegt");
@@ -293,18 +247,43 @@ private slots:
     {
         const QString target = path("belegt.pwp");
         QVERIFY(createProject(target, 1));
-        Instance holder;
-        holder.start(target);
-        QVERIFY(holder.ready());
+        KalHolderProcess holder("hold", target);
+        QVERIFY(holder.waitFor("ready") >= 0);
         QVERIFY(QFile::remove(target));
         const QStringList before = folderState(m_dir->path());
-        QProcess cli;
-        cli.setProcessEnvironment(instanceEnvironment("erika", "BAUBUERO"));
-        cli.start(KalTestSettings::binDir() + "/pellwick-cli", {"new", target});
-        QVERIFY(cli.waitForFinished(30000));
-        QVERIFY(cli.exitCode() != 0);
-        QVERIFY(QString::fromUtf8(cli.readAllStandardError()).contains("Datenbank in Bearbeitung"));
+        const KalCliRun cli = kalCli({"new", target});
+        QVERIFY(cli.code > 0);
+        QVERIFY(cli.err.contains("Datenbank in Bearbeitung"));
         QCOMPARE(folderState(m_dir->path()), before);
+    }
+
+    // The volume reports plenty of room: the write itself must fail.
+    void fullDiskDuringSave()
+    {
+        SmallVolume volume(path("klein"), "600k");
+        if (!volume.mounted())
+            QSKIP("needs root to mount a small file system");
+        const QString file = path("klein/p.pwp");
+        QVERIFY(createProject(file, 1));
+        KalEnvironment::setVolumeInfoFunction([](const QString &) {
+            return KalEnvironment::VolumeInfo{true, true, qint64(1) << 40, "tmpfs"};
+        });
+        KalProject project;
+        QVERIFY(project.openProject(file));
+        QVERIFY(project.beginTransaction());
+        QSqlQuery q(project.database());
+        q.prepare("INSERT INTO filter_state (id, key, value) VALUES (:id, 'ballast', :v)");
+        for (int i = 1; i <= 4; ++i) {
+            q.bindValue(":id", i);
+            q.bindValue(":v", QString(60000, QChar('a' + i)));
+            q.exec();
+        }
+        project.commitTransaction();
+        const QByteArray before = fileHash(file);
+        QCOMPARE(project.saveProject(), int(KalProject::SaveFailed));
+        QCOMPARE(fileHash(file), before);
+        QCOMPARE(integrity(file), QStringLiteral("ok"));
+        QVERIFY(project.isOpen());
     }
 
     void leftoverWorkingCopyUnderFaults_data()
@@ -313,12 +292,12 @@ private slots:
         QTest::addColumn<bool>("opens");
         QTest::addColumn<QString>("title");
         QTest::addColumn<QString>("textStart");
-        QTest::newRow("disk full") << "full" << false << "Speicherplatz nicht ausreichend"
-                                   << "Auf dem Laufwerk ";
-        QTest::newRow("read-only folder") << "readonly" << false << "Dateifehler"
-                                          << "Sie haben keine Schreibrechte für die Datei";
-        QTest::newRow("not a database") << "garbage" << true << ""
-                                        << "";
+        auto row = [](const char *name, const char *fault, bool opens, const char *title, const char *text) {
+            QTest::newRow(name) << fault << opens << title << text;
+        };
+        row("disk full", "full", false, "Speicherplatz nicht ausreichend", "Auf dem Laufwerk ");
+        row("read-only folder", "readonly", false, "Dateifehler", "Sie haben keine Schreibrechte für die Datei");
+        row("not a database", "garbage", true, "", "");
     }
 
     // A crashed run's unsaved work is discarded only when it is somebody
@@ -387,20 +366,6 @@ private slots:
         QCOMPARE(integrity(file), QStringLiteral("ok"));
     }
 
-    void restoreTakesTheJournalAlong()
-    {
-        const QString file = path("p.pwp");
-        QVERIFY(createProject(file, 1));
-        QVERIFY(QFile::copy(file, path("p.pwp.bak")));
-        writeFile(file + "-journal", "zum beschaedigten Stand");
-        QString damagedName, error;
-        QCOMPARE(KalProject::restoreBackup(file, path("p.pwp.bak"), &damagedName, &error), int(KalProject::Restored));
-        QVERIFY(!QFileInfo::exists(file + "-journal"));
-        QFile moved(damagedName + "-journal");
-        QVERIFY(moved.open(QIODevice::ReadOnly));
-        QCOMPARE(moved.readAll(), QByteArray("zum beschaedigten Stand"));
-    }
-
     void backupsThatAreNoProject_data()
     {
         QTest::addColumn<QString>("kind");
@@ -433,16 +398,14 @@ private slots:
         QTest::addColumn<QString>("companion");
         QTest::addColumn<QString>("kind");
         QTest::addColumn<bool>("leftover");
-        QTest::newRow("user file is a pipe") << ".udf"
-                                             << "pipe" << false;
-        QTest::newRow("user file is a pipe, working copy left") << ".udf"
-                                                                << "pipe" << true;
-        QTest::newRow("working copy is a pipe") << ".workingcopy"
-                                                << "pipe" << false;
-        QTest::newRow("user file links to the project") << ".udf"
-                                                        << "link" << false;
-        QTest::newRow("working copy links to the project") << ".workingcopy"
-                                                           << "link" << false;
+        auto row = [](const char *name, const char *companion, const char *kind, bool leftover) {
+            QTest::newRow(name) << companion << kind << leftover;
+        };
+        row("user file is a pipe", ".udf", "pipe", false);
+        row("user file is a pipe, working copy left", ".udf", "pipe", true);
+        row("working copy is a pipe", ".workingcopy", "pipe", false);
+        row("user file links to the project", ".udf", "link", false);
+        row("working copy links to the project", ".workingcopy", "link", false);
     }
 
     // A pipe must not make opening wait forever; nothing is written through
@@ -576,36 +539,6 @@ private slots:
         QVERIFY(project.closeProject());
         QCOMPARE(countRows(target, "defect"), 3);
         QCOMPARE(integrity(target), QStringLiteral("ok"));
-    }
-
-    void rememberedSaveFolderIsAFolder_data()
-    {
-        QTest::addColumn<QString>("stored");
-        QTest::newRow("two paths joined below a project file") << "sa.pwp/ordner/proj";
-        QTest::newRow("a project file") << "sa.pwp";
-        QTest::newRow("a folder that was removed") << "weg/unterordner";
-    }
-
-    void rememberedSaveFolderIsAFolder()
-    {
-        QFETCH(QString, stored);
-        writeFile(path("sa.pwp"), "");
-        QSettings().setValue("FileDialogPaths/DBSavePath", path(stored));
-        QCOMPARE(KalSettings::filePathForDialog(KalSettings::ProjectSave), QDir::toNativeSeparators(m_dir->path()));
-        // Choosing a name below a file does not make that file the folder.
-        KalSettings::rememberFilePath(KalSettings::ProjectSave, path("sa.pwp/neu.pwp"), false);
-        QCOMPARE(KalSettings::filePathForDialog(KalSettings::ProjectSave), QDir::toNativeSeparators(m_dir->path()));
-    }
-
-    void recoveredStateCountsAsModified()
-    {
-        const QString file = path("absturz.pwp");
-        QVERIFY(createProject(file, 1));
-        QVERIFY(leaveCrashedWorkingCopy(file));
-        KalProject project;
-        QVERIFY(project.openProject(file));
-        QCOMPARE(m_prompt->titles(), QStringList{"Datei öffnen"});
-        QVERIFY(project.isModified());
     }
 };
 

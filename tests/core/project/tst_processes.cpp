@@ -2,6 +2,7 @@
 // opens the project and is killed with SIGKILL at random moments.
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
+#include "support/KalHolderProcess.h"
 #include "support/KalScriptedPrompt.h"
 #include "support/KalTestFiles.h"
 #include "support/KalTestSettings.h"
@@ -9,7 +10,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QProcess>
 #include <QRandomGenerator>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -17,73 +17,6 @@
 #include <memory>
 
 using namespace KalTestFiles;
-
-namespace {
-// The holder program with its stdout read line by line.
-class Holder
-{
-public:
-    Holder(const QString &mode, const QString &file, const QString &user, const QString &computer, int count = -1)
-    {
-        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
-        env.insert("USERNAME", user);
-        env.insert("COMPUTERNAME", computer);
-        env.insert("QT_QPA_PLATFORM", "offscreen");
-        m_process.setProcessEnvironment(env);
-        m_process.setProcessChannelMode(QProcess::SeparateChannels);
-        QStringList args{mode, file};
-        if (count > 0)
-            args << QString::number(count);
-        m_process.start(KalTestSettings::testBinDir() + "/kal_test_holder", args);
-    }
-
-    ~Holder() { kill(); }
-
-    // Waits for a line starting with `what`; returns its number or -1.
-    qint64 waitFor(const QString &what, int timeoutMs = 20000)
-    {
-        QElapsedTimer timer;
-        timer.start();
-        while (timer.elapsed() < timeoutMs) {
-            while (m_process.canReadLine()) {
-                const QString line = QString::fromUtf8(m_process.readLine()).trimmed();
-                record(line);
-                if (line.startsWith(what + ' '))
-                    return line.mid(what.size() + 1).toLongLong();
-            }
-            if (m_process.state() == QProcess::NotRunning && !m_process.canReadLine())
-                return -1;
-            m_process.waitForReadyRead(50);
-        }
-        return -1;
-    }
-
-    void kill()
-    {
-        if (m_process.state() != QProcess::NotRunning) {
-            m_process.kill(); // SIGKILL: no cleanup of any kind
-            m_process.waitForFinished(5000);
-        }
-        while (m_process.canReadLine())
-            record(QString::fromUtf8(m_process.readLine()).trimmed());
-        record(QString::fromUtf8(m_process.readAll()).trimmed());
-    }
-
-    qint64 last(const QString &what) const { return m_last.value(what, 0); }
-    QString errors() { return QString::fromUtf8(m_process.readAllStandardError()); }
-
-private:
-    void record(const QString &line)
-    {
-        const int space = line.indexOf(' ');
-        if (space > 0)
-            m_last.insert(line.left(space), line.mid(space + 1).toLongLong());
-    }
-
-    QProcess m_process;
-    QHash<QString, qint64> m_last;
-};
-} // namespace
 
 class TstProcesses : public QObject
 {
@@ -113,7 +46,7 @@ private slots:
     {
         const QString file = m_dir->filePath("belegt.pwp");
         QVERIFY(createProject(file, 3));
-        Holder holder("hold", file, "alice", "PC-17");
+        KalHolderProcess holder("hold", file, "alice", "PC-17");
         QVERIFY(holder.waitFor("ready") >= 0);
         QFile udf(file + ".udf");
         QVERIFY(udf.open(QIODevice::ReadOnly | QIODevice::Text));
@@ -136,7 +69,7 @@ private slots:
     {
         const QString file = m_dir->filePath("belegt.pwp");
         QVERIFY(createProject(file, 1));
-        Holder holder("hold", file, "alice", "PC-17");
+        KalHolderProcess holder("hold", file, "alice", "PC-17");
         QVERIFY(holder.waitFor("ready") >= 0);
         QVERIFY(QFile::remove(file + ".udf"));
         KalProject project;
@@ -148,34 +81,42 @@ private slots:
     {
         QTest::addColumn<QString>("user");
         QTest::addColumn<QString>("computer");
+        QTest::addColumn<bool>("withUdf");
         QTest::addColumn<bool>("recovered");
-        QTest::newRow("same user, same computer") << "erika"
-                                                  << "BAUBUERO" << true;
-        QTest::newRow("other user") << "max"
-                                    << "BAUBUERO" << false;
-        QTest::newRow("other computer") << "erika"
-                                        << "LAPTOP" << false;
+        auto row = [](const char *name, const char *user, const char *computer, bool withUdf, bool recovered) {
+            QTest::newRow(name) << user << computer << withUdf << recovered;
+        };
+        row("same user, same computer", "erika", "BAUBUERO", true, true);
+        row("other user", "max", "BAUBUERO", true, false);
+        row("other computer", "erika", "LAPTOP", true, false);
+        row("no user data file", "erika", "BAUBUERO", false, false);
     }
 
     void crashRecovery()
     {
         QFETCH(QString, user);
         QFETCH(QString, computer);
+        QFETCH(bool, withUdf);
         QFETCH(bool, recovered);
         const QString file = m_dir->filePath("absturz.pwp");
         QVERIFY(createProject(file, 2));
         {
-            Holder holder("edit", file, user, computer, 3);
+            KalHolderProcess holder("edit", file, user, computer, 3);
             QCOMPARE(holder.waitFor("committed"), qint64(1));
             QVERIFY(holder.waitFor("ready") >= 0);
             holder.kill();
         }
         QVERIFY(QFileInfo::exists(file + ".workingcopy"));
+        if (!withUdf)
+            QVERIFY(QFile::remove(file + ".udf"));
         KalProject project;
         QVERIFY(project.openProject(file));
         QCOMPARE(project.model("defect")->rowCount(), recovered ? 5 : 2);
+        QCOMPARE(project.isModified(), recovered); // the recovered state is not in the file yet
         if (recovered) {
             QCOMPARE(m_prompt->titles(), QStringList{"Datei öffnen"});
+            QVERIFY(m_prompt->texts().first().startsWith(
+                "Die letzte Bearbeitung der Mängel-Datei wurde nicht ordnungsgemäß abgeschlossen."));
         } else {
             QVERIFY(m_prompt->shown().isEmpty());
         }
@@ -198,7 +139,7 @@ private slots:
         QRandomGenerator random(seed);
         for (int round = 0; round < kills; ++round) {
             const int before = countRows(file, "defect");
-            Holder holder("saveloop", file, "erika", "BAUBUERO");
+            KalHolderProcess holder("saveloop", file, "erika", "BAUBUERO");
             const qint64 start = holder.waitFor("opened");
             QVERIFY2(start >= 0, qPrintable(holder.errors()));
             // Every committed edit of the killed run is there again.
@@ -240,7 +181,7 @@ private slots:
     {
         const QString file = m_dir->filePath("umkaempft.pwp");
         QVERIFY(createProject(file, 1));
-        Holder holder("saveloop", file, "alice", "PC-17");
+        KalHolderProcess holder("saveloop", file, "alice", "PC-17");
         QVERIFY(holder.waitFor("saved") >= 1);
         for (int attempt = 0; attempt < 25; ++attempt) {
             m_prompt->clear();
