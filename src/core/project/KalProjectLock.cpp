@@ -88,7 +88,8 @@ namespace {
 bool inWalMode(const QString &file)
 {
     QFile f(file);
-    if (!f.open(QIODevice::ReadOnly))
+    // Opening a pipe would wait for a writer forever.
+    if (!KalFileOps::isRegularFile(file) || !f.open(QIODevice::ReadOnly))
         return false;
     const QByteArray header = f.read(20);
     return header.size() == 20 && (header.at(18) == 2 || header.at(19) == 2);
