@@ -3,6 +3,7 @@
 #include "cli/KalCli.h"
 #include "core/project/KalDatabaseSchema.h"
 #include "core/project/KalProject.h"
+#include "core/project/KalProjectLock.h"
 #include "core/project/KalPrompt.h"
 #include "core/project/KalSettings.h"
 
@@ -25,15 +26,6 @@ bool noOptions(const QStringList &options, int *code)
         return true;
     *code = usageError(QStringLiteral("unknown argument '%1'").arg(options.first()));
     return false;
-}
-
-QString integrityOf(const QString &file)
-{
-    QString result;
-    kalCliReadOnly(file, [&](QSqlDatabase &db) {
-        result = db.isOpen() ? KalProject::checkIntegrity(db.connectionName()) : db.lastError().text();
-    });
-    return result;
 }
 
 struct FileInfo
@@ -75,17 +67,7 @@ FileInfo readInfo(const QString &file)
 
 void kalCliReadOnly(const QString &file, const std::function<void(QSqlDatabase &db)> &read)
 {
-    const QString connection = QStringLiteral("CLIREADONLY");
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), connection);
-        db.setDatabaseName(file);
-        db.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=500"));
-        if (db.open())
-            KalDatabaseSchema::applySafetyPragmas(db);
-        read(db);
-        db.close();
-    }
-    QSqlDatabase::removeDatabase(connection);
+    KalProjectLock::readFile(QStringLiteral("CLIREADONLY"), file, read);
 }
 
 int kalCliNew(const QString &file, const QStringList &options)
@@ -143,13 +125,14 @@ int kalCliCheck(const QString &file, const QStringList &options)
         return code;
     if (fileMissing(file))
         return Failed;
-    const QString result = integrityOf(file);
+    // The rule opening applies, so that "ok" means opening would accept it.
+    const QString result = KalProject::intactVerdict(file);
     out(QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(file), result));
     const int slotCount = qMax(8, KalSettings::numberOfBackups());
     for (int slot = 0; slot < slotCount; ++slot) {
         const QString backup = KalProject::backupFileName(file, slot);
         if (QFileInfo::exists(backup))
-            out(QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(backup), integrityOf(backup)));
+            out(QStringLiteral("%1: %2").arg(QDir::toNativeSeparators(backup), KalProject::intactVerdict(backup)));
     }
     return result == QLatin1String("ok") ? Success : Failed;
 }

@@ -19,9 +19,9 @@ int kalCliCheck(const QString &file, const QStringList &options);
 // "vacuum": compacts the project and saves it.
 int kalCliVacuum(const QString &file, const QStringList &options);
 
-// Runs `read` on a read-only connection to `file` (closed when it returns;
-// check isOpen()): info, check and export never leave a working copy or
-// change a byte.
+// Runs `read` on a connection that shows every committed row of `file`
+// (closed when it returns; check isOpen()): info, check and export never
+// create, change or remove a file in the project's folder.
 void kalCliReadOnly(const QString &file, const std::function<void(QSqlDatabase &db)> &read);
 // Opens through the whole lifecycle; false (reason shown) when it cannot be
 // opened or is write-protected and so cannot take changes.

@@ -85,7 +85,7 @@ bool replaceFile(const QString &from, const QString &to)
 #endif
 }
 
-bool copyFile(const QString &from, const QString &to)
+bool copyFile(const QString &from, const QString &to, qint64 maxBytes)
 {
     if (injectedFault(QStringLiteral("copy"), to))
         return false;
@@ -98,11 +98,12 @@ bool copyFile(const QString &from, const QString &to)
             in < 0 ? -1 : ::open(QFile::encodeName(to).constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
         struct stat st;
         if (in >= 0 && out >= 0 && ::fstat(in, &st) == 0) {
+            const qint64 size = maxBytes < 0 ? qint64(st.st_size) : qMin<qint64>(st.st_size, maxBytes);
             loff_t done = 0;
             bool failed = false;
-            while (done < st.st_size) {
+            while (done < size) {
                 const ssize_t n =
-                    ::copy_file_range(in, &done, out, nullptr, size_t(qMin<qint64>(st.st_size - done, 64 << 20)), 0);
+                    ::copy_file_range(in, &done, out, nullptr, size_t(qMin<qint64>(size - done, 64 << 20)), 0);
                 if (n <= 0) {
                     failed = true;
                     break;
@@ -137,8 +138,10 @@ bool copyFile(const QString &from, const QString &to)
     }
     QByteArray buffer;
     buffer.resize(1 << 20);
+    qint64 left = maxBytes < 0 ? source.size() : qMin(source.size(), maxBytes);
     for (;;) {
-        const qint64 n = source.read(buffer.data(), buffer.size());
+        const qint64 n = source.read(buffer.data(), qMin<qint64>(buffer.size(), left));
+        left -= qMax<qint64>(n, 0);
         if (n < 0 || (n > 0 && target.write(buffer.constData(), n) != n)) {
             target.close();
             target.remove();

@@ -14,8 +14,9 @@ bool replaceFile(const QString &from, const QString &to);
 // Makes `to` name the same file as `from`; falls back to a synced copy on
 // file systems without hard links.
 bool linkOrCopy(const QString &from, const QString &to);
-// Copies and syncs; removes a partial target on failure.
-bool copyFile(const QString &from, const QString &to);
+// Copies and syncs; removes a partial target on failure. With `maxBytes`
+// set, only the first `maxBytes` bytes are copied.
+bool copyFile(const QString &from, const QString &to, qint64 maxBytes = -1);
 // Removes a file and, for SQLite files, its rollback journal.
 bool removeDatabaseFile(const QString &path);
 bool processAlive(qint64 pid);

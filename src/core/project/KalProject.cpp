@@ -333,6 +333,8 @@ QString KalProject::checkIntegrity(const QString &connection)
             result += value.toString();
         }
     }
+    if (!anyRow && query.lastError().type() != QSqlError::NoError)
+        return query.lastError().databaseText();
     if (!anyRow || result.isEmpty()) {
         if (!anyRow)
             qCDebug(kalSqlLog, "integrity check returns nothing\n");
@@ -361,6 +363,44 @@ QString KalProject::backupFileName(const QString &projectPath, int slot)
     return QStringLiteral("%1.%2.bak").arg(projectPath).arg(slot);
 }
 
+QString KalProject::intactVerdict(const QString &file)
+{
+    // Only a project file that would pass opening counts: an empty file,
+    // another program's database or a pipe is no backup.
+    if (!KalFileOps::isRegularFile(file))
+        return tr("keine gewöhnliche Datei");
+    if (QFileInfo(file).size() == 0)
+        return tr("leere Datei");
+    QString verdict;
+    KalProjectLock::readFile(QString::fromLatin1(kProbeBackup), file, [&](QSqlDatabase &db) {
+        QSqlQuery tables(db);
+        if (!db.isOpen() || !tables.exec(QStringLiteral("SELECT name FROM sqlite_master WHERE type='table'"))) {
+            verdict = tr("keine lesbare Datenbank: %1")
+                          .arg((db.isOpen() ? tables.lastError() : db.lastError()).databaseText());
+            return;
+        }
+        tables.finish();
+        if (!KalDatabaseSchema::tableMap(db).contains(QStringLiteral("kal"))) {
+            verdict = tr("Tabelle KAL fehlt");
+            return;
+        }
+        if (KalDatabaseSchema::isFileVersionNewer(KalDatabaseSchema::fileVersion(db))) {
+            verdict = tr("mit einer neueren Programmversion erstellt");
+            return;
+        }
+        const QString integrity = checkIntegrity(db.connectionName());
+        if (integrity == QLatin1String("ok")) {
+            verdict = integrity;
+            return;
+        }
+        // One line per file: SQLite's findings without its section headings.
+        QStringList findings = integrity.split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+        findings.removeAll(QStringLiteral("*** in database main ***"));
+        verdict = tr("beschädigt: %1").arg(findings.join(QStringLiteral(" / ")));
+    });
+    return verdict;
+}
+
 QString KalProject::findNewestIntactBackup(const QString &path, int *count)
 {
     QSettings settings;
@@ -372,19 +412,7 @@ QString KalProject::findNewestIntactBackup(const QString &path, int *count)
         if (!QFileInfo::exists(backup))
             continue;
         ++found;
-        // Only a project file that would pass opening counts: an empty file,
-        // another program's database or a pipe is no backup.
-        QString result;
-        if (KalFileOps::isRegularFile(backup) && QFileInfo(backup).size() > 0) {
-            QSqlDatabase probe = KalProjectLock::addProbeConnection(QString::fromLatin1(kProbeBackup), backup, true);
-            if (probe.open()) {
-                KalDatabaseSchema::applySafetyPragmas(probe);
-                if (KalDatabaseSchema::tableMap(probe).contains(QStringLiteral("kal")) &&
-                    !KalDatabaseSchema::isFileVersionNewer(KalDatabaseSchema::fileVersion(probe)))
-                    result = checkIntegrity(QString::fromLatin1(kProbeBackup));
-            }
-        }
-        KalProjectLock::removeConnection(QString::fromLatin1(kProbeBackup));
+        const QString result = intactVerdict(backup);
         if (result == QLatin1String("ok")) {
             newest = backup;
             break;

@@ -81,6 +81,9 @@ public:
     // --- helpers that do not need an open project ---
     // "ok" when sound, otherwise the reason.
     static QString checkIntegrity(const QString &connectionName);
+    // "ok" for a file that opening would accept as sound (header, project
+    // table, version, quick check), otherwise the reason. Changes nothing on disk.
+    static QString intactVerdict(const QString &file);
     // Newest backup that passes the check, or empty; `count` = existing backup files.
     static QString findNewestIntactBackup(const QString &path, int *count);
     enum RestoreResult { Restored = 0, EmptyPath = 1, FileMissing = 2, RenameFailed = 3, CopyFailed = 4 };

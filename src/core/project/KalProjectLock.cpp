@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QSqlQuery>
 #include <QStringList>
+#include <QTemporaryDir>
 #include <QTextStream>
 
 namespace KalProjectLock {
@@ -80,6 +81,54 @@ QSqlDatabase addProbeConnection(const QString &name, const QString &file, bool r
         options += QStringLiteral(";QSQLITE_OPEN_READONLY");
     db.setConnectOptions(options);
     return db;
+}
+
+namespace {
+// Bytes 18 and 19 of the header are 2 for a file in WAL mode.
+bool inWalMode(const QString &file)
+{
+    QFile f(file);
+    // Opening a pipe would wait for a writer forever.
+    if (!KalFileOps::isRegularFile(file) || !f.open(QIODevice::ReadOnly))
+        return false;
+    const QByteArray header = f.read(20);
+    return header.size() == 20 && (header.at(18) == 2 || header.at(19) == 2);
+}
+} // namespace
+
+void readFile(const QString &name, const QString &file, const std::function<void(QSqlDatabase &db)> &read)
+{
+    // Even a read-only connection writes beside a file in WAL mode (it
+    // creates "-shm" and may leave "-wal"), and a journal beside a file
+    // asks to be rolled back. Such a file is read from a private copy in
+    // the temporary folder, its companions with it, where SQLite may fold
+    // them in. "immutable=1" would write nothing either, but it ignores the
+    // "-wal" file and so hides rows that were committed there.
+    const QStringList companions = {QStringLiteral("-wal"), QStringLiteral("-journal")};
+    bool privateCopy = inWalMode(file);
+    for (const QString &companion : companions)
+        privateCopy = privateCopy || QFileInfo::exists(file + companion);
+    QTemporaryDir folder;
+    QString source = file;
+    bool copied = true;
+    if (privateCopy) {
+        source = folder.filePath(QStringLiteral("copy.pwp"));
+        copied = folder.isValid() && KalFileOps::isRegularFile(file) && KalFileOps::copyFile(file, source);
+        for (const QString &companion : companions) {
+            if (copied && QFileInfo::exists(file + companion))
+                copied = KalFileOps::isRegularFile(file + companion) &&
+                         KalFileOps::copyFile(file + companion, source + companion);
+        }
+    }
+    if (!copied) // fails to open read-only, with SQLite's own reason
+        source = folder.filePath(QStringLiteral("unreadable.pwp"));
+    {
+        QSqlDatabase db = addProbeConnection(name, source, !privateCopy || !copied);
+        if (db.open())
+            KalDatabaseSchema::applySafetyPragmas(db);
+        read(db);
+    }
+    removeConnection(name);
 }
 
 void removeConnection(const QString &name)

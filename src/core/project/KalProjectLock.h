@@ -3,6 +3,7 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QString>
+#include <functional>
 
 // Who holds a project: the write test on a working copy, the message that
 // names the holder, and the probe connections used to find out.
@@ -41,6 +42,10 @@ QString privateName(const QString &path, const QString &kind);
 void removeStalePrivateFiles(const QString &path, const QString &kind);
 
 QSqlDatabase addProbeConnection(const QString &name, const QString &file, bool readOnly);
+// Runs `read` on a connection `name` that shows every committed row of
+// `file` and leaves its folder exactly as it was; the connection is removed
+// afterwards. `db` is not open when the file could not be opened.
+void readFile(const QString &name, const QString &file, const std::function<void(QSqlDatabase &db)> &read);
 void removeConnection(const QString &name);
 
 } // namespace KalProjectLock

@@ -10,6 +10,7 @@
 #include "core/project/KalProgress.h"
 #include "core/project/KalProjectLock.h"
 #include "core/project/KalPrompt.h"
+#include "core/project/KalSnapshot.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -30,6 +31,7 @@ struct KalOpenPlan
     bool madeWorkingCopy = false; // ours to remove when the attempt fails
     bool switched = false;        // the previous project is closed, the connection is this attempt's
     bool wroteUserData = false;
+    qint64 databaseBytes = -1; // what SQLite uses of the file; -1 when unknown
 };
 
 namespace {
@@ -173,7 +175,7 @@ bool leaveWriteAheadLog(const QSqlDatabase &probe)
 // Step 4: version, project tables and integrity of the file itself. Opened
 // for writing as SQLite needs it to roll back a journal that a crashed
 // writer left beside it; nothing else is written.
-bool probeProjectFile(const KalOpenPlan &plan, QString *integrity)
+bool probeProjectFile(KalOpenPlan &plan, QString *integrity)
 {
     const QString name = QStringLiteral("VERSIONTEST");
     QString failure;
@@ -196,6 +198,7 @@ bool probeProjectFile(const KalOpenPlan &plan, QString *integrity)
                              "erstellt wurde.");
             } else {
                 *integrity = KalProject::checkIntegrity(name);
+                plan.databaseBytes = KalSnapshot::databaseBytes(probe);
                 // A readable SQLite file without the master-data table is
                 // not a project; say so before a working copy is made of it.
                 const QMap<QString, QString> tables = KalDatabaseSchema::tableMap(probe);
@@ -273,13 +276,27 @@ Damaged handleDamagedFile(const KalOpenPlan &plan)
     return Damaged::Restart;
 }
 
+// A file far larger than its pages (a sparse hole, bytes appended by
+// another tool) would otherwise be copied and saved at its full size.
+void reportExcessBytes(const KalOpenPlan &plan)
+{
+    const qint64 size = QFileInfo(plan.file).size();
+    if (plan.databaseBytes <= 0 || size - plan.databaseBytes < qMax<qint64>(plan.databaseBytes, 1 << 20))
+        return;
+    KalPrompt::warning(
+        tr("Datei-Warnung"),
+        tr("Die Datei\n%1\nist %2 groß, enthält aber nur %3 Projektdaten. Der Rest der Datei gehört "
+           "nicht zum Projekt und wird beim nächsten Speichern nicht übernommen.")
+            .arg(native(plan.file), KalProject::sizeText(size), KalProject::sizeText(plan.databaseBytes)));
+}
+
 // Step 6: room for the working copy and, later, for saving.
 bool checkSpaceToOpen(const KalOpenPlan &plan)
 {
     const KalEnvironment::VolumeInfo volume = KalEnvironment::volumeInfo(plan.file);
     if (!volume.valid || !volume.ready || plan.recovered)
         return true;
-    const qint64 size = QFileInfo(plan.file).size();
+    const qint64 size = plan.databaseBytes > 0 ? plan.databaseBytes : QFileInfo(plan.file).size();
     const qint64 free = volume.bytesAvailable;
     if (free - size < 0) {
         reportNoSpaceToOpen(volume.name, size - free);
@@ -306,7 +323,7 @@ bool makeWorkingCopy(KalOpenPlan &plan)
         KalPrompt::critical(tr("Dateifehler"), tr("Die Working Copy Datei konnte nicht erstellt werden."));
         return false;
     };
-    if (!KalFileOps::copyFile(plan.file, partial))
+    if (!KalFileOps::copyFile(plan.file, partial, plan.databaseBytes))
         return failed();
     QFile::setPermissions(partial, QFile::permissions(partial) | QFile::WriteOwner | QFile::WriteUser |
                                        QFile::ReadOwner | QFile::ReadUser);
@@ -371,6 +388,7 @@ KalProject::OpenOutcome KalProject::openProjectStep(const QString &path, bool af
         if (damaged != Damaged::GoOn)
             return damaged == Damaged::Restart ? OpenRestart : OpenStopped;
     }
+    reportExcessBytes(plan);
     if (!checkSpaceToOpen(plan) || !makeWorkingCopy(plan) || !switchToWorkingCopy(plan))
         return OpenStopped;
     undo.dismiss();

@@ -31,7 +31,30 @@ QString message(sqlite3 *db)
 {
     return db ? QString::fromUtf8(sqlite3_errmsg(db)) : QStringLiteral("out of memory");
 }
+
+qint64 pragmaValue(sqlite3 *db, const char *pragma)
+{
+    sqlite3_stmt *stmt = nullptr;
+    qint64 value = -1;
+    if (sqlite3_prepare_v2(db, pragma, -1, &stmt, nullptr) == SQLITE_OK && sqlite3_step(stmt) == SQLITE_ROW)
+        value = sqlite3_column_int64(stmt, 0);
+    sqlite3_finalize(stmt);
+    return value;
+}
+
+qint64 databaseBytes(sqlite3 *db)
+{
+    const qint64 pages = pragmaValue(db, "PRAGMA main.page_count");
+    const qint64 pageSize = pragmaValue(db, "PRAGMA main.page_size");
+    return pages > 0 && pageSize > 0 ? pages * pageSize : -1;
+}
 } // namespace
+
+qint64 databaseBytes(const QSqlDatabase &db)
+{
+    sqlite3 *handle = handleOf(db);
+    return handle ? databaseBytes(handle) : -1;
+}
 
 namespace {
 // Copies the database file through the handle SQLite already has open.
@@ -51,6 +74,12 @@ bool copyThroughOpenHandle(sqlite3 *src, int sourceFd, const QString &target, bo
     sqlite3_int64 size = 0;
     if (file->pMethods->xFileSize(file, &size) != SQLITE_OK)
         return false;
+    // SQLite reads only the pages its header counts; whatever lies beyond
+    // (a sparse hole, another tool's leftovers) is no part of the project.
+    const qint64 pages = databaseBytes(src);
+    if (pages <= 0)
+        return false;
+    size = qMin<sqlite3_int64>(size, pages);
     *available = true;
     *copied = size;
 

@@ -13,6 +13,10 @@ namespace KalSnapshot {
 // SQLite's locks); it lets the kernel copy the file.
 bool write(const QSqlDatabase &source, const QString &target, QString *errorText, int sourceFd = -1);
 
+// Page count times page size of the open database: the bytes SQLite uses,
+// however large the file is. -1 when unknown.
+qint64 databaseBytes(const QSqlDatabase &db);
+
 // True while the connection has a transaction open (BEGIN without COMMIT).
 bool inTransaction(const QSqlDatabase &db);
 
