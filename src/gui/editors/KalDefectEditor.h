@@ -36,7 +36,7 @@ public:
     // Id carried by a combo entry; these mark the special entries.
     enum SpecialEntry { NewEntry = -1000, ClearPlanEntry = -1001 };
 
-public slots:
+private slots:
     void slotAccepted();
     void slotRejected();
     void slotImageEditorButtonClicked();

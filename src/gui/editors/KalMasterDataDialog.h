@@ -39,7 +39,7 @@ public:
 
     KalTableView *companyView() const;
 
-public slots:
+private slots:
     void actionSubmit();
     void actionRevert();
     void slotOkClicked();

@@ -39,7 +39,7 @@ public:
 
     KalTableView *tableView() const;
 
-public slots:
+private slots:
     void slotAddStatus();
     void slotColorEditor(const QModelIndex &index);
     void slotSaveSelectionBeforeSorting(int logicalIndex, Qt::SortOrder order);

@@ -43,7 +43,7 @@ public:
     // Column mapping of the preview: which company field a file column fills.
     void setColumnMapping(int column, int field);
 
-public slots:
+private slots:
     void slotImport();
     void slotCheckAll();
     void slotCheckNone();
