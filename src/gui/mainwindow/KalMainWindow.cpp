@@ -264,22 +264,22 @@ QAction *KalMainWindow::action(const char *name) const
 
 void KalMainWindow::createActions()
 {
-    for (const ActionSpec &spec : actionTable()) {
+    for (const ActionSpec &entry : actionTable()) {
         auto *a = new QAction(this);
-        a->setObjectName(QLatin1String(spec.name));
-        if (*spec.icon)
-            a->setIcon(resourceIcon(QString::fromUtf8(spec.icon)));
-        if (*spec.text) {
-            const QString text = tr(spec.text);
+        a->setObjectName(QLatin1String(entry.name));
+        if (*entry.icon)
+            a->setIcon(resourceIcon(QString::fromUtf8(entry.icon)));
+        if (*entry.text) {
+            const QString text = tr(entry.text);
             a->setText(text);
-            a->setToolTip(spec.toolTip ? tr(spec.toolTip)
-                                       : QString(text).replace(QLatin1Char('\n'), QLatin1Char(' ')).trimmed());
+            a->setToolTip(entry.toolTip ? tr(entry.toolTip)
+                                        : QString(text).replace(QLatin1Char('\n'), QLatin1Char(' ')).trimmed());
         }
-        if (!spec.shortcut.isEmpty())
-            a->setShortcut(spec.shortcut);
-        if (spec.slot)
-            connect(a, &QAction::triggered, this, spec.slot);
-        a->setEnabled(spec.enabled != ActionSpec::NotBuilt);
+        if (!entry.shortcut.isEmpty())
+            a->setShortcut(entry.shortcut);
+        if (entry.slot)
+            connect(a, &QAction::triggered, this, entry.slot);
+        a->setEnabled(entry.enabled != ActionSpec::NotBuilt);
         m_actions.insert(a->objectName(), a);
     }
     action("actionFileRecentPlaceholder")->setText(QStringLiteral("Placeholder"));
@@ -288,9 +288,9 @@ void KalMainWindow::createActions()
 
 void KalMainWindow::updateProjectActions(bool open)
 {
-    for (const ActionSpec &spec : actionTable()) {
-        if (spec.enabled == ActionSpec::WithProject)
-            action(spec.name)->setEnabled(open);
+    for (const ActionSpec &entry : actionTable()) {
+        if (entry.enabled == ActionSpec::WithProject)
+            action(entry.name)->setEnabled(open);
     }
 }
 
@@ -303,10 +303,10 @@ void KalMainWindow::createMenus()
                                  "QMenu::item:disabled { color: rgb(150,150,150); }"
                                  "QMenu::separator { height: 1px; background: rgb(210,210,210); margin: 3px 6px; }"));
 
-    for (const MenuSpec &spec : menuTable()) {
-        QMenu *menu = menuBar()->addMenu(tr(spec.title));
-        menu->setObjectName(QLatin1String(spec.name));
-        for (const char *name : spec.actions) {
+    for (const MenuSpec &entry : menuTable()) {
+        QMenu *menu = menuBar()->addMenu(tr(entry.title));
+        menu->setObjectName(QLatin1String(entry.name));
+        for (const char *name : entry.actions) {
             if (qstrcmp(name, "-") == 0) {
                 menu->addSeparator();
             } else if (qstrcmp(name, "menuFileRecent") == 0) {
