@@ -41,31 +41,31 @@ int KalPrompt::ask(const Message &message)
     return instance()->show(message);
 }
 
-void KalPrompt::information(const QString &title, const QString &text)
+namespace {
+// A message with only an OK button.
+void notify(KalPrompt::Icon icon, const QString &title, const QString &text)
 {
-    Message m;
-    m.icon = Information;
+    KalPrompt::Message m;
+    m.icon = icon;
     m.title = title;
     m.text = text;
-    ask(m);
+    KalPrompt::ask(m);
+}
+} // namespace
+
+void KalPrompt::information(const QString &title, const QString &text)
+{
+    notify(Information, title, text);
 }
 
 void KalPrompt::warning(const QString &title, const QString &text)
 {
-    Message m;
-    m.icon = Warning;
-    m.title = title;
-    m.text = text;
-    ask(m);
+    notify(Warning, title, text);
 }
 
 void KalPrompt::critical(const QString &title, const QString &text)
 {
-    Message m;
-    m.icon = Critical;
-    m.title = title;
-    m.text = text;
-    ask(m);
+    notify(Critical, title, text);
 }
 
 bool KalPrompt::yesNo(const QString &title, const QString &text)
