@@ -17,9 +17,16 @@ void KalScriptedPrompt::queueAnswerIndex(int index)
     m_answers.enqueue(QStringLiteral("#%1").arg(index));
 }
 
+void KalScriptedPrompt::queueCheckBox(bool checked)
+{
+    m_checkBoxes.enqueue(checked);
+}
+
 int KalScriptedPrompt::show(const Message &message)
 {
-    Shown s{message.icon, message.title, message.text, {}, 0, message.iconPath};
+    Shown s{message.icon, message.title, message.text, {}, 0, message.iconPath, message.checkBoxText};
+    if (!message.checkBoxText.isEmpty() && message.checkBoxChecked && !m_checkBoxes.isEmpty())
+        *message.checkBoxChecked = m_checkBoxes.dequeue();
     for (const Button &b : message.buttons)
         s.buttons << buttonText(b);
     int answer = 0;
@@ -42,7 +49,7 @@ int KalScriptedPrompt::show(const Message &message)
 
 void KalScriptedPrompt::notice(const QString &title, const QString &text, int)
 {
-    m_shown.append(Shown{Information, title, text, {}, 0, {}});
+    m_shown.append(Shown{Information, title, text, {}, 0, {}, {}});
 }
 
 QStringList KalScriptedPrompt::titles() const

@@ -19,6 +19,7 @@ public:
         QStringList buttons;
         int answer;
         QString iconPath;
+        QString checkBoxText;
     };
 
     static KalScriptedPrompt *install();
@@ -27,6 +28,9 @@ public:
     // (or whose role text matches). Unqueued questions get the safe answer.
     void queueAnswer(const QString &buttonText);
     void queueAnswerIndex(int index);
+    // State the next message with a returned check box closes with;
+    // unqueued, the box keeps its initial state.
+    void queueCheckBox(bool checked);
 
     int show(const Message &message) override;
     void notice(const QString &title, const QString &text, int milliseconds) override;
@@ -39,5 +43,6 @@ public:
 
 private:
     QQueue<QString> m_answers;
+    QQueue<bool> m_checkBoxes;
     QVector<Shown> m_shown;
 };

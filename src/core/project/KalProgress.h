@@ -15,6 +15,10 @@ public:
     // A message of the running operation is about to be shown: the indicator
     // must not cover it, and stays away until the operation has ended.
     virtual void yieldToMessage() {}
+    // Like begin(), with a way for the user to stop the operation; the
+    // operation polls wasCanceled() between steps.
+    virtual void beginCancelable(const QString &text) { begin(text); }
+    virtual bool wasCanceled() const { return false; }
 
     static KalProgress *instance();
     static void install(KalProgress *progress); // takes ownership

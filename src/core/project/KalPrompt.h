@@ -33,6 +33,10 @@ public:
         QString dontShowAgainKey;  // settings key for a "don't show again" box
         QString dontShowAgainText; // its text
         QString iconPath;          // own picture instead of the standard icon
+        // A check box whose state the caller reads back (not remembered):
+        // shown when the text is set; in: initial state, out: state on close.
+        QString checkBoxText;
+        bool *checkBoxChecked = nullptr;
     };
 
     virtual ~KalPrompt();

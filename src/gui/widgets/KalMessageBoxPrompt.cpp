@@ -105,7 +105,12 @@ int KalMessageBoxPrompt::show(const Message &message)
     box.setEscapeButton(made.value(qBound(0, escape, made.size() - 1)));
 
     QCheckBox *dontShow = nullptr;
-    if (!message.dontShowAgainKey.isEmpty()) {
+    QCheckBox *returned = nullptr;
+    if (!message.checkBoxText.isEmpty()) {
+        returned = new QCheckBox(message.checkBoxText);
+        returned->setChecked(message.checkBoxChecked && *message.checkBoxChecked);
+        box.setCheckBox(returned);
+    } else if (!message.dontShowAgainKey.isEmpty()) {
         dontShow =
             new QCheckBox(message.dontShowAgainText.isEmpty() ? dontShowAgainDefaultText() : message.dontShowAgainText);
         box.setCheckBox(dontShow);
@@ -117,6 +122,8 @@ int KalMessageBoxPrompt::show(const Message &message)
     if (answer < 0)
         answer = qBound(0, escape, made.size() - 1);
 
+    if (returned && message.checkBoxChecked)
+        *message.checkBoxChecked = returned->isChecked();
     if (dontShow && dontShow->isChecked()) {
         QSettings settings;
         settings.setValue(message.dontShowAgainKey, true);

@@ -52,6 +52,22 @@ void KalProgressDialog::begin(const QString &text)
     m_showTimer->start(showDelay());
 }
 
+void KalProgressDialog::beginCancelable(const QString &text)
+{
+    const bool outermost = m_depth == 0;
+    begin(text);
+    if (!outermost || !m_window)
+        return;
+    m_cancelable = true;
+    m_window->setCancelButtonText(tr("Abbrechen"));
+    connect(m_window, &QProgressDialog::canceled, this, [this] { m_canceled = true; });
+}
+
+bool KalProgressDialog::wasCanceled() const
+{
+    return m_canceled;
+}
+
 void KalProgressDialog::setProgress(qint64 done, qint64 total)
 {
     if (m_depth == 0 || !m_window)
@@ -89,6 +105,8 @@ void KalProgressDialog::end()
     if (!m_yielded)
         QApplication::restoreOverrideCursor();
     m_yielded = false;
+    m_cancelable = false;
+    m_canceled = false;
 }
 
 void KalProgressDialog::yieldToMessage()
@@ -113,9 +131,12 @@ void KalProgressDialog::showWindow()
 
 void KalProgressDialog::keepPainting()
 {
-    // Called from inside long work: paint, but never run the user's clicks.
+    // Called from inside long work: paint, but never run the user's clicks,
+    // except on the Cancel button of a window that is showing (it is modal,
+    // so no other window takes input meanwhile).
     if (m_lastPaint.elapsed() < 40 && isShowing())
         return;
     m_lastPaint.restart();
-    QApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    const bool acceptCancel = m_cancelable && isShowing();
+    QApplication::processEvents(acceptCancel ? QEventLoop::AllEvents : QEventLoop::ExcludeUserInputEvents);
 }

@@ -24,6 +24,8 @@ public:
     void setProgress(qint64 done, qint64 total) override;
     void end() override;
     void yieldToMessage() override;
+    void beginCancelable(const QString &text) override;
+    bool wasCanceled() const override;
 
     // Delay before the window shows, in milliseconds.
     static int showDelay() { return 300; }
@@ -37,6 +39,8 @@ private:
     int m_depth = 0;
     // A message was shown during the operation: no window, no wait cursor.
     bool m_yielded = false;
+    bool m_cancelable = false;
+    bool m_canceled = false;
     QString m_text;
     QElapsedTimer m_started;
     QElapsedTimer m_lastPaint;
