@@ -8,8 +8,6 @@
 #include <QDir>
 #include <QFile>
 #include <QRegularExpression>
-#include <QSqlDatabase>
-#include <QSqlQuery>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -21,30 +19,6 @@ bool writeAt(const QString &path, qint64 offset, const QByteArray &bytes)
 {
     QFile f(path);
     return f.open(QIODevice::ReadWrite) && f.seek(offset) && f.write(bytes) == bytes.size();
-}
-
-// A project as another SQLite tool leaves it: in WAL mode, with the row
-// "im WAL" committed to `name`-wal and not yet folded into `name`.
-bool makeWalProject(const QString &scratch, const QString &folder)
-{
-    const QString source = scratch + QStringLiteral("/quelle.pwp");
-    if (!createProject(source, 1))
-        return false;
-    bool ok = false;
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("walwriter"));
-        db.setDatabaseName(source);
-        QSqlQuery q(db);
-        ok = db.open() && q.exec(QStringLiteral("PRAGMA journal_mode=WAL")) &&
-             q.exec(QStringLiteral("PRAGMA wal_autocheckpoint=0")) &&
-             q.exec(QStringLiteral("INSERT INTO defect (id, description) VALUES (900, 'im WAL')")) &&
-             QFile::copy(source, folder + QStringLiteral("/p.pwp")) &&
-             QFile::copy(source + QStringLiteral("-wal"), folder + QStringLiteral("/p.pwp-wal"));
-        q.finish();
-        db.close();
-    }
-    QSqlDatabase::removeDatabase(QStringLiteral("walwriter"));
-    return ok;
 }
 
 } // namespace
@@ -104,9 +78,11 @@ private slots:
     {
         QFETCH(QStringList, args);
         QFETCH(QString, shows);
-        QTemporaryDir scratch;
+        // As another SQLite tool leaves it: the row "im WAL" not yet folded into the file.
         QVERIFY(QDir().mkpath(path("projekt")));
-        QVERIFY(makeWalProject(scratch.path(), path("projekt")));
+        QVERIFY(createProject(path("quelle.pwp"), 1));
+        QVERIFY(copyWhileWriting(path("quelle.pwp"), path("projekt/p.pwp"),
+                                 {"INSERT INTO defect (id, description) VALUES (900, 'im WAL')"}, true));
         const QStringList before = folderState(path("projekt"));
 
         args.insert(1, path("projekt/p.pwp"));

@@ -116,6 +116,31 @@ bool execute(const QString &file, const QStringList &statements)
     return ok;
 }
 
+bool copyWhileWriting(const QString &file, const QString &copy, const QStringList &statements, bool wal)
+{
+    const QString name = QStringLiteral("testwriter");
+    const QString companion = wal ? QStringLiteral("-wal") : QStringLiteral("-journal");
+    bool ok = false;
+    {
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), name);
+        db.setDatabaseName(file);
+        QSqlQuery q(db);
+        ok = db.open() && (wal ? q.exec(QStringLiteral("PRAGMA journal_mode=WAL")) && q.next() &&
+                                     q.value(0).toString() == QLatin1String("wal") &&
+                                     q.exec(QStringLiteral("PRAGMA wal_autocheckpoint=0"))
+                               : q.exec(QStringLiteral("PRAGMA cache_size=2")) && q.exec(QStringLiteral("BEGIN")));
+        for (const QString &statement : statements)
+            ok = ok && q.exec(statement);
+        ok = ok && QFile::copy(file + companion, copy + companion) && QFile::copy(file, copy);
+        if (!wal)
+            q.exec(QStringLiteral("ROLLBACK"));
+        q.finish();
+        db.close();
+    }
+    QSqlDatabase::removeDatabase(name);
+    return ok;
+}
+
 QByteArray fileHash(const QString &path)
 {
     QFile f(path);

@@ -19,6 +19,11 @@ QString scalar(const QString &file, const QString &sql);
 QVariantMap row(const QString &file, const QString &sql);
 QString integrity(const QString &file);
 bool execute(const QString &file, const QStringList &statements);
+// Copies `file` to `copy` as another SQLite writer leaves it in the middle of
+// its work: with `wal`, in WAL mode with `statements` committed only to the
+// "-wal" file; otherwise with `statements` run in a transaction still open,
+// their old pages in the hot "-journal" file. `file` itself ends unchanged.
+bool copyWhileWriting(const QString &file, const QString &copy, const QStringList &statements, bool wal);
 
 // Replaces the file's content; false when it cannot be written in full.
 bool writeFile(const QString &path, const QByteArray &bytes);

@@ -17,7 +17,6 @@
 #include <QFileInfo>
 #include <QProcess>
 #include <QSettings>
-#include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -68,28 +67,6 @@ bool leaveCrashedWorkingCopy(const QString &file)
         return false;
     writeFile(file + ".udf", "erika\nBAUBUERO\n01.02.26\n10:15\n4711\n");
     return execute(file + ".workingcopy", {"INSERT INTO defect (id, description) VALUES (77, 'ungesichert')"});
-}
-
-// A copy of `file` as a writer killed in the middle of a transaction leaves
-// it: changed pages already in `copy`, their old contents in `copy-journal`.
-bool makeHotJournalCopy(const QString &file, const QString &copy)
-{
-    bool ok = false;
-    {
-        QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "crashedwriter");
-        db.setDatabaseName(file);
-        QSqlQuery q(db);
-        ok = db.open() && q.exec("PRAGMA cache_size=2") && q.exec("BEGIN");
-        for (int i = 0; ok && i < 200; ++i)
-            ok = q.exec(QStringLiteral("INSERT INTO defect (id, description) VALUES (%1, '%2')")
-                            .arg(1000 + i)
-                            .arg(QString(2000, 'x')));
-        ok = ok && QFile::copy(file + "-journal", copy + "-journal") && QFile::copy(file, copy);
-        q.exec("ROLLBACK");
-        db.close();
-    }
-    QSqlDatabase::removeDatabase("crashedwriter");
-    return ok;
 }
 
 struct FileMode
@@ -178,16 +155,17 @@ private slots:
 
     void saveAsOntoHeldProject_data()
     {
-        QTest::addColumn<bool>("untitled");
+        QTest::addColumn<QString>("source"); // "new", "opened", "cli": pellwick-cli new
         QTest::addColumn<bool>("targetFileExists");
-        QTest::newRow("new project onto held file") << true << true;
-        QTest::newRow("opened project onto held file") << false << true;
-        QTest::newRow("held project whose file was removed") << true << false;
+        QTest::newRow("new project onto held file") << "new" << true;
+        QTest::newRow("opened project onto held file") << "opened" << true;
+        QTest::newRow("held project whose file was removed") << "new" << false;
+        QTest::newRow("command line new onto held project") << "cli" << false;
     }
 
     void saveAsOntoHeldProject()
     {
-        QFETCH(bool, untitled);
+        QFETCH(QString, source);
         QFETCH(bool, targetFileExists);
         const QString target = path("belegt.pwp");
         QVERIFY(createProject(target, 3));
@@ -197,10 +175,17 @@ private slots:
             QVERIFY(QFile::remove(target));
         const QStringList before = folderState(m_dir->path()).filter("belegt");
         const QByteArray heldCopy = fileHash(target + ".workingcopy");
+        if (source == "cli") {
+            const KalCliRun cli = kalCli({"new", target});
+            QVERIFY(cli.code > 0);
+            QVERIFY(cli.err.contains("Datenbank in Bearbeitung"));
+            QCOMPARE(folderState(m_dir->path()).filter("belegt"), before);
+            return;
+        }
 
         KalProject project;
         const QString own = path("eigen.pwp");
-        QVERIFY(untitled ? project.newProject() : (createProject(own, 1) && project.openProject(own)));
+        QVERIFY(source == "new" ? project.newProject() : (createProject(own, 1) && project.openProject(own)));
         m_prompt->clear();
         QCOMPARE(project.saveProject(target), int(KalProject::SaveFailed));
         QCOMPARE(m_prompt->titles(), QStringList{"Datenbank in Bearbeitung"});
@@ -241,20 +226,6 @@ private slots:
         QCOMPARE(file.readAll(), QByteArray("die andere Instanz"));
         QVERIFY(!QFileInfo::exists(target));
         QVERIFY(project.isOpen());
-    }
-
-    void cliNewOntoHeldProject()
-    {
-        const QString target = path("belegt.pwp");
-        QVERIFY(createProject(target, 1));
-        KalHolderProcess holder("hold", target);
-        QVERIFY(holder.waitFor("ready") >= 0);
-        QVERIFY(QFile::remove(target));
-        const QStringList before = folderState(m_dir->path());
-        const KalCliRun cli = kalCli({"new", target});
-        QVERIFY(cli.code > 0);
-        QVERIFY(cli.err.contains("Datenbank in Bearbeitung"));
-        QCOMPARE(folderState(m_dir->path()), before);
     }
 
     // The volume reports plenty of room: the write itself must fail.
@@ -351,7 +322,13 @@ private slots:
         QVERIFY(createProject(original, 3));
         QVERIFY(QFile::copy(original, KalProject::backupFileName(file, 0)));
         if (hot) {
-            QVERIFY(makeHotJournalCopy(original, file));
+            // A writer killed in the middle of a transaction.
+            QStringList inserts;
+            for (int i = 0; i < 200; ++i)
+                inserts << QStringLiteral("INSERT INTO defect (id, description) VALUES (%1, '%2')")
+                               .arg(1000 + i)
+                               .arg(QString(2000, 'x'));
+            QVERIFY(copyWhileWriting(original, file, inserts, false));
         } else {
             QVERIFY(QFile::copy(original, file));
             writeFile(file + "-journal", QByteArray(3000, '\x7f'));
@@ -443,18 +420,8 @@ private slots:
         QVERIFY(createProject(original, 2));
         // Another SQLite tool switched the file to WAL and added a row that
         // is still only in the WAL when the file is copied.
-        {
-            QSqlDatabase db = QSqlDatabase::addDatabase("QSQLITE", "waltool");
-            db.setDatabaseName(original);
-            QVERIFY(db.open());
-            QSqlQuery q(db);
-            QVERIFY(q.exec("PRAGMA journal_mode=WAL") && q.next() && q.value(0).toString() == "wal");
-            QVERIFY(q.exec("PRAGMA wal_autocheckpoint=0"));
-            QVERIFY(q.exec("INSERT INTO defect (id, description) VALUES (500, 'nur im WAL')"));
-            QVERIFY(QFile::copy(original, file) && QFile::copy(original + "-wal", file + "-wal"));
-            db.close();
-        }
-        QSqlDatabase::removeDatabase("waltool");
+        QVERIFY(copyWhileWriting(original, file, {"INSERT INTO defect (id, description) VALUES (500, 'nur im WAL')"},
+                                 true));
         KalProject project;
         QVERIFY(project.openProject(file));
         QCOMPARE(project.model("defect")->rowCount(), 3);
