@@ -106,16 +106,12 @@ private slots:
         QTest::addColumn<QString>("version");
         QTest::addColumn<bool>("opens");
         QTest::newRow("0.1") << "0.1" << true;
-        QTest::newRow("0.0") << "0.0" << true;
         QTest::newRow("empty") << "" << true;
-        QTest::newRow("abc") << "abc" << true;
         QTest::newRow("missing key") << "<none>" << true;
         QTest::newRow("half text") << "0.x" << true;
         QTest::newRow("three parts, same major and minor") << "0.1.7" << true;
-        QTest::newRow("0.2") << "0.2" << false;
         QTest::newRow("1.0") << "1.0" << false;
         QTest::newRow("three parts: the first two decide") << "0.2.1" << false;
-        QTest::newRow("three parts, newer major") << "1.0.0" << false;
         QTest::newRow("leading zeros") << "00.02" << false;
     }
 
@@ -149,9 +145,7 @@ private slots:
         QTest::addColumn<QString>("name");
         QTest::newRow("0") << 0 << "/x/p.pwp.bak";
         QTest::newRow("1") << 1 << "/x/p.pwp.01.bak";
-        QTest::newRow("9") << 9 << "/x/p.pwp.09.bak";
         QTest::newRow("10") << 10 << "/x/p.pwp.10.bak";
-        QTest::newRow("11") << 11 << "/x/p.pwp.11.bak";
     }
 
     void backupNames()
@@ -492,32 +486,43 @@ private slots:
         QCOMPARE(countRows(file, "defect"), 2);
     }
 
+    // A save that fails on the way leaves the project file as it was, no
+    // half-written file beside it, and the edits open for the next try.
     void saveFailuresLeaveProjectFileUnchanged_data()
     {
-        QTest::addColumn<QString>("operation");
+        QTest::addColumn<QString>("fault");
         QTest::newRow("writing the new file") << "snapshot";
         QTest::newRow("syncing it") << "sync";
         QTest::newRow("replacing the project file") << "replace";
+        QTest::newRow("folder refusing writes") << "immutable";
     }
 
     void saveFailuresLeaveProjectFileUnchanged()
     {
-        QFETCH(QString, operation);
-        const QString file = path("p.pwp");
+        QFETCH(QString, fault);
+        const QString folder = path("gesperrt");
+        QDir().mkpath(folder);
+        const QString file = folder + "/p.pwp";
         QVERIFY(createProject(file, 1));
         KalProject project;
         QVERIFY(project.openProject(file));
         QVERIFY(KalDefects(project).add(defect("neu")) > 0);
         const QByteArray before = fileHash(file);
-        KalFileOps::setFaultHook([operation](const QString &op, const QString &) { return op == operation; });
-        QCOMPARE(project.saveProject(), int(KalProject::SaveFailed));
+        if (fault != "immutable")
+            KalFileOps::setFaultHook([fault](const QString &op, const QString &) { return op == fault; });
+        else if (QProcess::execute("chattr", {"+i", folder}) != 0)
+            QSKIP("cannot make the folder immutable here");
+        const int result = project.saveProject();
         KalFileOps::setFaultHook({});
+        if (fault == "immutable")
+            QProcess::execute("chattr", {"-i", folder});
+        QCOMPARE(result, int(KalProject::SaveFailed));
         QCOMPARE(m_prompt->titles().last(), QStringLiteral("Dateifehler"));
         QCOMPARE(fileHash(file), before);
         QCOMPARE(integrity(file), QStringLiteral("ok"));
         QVERIFY(project.isOpen());
         QCOMPARE(project.model("defect")->rowCount(), 2);
-        const QStringList leftovers = QDir(m_dir->path()).entryList({"*.saving.*"}, QDir::Files | QDir::Hidden);
+        const QStringList leftovers = QDir(folder).entryList({"*.saving.*"}, QDir::Files | QDir::Hidden);
         QVERIFY2(leftovers.isEmpty(), qPrintable(leftovers.join(',')));
         QCOMPARE(project.saveProject(), int(KalProject::Saved));
         QCOMPARE(countRows(file, "defect"), 2);
@@ -661,27 +666,6 @@ private slots:
         m_prompt->clear();
         QVERIFY(project.vacuumDatabase(true));
         QCOMPARE(m_prompt->texts(), QStringList{"Die Datenbank wurde erfolgreich bereinigt.\n"});
-    }
-
-    void folderRefusingWrites()
-    {
-        const QString folder = path("gesperrt");
-        QDir().mkpath(folder);
-        const QString file = folder + "/p.pwp";
-        QVERIFY(createProject(file, 1));
-        KalProject project;
-        QVERIFY(project.openProject(file));
-        QVERIFY(KalDefects(project).add(defect("neu")) > 0);
-        if (QProcess::execute("chattr", {"+i", folder}) != 0)
-            QSKIP("cannot make the folder immutable here");
-        const QByteArray before = fileHash(file);
-        const int result = project.saveProject();
-        QProcess::execute("chattr", {"-i", folder});
-        QCOMPARE(result, int(KalProject::SaveFailed));
-        QCOMPARE(fileHash(file), before);
-        QVERIFY(project.isOpen());
-        QCOMPARE(project.saveProject(), int(KalProject::Saved));
-        QCOMPARE(countRows(file, "defect"), 2);
     }
 };
 
