@@ -128,7 +128,6 @@ private slots:
         QFETCH(QString, way);
         QVERIFY(m_fx.addCompany("Alt", "", {{"id", 40}, {"pos", 7}, {"modified", 1}}) == 40);
         QVERIFY(model("company")->select());
-        QSqlQuery q(m_project->database());
 
         KalCompanies companies(*m_project);
         const QVariantMap texts{{QStringLiteral("company"), QStringLiteral("Neu")}};
@@ -151,18 +150,13 @@ private slots:
             second = result.insertedIds.value(1, -1);
         }
         QVERIFY2(first > 0 && second > first, qPrintable(error));
-        QVERIFY(q.exec(QStringLiteral("SELECT pos, modified, site_journal_id, delete_on_import, street IS NULL FROM "
-                                      "company WHERE id IN (%1, %2) ORDER BY id")
-                           .arg(first)
-                           .arg(second)));
-        for (int expectedPos : {8, 9}) {
-            QVERIFY(q.next());
-            QCOMPARE(q.value(0).toInt(), expectedPos);
-            QCOMPARE(q.value(1).toInt(), 0);
-            QCOMPARE(q.value(2).toInt(), -1);
-            QCOMPARE(q.value(3).toInt(), 1);
-            QCOMPARE(q.value(4).toInt(), 0);
-        }
+        // After the last, new rather than changed, not from the site journal, texts never NULL.
+        QCOMPARE(scalar(QStringLiteral("SELECT group_concat(pos || modified || site_journal_id || delete_on_import || "
+                                       "(street IS NULL), ' ') FROM company WHERE id IN (%1, %2)")
+                            .arg(first)
+                            .arg(second))
+                     .toString(),
+                 QStringLiteral("80-110 90-110"));
         QVERIFY(m_project->isModified());
     }
 
