@@ -17,7 +17,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QSettings>
-#include <QSqlQuery>
 #include <QTextEdit>
 #include <QtTest>
 
@@ -91,8 +90,6 @@ private slots:
         row("KM", false, "KM");
         row("ab", false, "AB");
         row("mueller", false, "");
-        row("MUELLX", false, "");
-        row("K1", false, "");
     }
 
     void userIdInitials()
@@ -300,14 +297,12 @@ private slots:
 
         const int statusesBefore = m_fx.count("status");
         const qint64 id = newDefect({{QStringLiteral("status_id"), 7}, {QStringLiteral("reduction"), 1}});
-        QString title;
         {
             KalDefectEditor editor(m_fx.project(), rowOf(id));
             auto *status = editor.findChild<QComboBox *>(QStringLiteral("cbxStatus"));
             auto *reduction = editor.findChild<QCheckBox *>(QStringLiteral("cbReduction"));
             bool hintReadable = false;
             KalDialogAnswer<QInputDialog> answer([&](QInputDialog *input) {
-                title = input->windowTitle();
                 const QString hint = QStringLiteral("Sie können hier einen neuen Status für dieses Projekt anlegen");
                 for (QLabel *label : input->findChildren<QLabel *>())
                     hintReadable = hintReadable || (label->isVisible() && label->text().contains(hint) &&
@@ -317,7 +312,6 @@ private slots:
             });
             choose(status, KalDefectEditor::NewEntry);
             QVERIFY(answer.seen());
-            QCOMPARE(title, QStringLiteral("Neuen Status anlegen"));
             QVERIFY(hintReadable);
             if (created) {
                 QCOMPARE(status->currentText(), name);
@@ -334,17 +328,12 @@ private slots:
         }
         QCOMPARE(m_fx.count("status"), statusesBefore + (created ? 1 : 0));
         QCOMPARE(m_fx.field("defect", id, "status_id").toInt(), 7);
-        if (created) {
-            QSqlQuery q(m_fx.project()->database());
-            q.prepare(QStringLiteral("SELECT id, type, color, reduction_option, pos FROM status WHERE status = :name"));
-            q.bindValue(QStringLiteral(":name"), name);
-            QVERIFY(q.exec() && q.next());
-            QVERIFY(q.value(0).toInt() > 8);
-            QCOMPARE(q.value(1).toInt(), 2);
-            QCOMPARE(q.value(2).toString(), QStringLiteral("#859FAF"));
-            QCOMPARE(q.value(3).toInt(), 0);
-            QCOMPARE(q.value(4).toInt(), statusesBefore + 1);
-        }
+        // The same user status as the status table's plus button makes.
+        if (created)
+            QCOMPARE(m_fx.value("SELECT type || color || reduction_option || ',' || pos FROM status WHERE status = :n",
+                                {{"n", name}})
+                         .toString(),
+                     QStringLiteral("2#859FAF0,%1").arg(statusesBefore + 1));
     }
 
     // The description's auto-text list learns only what the user keeps.

@@ -139,7 +139,6 @@ private slots:
         QTest::addColumn<QString>("field");
         QTest::newRow("room name") << "leRoomName";
         QTest::newRow("description") << "teDescription";
-        QTest::newRow("type") << "leType";
         QTest::newRow("deadline") << "deDeadline1";
     }
 
@@ -176,10 +175,8 @@ private slots:
         QTest::addColumn<int>("kind");
         QTest::addColumn<QString>("field");
         QTest::newRow("defect room name") << int(DefectEditor) << "leRoomName";
-        QTest::newRow("defect priority") << int(DefectEditor) << "lePriority";
         QTest::newRow("defect instruction") << int(DefectEditor) << "leCorrectionInstruction";
         QTest::newRow("project name") << int(MasterData) << "leProjectName";
-        QTest::newRow("footer") << int(MasterData) << "leFooterRight";
         QTest::newRow("company cell") << int(MasterDataGrid) << "company";
     }
 
