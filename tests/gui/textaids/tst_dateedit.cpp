@@ -1,4 +1,3 @@
-#include "core/project/KalEnvironment.h"
 #include "gui/textaids/KalCompleterLineEdit.h"
 #include "gui/textaids/KalCompleterTextEdit.h"
 #include "gui/textaids/KalDateEdit.h"
@@ -24,63 +23,36 @@ class TestDateEdit : public QObject
     Q_OBJECT
 
 private slots:
-    void init()
-    {
-        prompt()->clear();
-        QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    }
-
-    void cleanupTestCase() { QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany)); }
-
-    void emptyIsValid()
-    {
-        KalDateEdit edit;
-        QVERIFY(edit.date().isNull());
-        edit.setText(QStringLiteral("   "));
-        QVERIFY(edit.date().isNull());
-        QCoreApplication::processEvents();
-        QVERIFY(prompt()->shown().isEmpty());
-    }
+    void init() { prompt()->clear(); }
 
     // The notation itself is the date format's business; the field warns
     // once, after the current event, and keeps what was typed.
     void parsing_data()
     {
-        QTest::addColumn<QLocale>("locale");
         QTest::addColumn<QString>("text");
-        QTest::addColumn<QDate>("expected"); // invalid: a warning is due
-        QTest::addColumn<QString>("pattern");
-        const QLocale de(QLocale::German, QLocale::Germany);
-        QTest::newRow("German short") << de << "1.2.24" << QDate(2024, 2, 1) << "TT.MM.JJJJ";
-        QTest::newRow("German no such day") << de << "31.02.2020" << QDate() << "TT.MM.JJJJ";
-        QTest::newRow("USA day first is wrong")
-            << QLocale(QLocale::English, QLocale::UnitedStates) << "31/01/2024" << QDate() << "MM/DD/YYYY";
+        QTest::addColumn<QDate>("expected"); // invalid and text not blank: a warning is due
+        QTest::newRow("blank is no date and no fault") << "   " << QDate();
+        QTest::newRow("German short") << "1.2.24" << QDate(2024, 2, 1);
+        QTest::newRow("no such day") << "31.02.2020" << QDate();
     }
 
     void parsing()
     {
-        QFETCH(QLocale, locale);
         QFETCH(QString, text);
         QFETCH(QDate, expected);
-        QFETCH(QString, pattern);
-        QLocale::setDefault(locale);
-        KalEnvironment::setNowOverride(QDateTime(QDate(2025, 6, 1), QTime(12, 0)));
         KalDateEdit edit;
         edit.setText(text);
-        const QDate parsed = edit.date();
-        KalEnvironment::setNowOverride(QDateTime());
-        QCOMPARE(parsed, expected);
-        // The warning comes after the current event, once.
+        QCOMPARE(edit.date(), expected);
         edit.date();
         QVERIFY(prompt()->shown().isEmpty());
         QCoreApplication::processEvents();
-        if (expected.isValid()) {
+        if (expected.isValid() || text.trimmed().isEmpty()) {
             QVERIFY(prompt()->shown().isEmpty());
         } else {
             QCOMPARE(prompt()->titles(), QStringList{QStringLiteral("Format-Fehler")});
             QCOMPARE(prompt()->texts().first(),
-                     QStringLiteral("Das eingegebene Datum ist nicht korrekt.\nBitte verwenden Sie das Format %1!")
-                         .arg(pattern));
+                     QStringLiteral("Das eingegebene Datum ist nicht korrekt.\nBitte verwenden Sie das Format "
+                                    "TT.MM.JJJJ!"));
             QCOMPARE(edit.text(), text); // asking does not clear
         }
     }
@@ -103,7 +75,6 @@ private slots:
         QCOMPARE(finished.count(), 1);
         QVERIFY(prompt()->shown().isEmpty());
         QTRY_COMPARE(prompt()->titles(), QStringList{QStringLiteral("Format-Fehler")});
-        QVERIFY(prompt()->texts().first().contains(QStringLiteral("TT.MM.JJJJ")));
 
         // Asking before the pending warning came shows it once, at once.
         prompt()->clear();
@@ -125,20 +96,10 @@ private slots:
         QCOMPARE(edit->date(), QDate(2024, 2, 1));
         QCoreApplication::processEvents();
         QVERIFY(prompt()->shown().isEmpty());
-    }
 
-    void warningOutlivesClosedEditor()
-    {
-        // A grid closes its editor as soon as the focus leaves it.
-        QWidget window;
-        auto *layout = new QVBoxLayout(&window);
-        auto *edit = new KalDateEdit(&window);
-        auto *other = new QLineEdit(&window);
-        layout->addWidget(edit);
-        layout->addWidget(other);
-        window.show();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        // A grid closes its editor as soon as the focus leaves it: the warning still comes.
         edit->setFocus();
+        edit->clear();
         QTest::keyClicks(edit, QStringLiteral("32.1.2024"));
         other->setFocus();
         delete edit;
@@ -159,8 +120,6 @@ private slots:
         QVERIFY(calendar && calendar->isVisible());
         QCOMPARE(calendar->windowTitle(), QStringLiteral("Datum auswählen"));
         QCOMPARE(calendar->selectedDate(), QDate(2024, 3, 10));
-        QCOMPARE(edit.toolButtonPopup()->iconSize(), QSize(8, 8));
-        QVERIFY(!edit.toolButtonPopup()->icon().isNull());
 
         emit calendar->clicked(QDate(2024, 3, 15));
         QCOMPARE(edit.text(), QStringLiteral("15.03.2024"));
