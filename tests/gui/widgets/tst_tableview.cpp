@@ -111,11 +111,9 @@ private slots:
             QTest::newRow(name) << QString(table) << rows << key << QString(answer) << QString(title) << text;
         };
         row("status", "status", 1, false, "Ja", "Status löschen", oneStatus);
-        row("status key, no", "status", 1, true, "Nein", "Status löschen", oneStatus);
         row("two statuses key", "status", 2, true, "Ja", "Status löschen",
             warning + QStringLiteral("Sollen die 2 gewählten Status tatsächlich gelöscht werden?"));
         row("company", "company", 1, false, "Ja", "Eintrag entfernen", one);
-        row("company, no", "company", 1, false, "Nein", "Eintrag entfernen", one);
         row("defect key", "defect", 1, true, "Ja", "Eintrag entfernen", one);
         row("defect key, no", "defect", 1, true, "Nein", "Eintrag entfernen", one);
         row("three defects", "defect", 3, false, "Ja", "Einträge entfernen",
