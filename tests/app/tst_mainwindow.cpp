@@ -80,8 +80,7 @@ private slots:
     {
         QCOMPARE(m_window->windowTitle(), QStringLiteral("Neues Pellwick-Projekt"));
 
-        KalFileDialog::queueChoice(path("Bauvorhaben Nord.pwp"));
-        QCOMPARE(m_window->maybeSave(true, true), int(KalMainWindow::GoOn));
+        saveAsFile("Bauvorhaben Nord.pwp");
         QCOMPARE(m_window->windowTitle(), QStringLiteral("Pellwick-Projekt - Bauvorhaben Nord.pwp"));
 
         QVERIFY(m_window->closeProject(true));
@@ -134,8 +133,7 @@ private slots:
 
         KalProject *project = m_window->project();
         if (saved) {
-            KalFileDialog::queueChoice(path("p.pwp"));
-            QCOMPARE(m_window->maybeSave(true, true), 0);
+            saveAsFile("p.pwp");
         }
         if (modified)
             makeModified();
@@ -197,8 +195,7 @@ private slots:
         QFETCH(QString, title);
         QFETCH(QString, text);
 
-        KalFileDialog::queueChoice(path("ro.pwp"));
-        QCOMPARE(m_window->maybeSave(true, true), 0);
+        saveAsFile("ro.pwp");
         QVERIFY(m_window->closeProject(true));
         QFile::setPermissions(path("ro.pwp"), QFileDevice::ReadOwner | QFileDevice::ReadGroup);
         if (QFileInfo(path("ro.pwp")).isWritable())
@@ -221,8 +218,7 @@ private slots:
 
     void saveFailureIsReported()
     {
-        KalFileDialog::queueChoice(path("p.pwp"));
-        QCOMPARE(m_window->maybeSave(true, true), 0);
+        saveAsFile("p.pwp");
         makeModified();
         KalEnvironment::setVolumeInfoFunction([](const QString &) {
             KalEnvironment::VolumeInfo info;
@@ -549,8 +545,7 @@ private slots:
         if (linked)
             QVERIFY(m_window->linkSiteJournal(path("b.sjd")));
         // The state follows the file also after saving and reopening.
-        KalFileDialog::queueChoice(path("p.pwp"));
-        QCOMPARE(m_window->maybeSave(true, true), 0);
+        saveAsFile("p.pwp");
         QVERIFY(m_window->openProject(path("p.pwp")));
 
         const QStringList names{"actionInitialDataImport", "actionUpdateDataImport", "actionAutomaticNewRecordsImport",
@@ -670,8 +665,7 @@ private slots:
 
     void compactSavesModifiedProjectFirst()
     {
-        KalFileDialog::queueChoice(path("c.pwp"));
-        QCOMPARE(m_window->maybeSave(true, true), 0);
+        saveAsFile("c.pwp");
         for (int i = 0; i < 20; ++i)
             addDefect();
         QVERIFY(m_window->project()->isModified());
@@ -795,8 +789,7 @@ private slots:
         QFETCH(bool, linked);
         QFETCH(QString, title);
 
-        KalFileDialog::queueChoice(path("p.pwp"));
-        QCOMPARE(m_window->maybeSave(true, true), 0);
+        saveAsFile("p.pwp");
         QVERIFY(m_window->newProject());
         QFile journal(path("b.sjd"));
         QVERIFY(journal.open(QIODevice::WriteOnly));
@@ -844,8 +837,7 @@ private slots:
             QVERIFY(m_window->newProject());
             for (int i = file == own ? 2 : 1; i > 0; --i)
                 insertDefect({{"number", QString::number(i)}, {"description", "D"}});
-            KalFileDialog::queueChoice(file);
-            QCOMPARE(m_window->maybeSave(true, true), 0);
+            saveAsFile(file);
         }
         QProcess holder;
         if (refusal == "held") {
@@ -873,8 +865,7 @@ private slots:
     {
         const QString file = path("absturz.pwp");
         insertDefect({{"number", "1"}, {"description", "D"}});
-        KalFileDialog::queueChoice(file);
-        QCOMPARE(m_window->maybeSave(true, true), 0);
+        saveAsFile(file);
         QVERIFY(m_window->newProject());
         QVERIFY(QFile::copy(file, file + ".workingcopy"));
         QVERIFY(KalTestFiles::execute(file + ".workingcopy",
@@ -897,8 +888,7 @@ private slots:
     // runs after it.
     void restartWritesAndConsumesReopenKey()
     {
-        KalFileDialog::queueChoice(path("r.pwp"));
-        QCOMPARE(m_window->maybeSave(true, true), 0);
+        saveAsFile("r.pwp");
         makeModified();
         m_prompt->queueAnswer(QStringLiteral("Speichern"));
 
@@ -911,6 +901,13 @@ private slots:
 
 private:
     QString path(const QString &name) const { return m_dir->filePath(name); }
+
+    // "Speichern unter" with `name` chosen in the file dialog.
+    void saveAsFile(const QString &name)
+    {
+        KalFileDialog::queueChoice(QFileInfo(name).isAbsolute() ? name : path(name));
+        QCOMPARE(m_window->maybeSave(true, true), int(KalMainWindow::GoOn));
+    }
     // "Mangel hinzufügen" as the user does it: the editor of the new defect
     // opens and is closed with OK.
     void addDefect()
