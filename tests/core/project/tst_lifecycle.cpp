@@ -528,49 +528,47 @@ private slots:
         QCOMPARE(countRows(file, "defect"), 2);
     }
 
-    void writeProtectedFile()
+    // Save as moves the session to the new file (working copy, user file,
+    // later saves), also away from a file that may not be written.
+    void saveAsMovesTheSession_data()
     {
-        const QString file = path("nurlesen.pwp");
-        QVERIFY(createProject(file, 1));
-        QVERIFY(QFile::setPermissions(file, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
-        KalProject project;
-        QVERIFY(project.openProject(file));
-        QVERIFY(project.isWriteProtected());
-        QCOMPARE(m_prompt->titles(), QStringList{"Datei-Warnung"});
-        const QByteArray before = fileHash(file);
-        QCOMPARE(project.saveProject(), int(KalProject::NotSaved));
-        QCOMPARE(m_prompt->titles().last(), QStringLiteral("Speicher-Fehler"));
-        QCOMPARE(fileHash(file), before);
-        const QString copy = path("beschreibbar.pwp");
-        QCOMPARE(project.saveProject(copy), int(KalProject::Saved));
-        QVERIFY(!project.isWriteProtected());
-        QVERIFY(project.closeProject());
-        QVERIFY(!QFileInfo::exists(file + ".workingcopy"));
-        QCOMPARE(countRows(copy, "defect"), 1);
-        QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner);
+        QTest::addColumn<bool>("readOnly");
+        QTest::newRow("writable file") << false;
+        QTest::newRow("write-protected file") << true;
     }
 
-    void saveAsMovesWorkingCopyAndUserFile()
+    void saveAsMovesTheSession()
     {
+        QFETCH(bool, readOnly);
         const QString file = path("alt.pwp");
         QVERIFY(createProject(file, 1));
+        if (readOnly)
+            QVERIFY(QFile::setPermissions(file, QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther));
         KalProject project;
         QVERIFY(project.openProject(file));
+        QCOMPARE(project.isWriteProtected(), readOnly);
+        QCOMPARE(m_prompt->titles(), readOnly ? QStringList{"Datei-Warnung"} : QStringList());
         QVERIFY(KalDefects(project).add(defect("nur im neuen")) > 0);
+        const QByteArray before = fileHash(file);
+        if (readOnly) {
+            QCOMPARE(project.saveProject(), int(KalProject::NotSaved));
+            QCOMPARE(m_prompt->titles().last(), QStringLiteral("Speicher-Fehler"));
+        }
         const QString target = path("neu.pwp");
         QCOMPARE(project.saveProject(target), int(KalProject::Saved));
-        QVERIFY(!QFileInfo::exists(file + ".workingcopy"));
-        QVERIFY(!QFileInfo::exists(file + ".udf"));
-        QVERIFY(QFileInfo::exists(target + ".workingcopy"));
-        QVERIFY(QFileInfo::exists(target + ".udf"));
-        QCOMPARE(countRows(file, "defect"), 1);
+        QVERIFY(!project.isWriteProtected());
+        for (const char *companion : {".workingcopy", ".udf"}) {
+            QVERIFY(!QFileInfo::exists(file + companion));
+            QVERIFY(QFileInfo::exists(target + companion));
+        }
+        QCOMPARE(fileHash(file), before);
         QCOMPARE(countRows(target, "defect"), 2);
         QVERIFY(!QFileInfo::exists(target + ".bak")); // save as makes no backups
-        // Edits continue in the new project.
         QVERIFY(KalDefects(project).add(defect("danach")) > 0);
         QCOMPARE(project.saveProject(), int(KalProject::Saved));
         QCOMPARE(countRows(target, "defect"), 3);
         QVERIFY(project.closeProject());
+        QFile::setPermissions(file, QFile::ReadOwner | QFile::WriteOwner);
     }
 
     void idsContinueFromForeignFile()
