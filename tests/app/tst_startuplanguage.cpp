@@ -15,88 +15,67 @@ class TestStartupLanguage : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase();
-    void cleanup();
-    void qtTextsFollowTheShownLanguage_data();
-    void qtTextsFollowTheShownLanguage();
+    void initTestCase()
+    {
+        KalTestSettings::isolate();
+        QCOMPARE(QLocale::system().language(), QLocale::French);
+    }
+
+    void cleanup()
+    {
+        for (QTranslator *translator : qApp->findChildren<QTranslator *>()) {
+            QCoreApplication::removeTranslator(translator);
+            delete translator;
+        }
+        QSettings().clear();
+        QLocale::setDefault(QLocale::system());
+    }
+
+    void qtTextsFollowTheShownLanguage_data()
+    {
+        QTest::addColumn<int>("language"); // stored choice, 0: none (the system's)
+        QTest::addColumn<int>("country");
+        QTest::addColumn<int>("shown"); // QLocale::Language of the texts and the default locale afterwards
+        auto row = [](const char *name, int language, int country, int shown) {
+            QTest::newRow(name) << language << country << shown;
+        };
+        const int de = QLocale::German;
+        const int en = QLocale::English;
+        const int es = QLocale::Spanish;
+        row("system French", 0, 0, de);
+        row("stored French", QLocale::French, QLocale::France, de);
+        row("German", de, QLocale::Germany, de);
+        row("Austrian German", de, QLocale::Austria, de);
+        row("Spanish", es, QLocale::Spain, es);
+        row("English UK", en, QLocale::UnitedKingdom, en);
+        row("English US", en, QLocale::UnitedStates, en);
+        row("English Australia", en, QLocale::Australia, en);
+    }
+
+    void qtTextsFollowTheShownLanguage()
+    {
+        QFETCH(int, language);
+        QFETCH(int, country);
+        QFETCH(int, shown);
+        // The program's "Datei" menu, Qt's "Save" button and its file dialog's "Look in:".
+        const QMap<int, QStringList> texts{{QLocale::German, {"Datei", "Speichern", "Suchen in:"}},
+                                           {QLocale::Spanish, {"Archivo", "Guardar", "Ver en:"}},
+                                           {QLocale::English, {"File", "Save", "Look in:"}}};
+        if (language) {
+            QSettings().setValue(QStringLiteral("Language"), language);
+            QSettings().setValue(QStringLiteral("Country"), country);
+        }
+        const QLocale locale = KalStartup::setUpLanguage(qApp);
+
+        QCOMPARE(QStringList({QCoreApplication::translate("KalMainWindow", "Datei"),
+                              QCoreApplication::translate("QPlatformTheme", "Save"),
+                              QCoreApplication::translate("QFileDialog", "Look in:")}),
+                 texts.value(shown));
+        // Dates and the calendar follow the texts too.
+        QCOMPARE(int(locale.language()), shown);
+        QCOMPARE(int(QLocale().language()), shown);
+    }
 };
-
-void TestStartupLanguage::initTestCase()
-{
-    KalTestSettings::isolate();
-    QCOMPARE(QLocale::system().language(), QLocale::French);
-}
-
-void TestStartupLanguage::cleanup()
-{
-    for (QTranslator *translator : qApp->findChildren<QTranslator *>()) {
-        QCoreApplication::removeTranslator(translator);
-        delete translator;
-    }
-    QSettings().clear();
-    QLocale::setDefault(QLocale::system());
-}
-
-void TestStartupLanguage::qtTextsFollowTheShownLanguage_data()
-{
-    QTest::addColumn<int>("language"); // stored choice, 0: none (the system's)
-    QTest::addColumn<int>("country");
-    QTest::addColumn<int>("shown"); // QLocale::Language of the default locale afterwards
-    QTest::addColumn<QString>("menu");
-    QTest::addColumn<QString>("save");
-    QTest::addColumn<QString>("lookIn");
-
-    const int de = QLocale::German;
-    const int en = QLocale::English;
-    const int es = QLocale::Spanish;
-    QTest::newRow("system French") << 0 << 0 << de << "Datei"
-                                   << "Speichern"
-                                   << "Suchen in:";
-    QTest::newRow("stored French") << int(QLocale::French) << int(QLocale::France) << de << "Datei"
-                                   << "Speichern"
-                                   << "Suchen in:";
-    QTest::newRow("German") << de << int(QLocale::Germany) << de << "Datei"
-                            << "Speichern"
-                            << "Suchen in:";
-    QTest::newRow("Austrian German") << de << int(QLocale::Austria) << de << "Datei"
-                                     << "Speichern"
-                                     << "Suchen in:";
-    QTest::newRow("Spanish") << es << int(QLocale::Spain) << es << "Archivo"
-                             << "Guardar"
-                             << "Ver en:";
-    QTest::newRow("English UK") << en << int(QLocale::UnitedKingdom) << en << "File"
-                                << "Save"
-                                << "Look in:";
-    QTest::newRow("English US") << en << int(QLocale::UnitedStates) << en << "File"
-                                << "Save"
-                                << "Look in:";
-    QTest::newRow("English Australia") << en << int(QLocale::Australia) << en << "File"
-                                       << "Save"
-                                       << "Look in:";
-}
-
-void TestStartupLanguage::qtTextsFollowTheShownLanguage()
-{
-    QFETCH(int, language);
-    QFETCH(int, country);
-    QFETCH(int, shown);
-    QFETCH(QString, menu);
-    QFETCH(QString, save);
-    QFETCH(QString, lookIn);
-
-    if (language) {
-        QSettings().setValue(QStringLiteral("Language"), language);
-        QSettings().setValue(QStringLiteral("Country"), country);
-    }
-    const QLocale locale = KalStartup::setUpLanguage(qApp);
-
-    QCOMPARE(QCoreApplication::translate("QPlatformTheme", "Save"), save);
-    QCOMPARE(QCoreApplication::translate("QFileDialog", "Look in:"), lookIn);
-    QCOMPARE(QCoreApplication::translate("KalMainWindow", "Datei"), menu);
-    // Dates and the calendar follow the texts too.
-    QCOMPARE(int(locale.language()), shown);
-    QCOMPARE(int(QLocale().language()), shown);
-}
 
 int main(int argc, char *argv[])
 {
