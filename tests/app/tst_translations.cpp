@@ -105,15 +105,9 @@ private slots:
         QTest::addColumn<QString>("locale");
         QTest::addColumn<QString>("file");
         QTest::addColumn<QString>("open");
-        QTest::newRow("en_GB") << "en_GB"
-                               << "File"
-                               << "Open";
-        QTest::newRow("en_US") << "en_US"
-                               << "File"
-                               << "Open";
-        QTest::newRow("es_ES") << "es_ES"
-                               << "Archivo"
-                               << "Abrir";
+        QTest::newRow("en_GB") << QString("en_GB") << QString("File") << QString("Open");
+        QTest::newRow("en_US") << QString("en_US") << QString("File") << QString("Open");
+        QTest::newRow("es_ES") << QString("es_ES") << QString("Archivo") << QString("Abrir");
     }
 
     void compiledFilesTranslate()

@@ -48,18 +48,15 @@ private slots:
     {
         QTest::addColumn<QString>("output"); // link name
         QTest::addColumn<QString>("target"); // where it points, relative to the folder
-        QTest::newRow("link to the project") << "liste.csv"
-                                             << "bau.pwp";
-        QTest::newRow("link to a link to the project") << "liste.csv"
-                                                       << "zwischen.csv";
-        QTest::newRow("link to a journal not yet there") << "liste.csv"
-                                                         << "bau.pwp-journal";
-        QTest::newRow("link to the first backup") << "liste.csv"
-                                                  << "bau.pwp.bak";
-        QTest::newRow("link to the user data") << "liste.csv"
-                                               << "bau.pwp.udf";
-        QTest::newRow("project through a folder link") << "ordner/bau.pwp"
-                                                       << ".";
+        auto row = [](const char *name, const char *output, const char *target) {
+            QTest::newRow(name) << QString(output) << QString(target);
+        };
+        row("link to the project", "liste.csv", "bau.pwp");
+        row("link to a link to the project", "liste.csv", "zwischen.csv");
+        row("link to a journal not yet there", "liste.csv", "bau.pwp-journal");
+        row("link to the first backup", "liste.csv", "bau.pwp.bak");
+        row("link to the user data", "liste.csv", "bau.pwp.udf");
+        row("project through a folder link", "ordner/bau.pwp", ".");
     }
 
     void exportNeverWritesThroughALink()
@@ -86,12 +83,9 @@ private slots:
     {
         QTest::addColumn<QString>("output");
         QTest::addColumn<QString>("written"); // the file that gets the CSV
-        QTest::newRow("through a link into another folder") << "liste.csv"
-                                                            << "ablage/liste.csv";
-        QTest::newRow("a name that begins like the project") << "bau.pwp.csv"
-                                                             << "bau.pwp.csv";
-        QTest::newRow("a backup-like name of another kind") << "bau.pwp.bak.csv"
-                                                            << "bau.pwp.bak.csv";
+        QTest::newRow("through a link into another folder") << QString("liste.csv") << QString("ablage/liste.csv");
+        QTest::newRow("a name that begins like the project") << QString("bau.pwp.csv") << QString("bau.pwp.csv");
+        QTest::newRow("a backup-like name of another kind") << QString("bau.pwp.bak.csv") << QString("bau.pwp.bak.csv");
     }
 
     void exportWritesOtherFiles()

@@ -96,18 +96,15 @@ private slots:
     {
         QTest::addColumn<QString>("make"); // how the file is made from a sound project
         QTest::addColumn<QString>("verdict");
-        QTest::newRow("sound") << "copy"
-                               << "ok$";
-        QTest::newRow("zero bytes") << "empty"
-                                    << "leere Datei";
-        QTest::newRow("not a database") << "text"
-                                        << "keine lesbare Datenbank: file is not a database";
-        QTest::newRow("other program's database") << "foreign"
-                                                  << "Tabelle KAL fehlt";
-        QTest::newRow("damaged page") << "damage"
-                                      << "beschädigt: .*(Page \\d+|malformed)";
-        QTest::newRow("newer version") << "newer"
-                                       << "mit einer neueren Programmversion";
+        auto row = [](const char *name, const char *make, const char *verdict) {
+            QTest::newRow(name) << QString(make) << QString(verdict);
+        };
+        row("sound", "copy", "ok$");
+        row("zero bytes", "empty", "leere Datei");
+        row("not a database", "text", "keine lesbare Datenbank: file is not a database");
+        row("other program's database", "foreign", "Tabelle KAL fehlt");
+        row("damaged page", "damage", "beschädigt: .*(Page \\d+|malformed)");
+        row("newer version", "newer", "mit einer neueren Programmversion");
     }
     void checkJudgesLikeOpening()
     {
