@@ -182,10 +182,9 @@ private slots:
                                 "Möchten Sie die Änderungen in einer neuen Datei speichern?";
         const QString saving = "Das Projekt kann nicht gespeichert werden, da die Datei\n%1\nschreibgeschützt ist.\n\n"
                                "Möchten Sie die Änderungen in einer neuen Datei speichern?";
-        QTest::newRow("closing, save as") << false << "Speichern unter"
-                                          << "Projekt geändert" << closing;
-        QTest::newRow("saving, cancel") << true << "Abbrechen"
-                                        << "Projekt speichern" << saving;
+        QTest::newRow("closing, save as")
+            << false << QString("Speichern unter") << QString("Projekt geändert") << closing;
+        QTest::newRow("saving, cancel") << true << QString("Abbrechen") << QString("Projekt speichern") << saving;
     }
 
     void readOnlyFileOffersSaveAs()
@@ -821,10 +820,8 @@ private slots:
     {
         QTest::addColumn<QString>("refusal");
         QTest::addColumn<QString>("title");
-        QTest::newRow("held by another instance") << "held"
-                                                  << "Datenbank in Bearbeitung";
-        QTest::newRow("made by a newer version") << "newer"
-                                                 << "Dateifehler";
+        QTest::newRow("held by another instance") << QString("held") << QString("Datenbank in Bearbeitung");
+        QTest::newRow("made by a newer version") << QString("newer") << QString("Dateifehler");
     }
 
     void refusedOpenKeepsTheOpenProject()

@@ -103,14 +103,10 @@ private slots:
     {
         QTest::addColumn<QString>("mode");
         QTest::addColumn<QString>("link"); // of the existing project p.pwp; "-": none exists
-        QTest::newRow("101 new project") << "101"
-                                         << "-";
-        QTest::newRow("102 unlinked project") << "102"
-                                              << "";
-        QTest::newRow("102 linked elsewhere") << "102"
-                                              << "alt.sjd";
-        QTest::newRow("102 already linked") << "102"
-                                            << "b.sjd";
+        QTest::newRow("101 new project") << QString("101") << QString("-");
+        QTest::newRow("102 unlinked project") << QString("102") << QString();
+        QTest::newRow("102 linked elsewhere") << QString("102") << QString("alt.sjd");
+        QTest::newRow("102 already linked") << QString("102") << QString("b.sjd");
     }
 
     void siteJournalLinkIsSaved()

@@ -269,20 +269,17 @@ private slots:
         QTest::addColumn<QString>("author");      // expected author
 
         const QStringList text{"--description", "Riss im Putz"};
-        QTest::newRow("first defect, nobody remembered") << QStringList{} << QString() << text << "0001"
-                                                         << "";
-        QTest::newRow("numbers go on after the highest") << QStringList{"0007", "12", "B3"} << "KM" << text << "0013"
-                                                         << "KM";
-        QTest::newRow("remembered initials in capitals") << QStringList{"1"} << "km" << text << "0002"
-                                                         << "KM";
-        QTest::newRow("a login name is no author") << QStringList{} << "mueller" << text << "0001"
-                                                   << "";
-        QTest::newRow("given number, room, company, status, priority")
-            << QStringList{"3"} << "AB"
-            << (text + QStringList{"--number", "A-1", "--room", "Küche", "--company", "1", "--status", "3",
-                                   "--priority", "Hoch"})
-            << "A-1"
-            << "AB";
+        auto row = [&](const char *name, const QStringList &numbers, const char *remembered, const QStringList &more,
+                       const char *number, const char *author) {
+            QTest::newRow(name) << numbers << QString(remembered) << text + more << QString(number) << QString(author);
+        };
+        row("first defect, nobody remembered", {}, "", {}, "0001", "");
+        row("numbers go on after the highest", {"0007", "12", "B3"}, "KM", {}, "0013", "KM");
+        row("remembered initials in capitals", {"1"}, "km", {}, "0002", "KM");
+        row("a login name is no author", {}, "mueller", {}, "0001", "");
+        row("given number, room, company, status, priority", {"3"}, "AB",
+            {"--number", "A-1", "--room", "Küche", "--company", "1", "--status", "3", "--priority", "Hoch"}, "A-1",
+            "AB");
     }
 
     void sameRowFromListAndCommandLine()
