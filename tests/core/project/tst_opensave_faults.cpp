@@ -307,21 +307,25 @@ private slots:
 
     void journalBesideProject_data()
     {
-        QTest::addColumn<bool>("hot");
-        QTest::newRow("hot journal of a crashed writer") << true;
-        QTest::newRow("garbage that is no hot journal") << false;
+        QTest::addColumn<QString>("companion");
+        QTest::addColumn<int>("rows"); // defects the project shows
+        QTest::newRow("hot journal of a crashed writer") << "hot" << 3;
+        QTest::newRow("garbage that is no hot journal") << "garbage" << 3;
+        QTest::newRow("WAL with a committed row") << "wal" << 4;
     }
 
-    // A journal beside a sound file is SQLite's business: the unfinished
-    // transaction is rolled back, nothing is called damaged or replaced.
+    // A journal or WAL beside a sound file is SQLite's business: an
+    // unfinished transaction is rolled back, a committed one kept, nothing is
+    // called damaged or replaced, and the saved file is a plain one again.
     void journalBesideProject()
     {
-        QFETCH(bool, hot);
+        QFETCH(QString, companion);
+        QFETCH(int, rows);
         const QString original = path("original.pwp");
         const QString file = path("p.pwp");
         QVERIFY(createProject(original, 3));
         QVERIFY(QFile::copy(original, KalProject::backupFileName(file, 0)));
-        if (hot) {
+        if (companion == "hot") {
             // A writer killed in the middle of a transaction.
             QStringList inserts;
             for (int i = 0; i < 200; ++i)
@@ -329,6 +333,10 @@ private slots:
                                .arg(1000 + i)
                                .arg(QString(2000, 'x'));
             QVERIFY(copyWhileWriting(original, file, inserts, false));
+        } else if (companion == "wal") {
+            // Another SQLite tool switched the file to WAL; its row is only in the WAL.
+            QVERIFY(copyWhileWriting(original, file, {"INSERT INTO defect (id, description) VALUES (500, 'im WAL')"},
+                                     true));
         } else {
             QVERIFY(QFile::copy(original, file));
             writeFile(file + "-journal", QByteArray(3000, '\x7f'));
@@ -336,10 +344,13 @@ private slots:
         KalProject project;
         QVERIFY(project.openProject(file));
         QVERIFY2(m_prompt->shown().isEmpty(), qPrintable(m_prompt->titles().join(", ")));
-        QCOMPARE(project.model("defect")->rowCount(), 3);
+        QCOMPARE(project.model("defect")->rowCount(), rows);
+        QVERIFY(KalDefects(project).add() > 0);
+        QCOMPARE(project.saveProject(), int(KalProject::Saved));
         QVERIFY(project.closeProject());
-        QCOMPARE(QDir(m_dir->path()).entryList({"*ERROR*"}), QStringList());
-        QVERIFY(!QFileInfo::exists(file + "-journal"));
+        QCOMPARE(QDir(m_dir->path()).entryList({"*ERROR*", "p.pwp-*"}), QStringList());
+        QCOMPARE(scalar(file, "PRAGMA journal_mode"), QStringLiteral("delete"));
+        QCOMPARE(countRows(file, "defect"), rows + 1);
         QCOMPARE(integrity(file), QStringLiteral("ok"));
     }
 
@@ -411,26 +422,6 @@ private slots:
         QCOMPARE(project.model("defect")->rowCount(), 1);
         QVERIFY(project.closeProject());
         QVERIFY(!QFileInfo::exists(file + companion));
-    }
-
-    void walModeProjectKeepsCommittedRows()
-    {
-        const QString original = path("wal.pwp");
-        const QString file = path("p.pwp");
-        QVERIFY(createProject(original, 2));
-        // Another SQLite tool switched the file to WAL and added a row that
-        // is still only in the WAL when the file is copied.
-        QVERIFY(copyWhileWriting(original, file, {"INSERT INTO defect (id, description) VALUES (500, 'nur im WAL')"},
-                                 true));
-        KalProject project;
-        QVERIFY(project.openProject(file));
-        QCOMPARE(project.model("defect")->rowCount(), 3);
-        QVERIFY(KalDefects(project).add() > 0);
-        QCOMPARE(project.saveProject(), int(KalProject::Saved));
-        QVERIFY(project.closeProject());
-        QCOMPARE(QDir(m_dir->path()).entryList({"p.pwp-*"}), QStringList());
-        QCOMPARE(scalar(file, "PRAGMA journal_mode"), QStringLiteral("delete"));
-        QCOMPARE(countRows(file, "defect"), 4);
     }
 
     void savedFileKeepsModeAndGroup_data()
