@@ -157,35 +157,9 @@ private slots:
         QCOMPARE(cell("defect", id, qPrintable(field)).toString(), expected);
     }
 
-    void statusColourCell_data()
-    {
-        QTest::addColumn<QString>("colour");
-        QTest::addColumn<bool>("painted");
-        QTest::newRow("hex") << "#f3752c" << true;
-        QTest::newRow("name") << "darkgreen" << true;
-        QTest::newRow("unknown") << "nichtfarbe" << false;
-        QTest::newRow("empty") << "" << false;
-    }
-
-    void statusColourCell()
-    {
-        QFETCH(QString, colour);
-        QFETCH(bool, painted);
-        const qint64 id = insertRow(
-            "status", {{"status", "Farbig"}, {"color", colour}, {"type", 2}, {"reduction_option", 0}, {"pos", 9}});
-        model("status")->select();
-        QVERIFY(cell("status", id, "color").toString().isEmpty());
-        const QVariant background = cell("status", id, "color", Qt::BackgroundRole);
-        QCOMPARE(background.isValid(), painted);
-        if (painted)
-            QCOMPARE(background.value<QColor>(), QColor(colour));
-        // The name column is not painted.
-        QVERIFY(!cell("status", id, "status", Qt::BackgroundRole).isValid());
-    }
-
-    // What the defect grid shows besides the text; an invalid expectation
-    // means no data in that role.
-    void defectCells_data()
+    // What the grids show besides the text; an invalid expectation means no
+    // data in that role. Rows of the status table start with "status:".
+    void cells_data()
     {
         QTest::addColumn<QVariantMap>("values");
         QTest::addColumn<QString>("field");
@@ -210,26 +184,41 @@ private slots:
         row("dates edit as dates", {{"correction_date", "2024-02-01"}}, "correction_date", Qt::EditRole,
             QDate(2024, 2, 1));
         row("id columns edit their ids, not the shown text", {}, "status_id", Qt::EditRole, 0);
+        row("status colour as hex", {{"color", "#f3752c"}}, "status:color", background, QColor("#f3752c"));
+        row("status colour by name", {{"color", "darkgreen"}}, "status:color", background, QColor("darkgreen"));
+        row("unknown colour paints nothing", {{"color", "nichtfarbe"}}, "status:color", background, QVariant());
+        row("empty colour paints nothing", {{"color", ""}}, "status:color", background, QVariant());
+        row("the colour is not written out", {{"color", "#f3752c"}}, "status:color", Qt::DisplayRole, QVariant());
+        row("the name is not painted", {{"color", "#f3752c"}}, "status:status", background, QVariant());
     }
 
-    void defectCells()
+    void cells()
     {
         QFETCH(QVariantMap, values);
         QFETCH(QString, field);
         QFETCH(int, role);
         QFETCH(QVariant, expected);
-        const qint64 id = insertDefect(values);
-        KalSqlTableModel *m = model("defect");
+        const bool status = field.startsWith("status:");
+        if (status) {
+            field = field.mid(7);
+            values.insert({{"status", "Farbig"}, {"type", 2}, {"reduction_option", 0}, {"pos", 9}});
+        }
+        const qint64 id = status ? insertRow("status", values) : insertDefect(values);
+        KalSqlTableModel *m = model(status ? "status" : "defect");
         m->select();
         const QModelIndex index = m->index(m->findRowById(id), m->fieldIndex(field));
         QVariant actual = m->data(index, role);
         // The reduction is shown as a check box the grid cannot toggle (the defect editor does).
-        QCOMPARE(bool(m->flags(index) & Qt::ItemIsEnabled), field != "reduction");
-        QCOMPARE(bool(m->flags(index) & Qt::ItemIsUserCheckable), field == "reduction");
+        if (!status) {
+            QCOMPARE(bool(m->flags(index) & Qt::ItemIsEnabled), field != "reduction");
+            QCOMPARE(bool(m->flags(index) & Qt::ItemIsUserCheckable), field == "reduction");
+        }
         if (expected.userType() == QMetaType::QString && expected.toString() == "<icon>") {
             QCOMPARE(actual.userType(), int(QMetaType::QIcon));
         } else if (!expected.isValid()) {
-            QVERIFY2(!actual.isValid(), qPrintable(actual.toString()));
+            // No data, or no text where the column holds text.
+            QVERIFY2(!actual.isValid() || (actual.userType() == QMetaType::QString && actual.toString().isEmpty()),
+                     qPrintable(actual.toString()));
         } else {
             QVERIFY(actual.convert(expected.userType()));
             QCOMPARE(actual, expected);
