@@ -223,39 +223,42 @@ private slots:
         }
     }
 
-    void fromOtherProject()
+    // Another project's companies, and the site journal's companies that are
+    // neither deleted (-2) nor the client (1); the source file is only read.
+    void sources_data()
     {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QStringList>("expected"); // the first and the last company read
+        QTest::newRow("project") << "project"
+                                 << QStringList{"type=Maler|company=Roth; Söhne GmbH",
+                                                "type=Elektro|company=Volt \"&\" Co|city=Bonn"};
+        QTest::newRow("site journal") << "journal"
+                                      << QStringList{"type=Maler|company=Roth GmbH|street=Weg 1",
+                                                     "type=Fliesen|company=Kaya|street=Weg 1"};
+    }
+
+    void sources()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QStringList, expected);
         QTemporaryDir dir;
-        const QString other = dir.filePath("anderes.pwp");
-        QVERIFY(createDefectProject(other));
-        const QByteArray hash = KalTestFiles::fileHash(other);
+        const QString file = dir.filePath(kind == "project" ? "anderes.pwp" : "bautagebuch.sjd");
+        QVERIFY(kind == "project" ? createDefectProject(file)
+                                  : createSiteJournal(file, {{"Roth GmbH", "Maler", "2"},
+                                                             {"Weg AG", "Abbruch", "-2"},
+                                                             {"Bauherr Meier", "", "1"},
+                                                             {"Kaya", "Fliesen", "2"}}));
+        const QByteArray hash = KalTestFiles::fileHash(file);
         const QStringList state = KalTestFiles::folderState(dir.path());
         QVector<KalCompanyRecord> companies;
         QString error;
-        QVERIFY2(KalCompanyImport::readProjectFile(other, &companies, &error), qPrintable(error));
+        QVERIFY2(kind == "project" ? KalCompanyImport::readProjectFile(file, &companies, &error)
+                                   : KalCompanyImport::readSiteJournal(file, &companies, &error),
+                 qPrintable(error));
         QCOMPARE(companies.size(), 2);
-        QCOMPARE(companies.at(0).value(R::Company), QStringLiteral("Roth; Söhne GmbH"));
-        QCOMPARE(companies.at(1).value(R::City), QStringLiteral("Bonn"));
+        QCOMPARE(QStringList({describe(companies.first()).join('|'), describe(companies.last()).join('|')}), expected);
         QCOMPARE(KalTestFiles::folderState(dir.path()), state); // no working copy, no user file
-        QCOMPARE(KalTestFiles::fileHash(other), hash);
-    }
-
-    void fromSiteJournal()
-    {
-        const QString journal = m_dir.filePath("bautagebuch.sjd");
-        QFile::remove(journal);
-        QVERIFY(createSiteJournal(journal, {{"Roth GmbH", "Maler", "2"},
-                                            {"Weg AG", "Abbruch", "-2"},
-                                            {"Bauherr Meier", "", "1"},
-                                            {"Kaya", "Fliesen", "2"}}));
-        const QByteArray hash = KalTestFiles::fileHash(journal);
-        QVector<KalCompanyRecord> companies;
-        QString error;
-        QVERIFY2(KalCompanyImport::readSiteJournal(journal, &companies, &error), qPrintable(error));
-        QCOMPARE(companies.size(), 2);
-        QCOMPARE(describe(companies.at(0)), (QStringList{"type=Maler", "company=Roth GmbH", "street=Weg 1"}));
-        QCOMPARE(companies.at(1).value(R::Company), QStringLiteral("Kaya"));
-        QCOMPARE(KalTestFiles::fileHash(journal), hash);
+        QCOMPARE(KalTestFiles::fileHash(file), hash);
     }
 
     void badSources_data()
