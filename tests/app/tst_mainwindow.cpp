@@ -10,6 +10,7 @@
 #include "gui/widgets/KalResources.h"
 #include "gui/widgets/KalTableView.h"
 #include "support/KalDialogAnswer.h"
+#include "support/KalHolderProcess.h"
 #include "support/KalScriptedPrompt.h"
 #include "support/KalTestFiles.h"
 #include "support/KalTestProject.h"
@@ -22,7 +23,6 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
-#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
@@ -836,10 +836,10 @@ private slots:
                 insertDefect({{"number", QString::number(i)}, {"description", "D"}});
             saveAsFile(file);
         }
-        QProcess holder;
+        std::unique_ptr<KalHolderProcess> holder;
         if (refusal == "held") {
-            holder.start(KalTestSettings::testBinDir() + "/kal_test_holder", {"hold", other});
-            QVERIFY(holder.waitForReadyRead(30000));
+            holder = std::make_unique<KalHolderProcess>("hold", other);
+            QVERIFY(holder->waitFor("ready") >= 0);
         } else {
             QVERIFY(KalTestFiles::execute(other, {"UPDATE meta SET value = '9.0' WHERE key = 'fileversion'"}));
         }
@@ -853,8 +853,6 @@ private slots:
         insertDefect({{"number", "3"}, {"description", "D"}});
         QCOMPARE(m_window->project()->saveProject(), int(KalProject::Saved));
         QCOMPARE(KalTestFiles::countRows(own, "defect"), 3);
-        holder.kill();
-        holder.waitForFinished(5000);
     }
 
     // The recovered state of a crashed run was never saved: giving it up asks.
