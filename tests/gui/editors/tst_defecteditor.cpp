@@ -264,22 +264,6 @@ private slots:
         QVERIFY(m_fx.reselect());
     }
 
-    void invalidDateKeepsDialogOpen()
-    {
-        const qint64 id = newDefect({{QStringLiteral("correction_date"), QDate(2031, 1, 2)}});
-        KalDefectEditor editor(m_fx.project(), rowOf(id));
-        editor.show();
-        auto *date = editor.findChild<KalDateEdit *>(QStringLiteral("deCorrectionDate"));
-        QCOMPARE(date->date(), QDate(2031, 1, 2));
-        date->setText(QStringLiteral("31.02.2020"));
-        kalPress(&editor, QDialogButtonBox::Ok);
-        QVERIFY(editor.isVisible());
-        QTRY_VERIFY(m_prompt->hasTitle(QStringLiteral("Format-Fehler")));
-        // The stored date is untouched.
-        QCOMPARE(m_fx.field("defect", id, "correction_date").toString(), QStringLiteral("2031-01-02"));
-        kalPress(&editor, QDialogButtonBox::Cancel);
-    }
-
     void newStatusFromEditor_data()
     {
         QTest::addColumn<QString>("name");
