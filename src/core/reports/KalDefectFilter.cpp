@@ -78,22 +78,34 @@ QString companyCondition(const State &state, QString *emptyLists)
     return state.defectsWithoutCompany ? without : QString();
 }
 
+// Value of `count` ASCII digits at `from`, -1 when one is not a digit.
+int digits(const QChar *text, int count)
+{
+    int value = 0;
+    for (int i = 0; i < count; ++i) {
+        const ushort c = text[i].unicode();
+        if (c < '0' || c > '9')
+            return -1;
+        value = value * 10 + (c - '0');
+    }
+    return value;
+}
+
 QDate isoDate(const QVariant &value)
 {
-    // Dates are stored as "yyyy-MM-dd"; read them without the general parser,
-    // which costs more than the query itself on long lists.
+    // Dates are stored as "yyyy-MM-dd" (another tool may add a time). The
+    // general parsers cost more than the query itself on long lists.
     if (value.isNull())
         return QDate();
     const QString text = value.toString();
-    if (text.size() < 10 || text.at(4) != QLatin1Char('-') || text.at(7) != QLatin1Char('-'))
-        return QDate::fromString(text, Qt::ISODate);
-    bool okY = false;
-    bool okM = false;
-    bool okD = false;
-    const int y = text.midRef(0, 4).toInt(&okY);
-    const int m = text.midRef(5, 2).toInt(&okM);
-    const int d = text.midRef(8, 2).toInt(&okD);
-    return okY && okM && okD ? QDate(y, m, d) : QDate();
+    const QChar *c = text.constData();
+    const bool timeFollows = text.size() > 10 && (c[10] == QLatin1Char('T') || c[10] == QLatin1Char(' '));
+    if ((text.size() != 10 && !timeFollows) || c[4] != QLatin1Char('-') || c[7] != QLatin1Char('-'))
+        return QDate();
+    const int y = digits(c, 4);
+    const int m = digits(c + 5, 2);
+    const int d = digits(c + 8, 2);
+    return y >= 0 && m >= 0 && d >= 0 ? QDate(y, m, d) : QDate();
 }
 
 bool exec(QSqlQuery &q, const QString &function)
@@ -342,7 +354,7 @@ KalDefectFilterResult KalDefectFilter::select(const State &state) const
         d.deadline2 = isoDate(q.value(5));
         d.imageCount = q.value(6).toInt();
         d.creationDate = isoDate(q.value(7));
-        result.defects.append(d);
+        result.defects.append(std::move(d));
     }
     if (result.defects.isEmpty()) {
         KalPrompt::information(title(), tr("Die Liste der ausgewählten Mängel ist leer, da kein Mangel die "

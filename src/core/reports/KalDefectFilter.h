@@ -29,6 +29,8 @@ struct KalFilteredDefect
     QDate currentDeadline() const;
 };
 
+Q_DECLARE_TYPEINFO(KalFilteredDefect, Q_MOVABLE_TYPE);
+
 struct KalDefectFilterResult
 {
     enum Outcome { Listed, ReversedDates, EmptyLists, NoMatch, QueryFailed };

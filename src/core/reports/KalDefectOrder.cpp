@@ -5,69 +5,73 @@
 #include <QHash>
 #include <algorithm>
 #include <limits>
+#include <tuple>
+#include <vector>
 
 namespace {
 
-// A defect number split for comparing: its leading digits as a value and
-// whatever follows ("12a" -> 12, "a").
-struct NumberKey
+// Everything an order compares, as plain numbers: cheap to move and compare
+// for long lists. A defect number counts by its leading digits ("12a" ->
+// 12), then by the text after them (kept aside, rarely needed); the id
+// settles the rest.
+struct SortKey
 {
-    int kind = 0; // 0: starts with digits, 1: does not
-    qint64 value = 0;
-    QString rest;
+    // Group (defects without the sorted value go to a later one), primary and
+    // secondary value in one word; see setOrder().
+    quint64 order = 0;
+    int numberKind = 0; // 0: starts with digits, 1: does not
+    qint64 numberValue = 0;
+    int numberDirection = 1;
+    qint64 id = 0;
+    int index = 0;
 
-    explicit NumberKey(const QString &number)
+    // group 0 or 1; |primary| < 2^30 (company ranks, day numbers of any
+    // date a text can hold); 0 <= secondary, clamped below 2^31.
+    void setOrder(int group, qint64 primary, qint64 secondary)
+    {
+        const qint64 limit = (qint64(1) << 31) - 1;
+        order = (quint64(group) << 62) | (quint64(primary + (qint64(1) << 30)) << 31) | quint64(qMin(secondary, limit));
+    }
+
+    // Returns the text after the leading digits.
+    QString setNumber(const QString &number, int direction)
     {
         const QString text = number.trimmed();
         int i = 0;
-        while (i < text.size() && text.at(i).isDigit() && text.at(i).unicode() < 128) {
+        qint64 value = 0;
+        while (i < text.size() && text.at(i).unicode() >= '0' && text.at(i).unicode() <= '9') {
             const int digit = text.at(i).unicode() - '0';
             // An absurdly long number saturates instead of wrapping around.
             value = value > (std::numeric_limits<qint64>::max() - digit) / 10 ? std::numeric_limits<qint64>::max()
                                                                               : value * 10 + digit;
             ++i;
         }
-        kind = i == 0 ? 1 : 0;
-        rest = text.mid(i);
+        numberKind = (i == 0 ? 1 : 0) * direction;
+        numberValue = value * direction;
+        numberDirection = direction;
+        return i < text.size() ? text.mid(i) : QString();
     }
 
-    int compare(const NumberKey &other) const
+    // -1, 0, 1 by everything but the text after the digits and the id.
+    int compareNumbers(const SortKey &o) const
     {
-        if (kind != other.kind)
-            return kind < other.kind ? -1 : 1;
-        if (value != other.value)
-            return value < other.value ? -1 : 1;
-        return rest.compare(other.rest);
+        const auto mine = std::tie(order, numberKind, numberValue);
+        const auto theirs = std::tie(o.order, o.numberKind, o.numberValue);
+        return mine < theirs ? -1 : theirs < mine ? 1 : 0;
     }
 };
 
-struct SortKey
+// Orders keys whose number texts after the digits are in `rests`.
+struct KeyLess
 {
-    int group = 0; // defects without the sorted value go to a later group
-    qint64 primary = 0;
-    qint64 secondary = 0;
-    int numberDirection = 1;
-    NumberKey number;
-    qint64 id = 0;
-    int index = 0;
-
-    explicit SortKey(const QString &n)
-        : number(n)
+    const std::vector<QString> &rests;
+    bool operator()(const SortKey &a, const SortKey &b) const
     {
-    }
-
-    bool operator<(const SortKey &o) const
-    {
-        if (group != o.group)
-            return group < o.group;
-        if (primary != o.primary)
-            return primary < o.primary;
-        if (secondary != o.secondary)
-            return secondary < o.secondary;
-        const int byNumber = number.compare(o.number) * numberDirection;
-        if (byNumber != 0)
-            return byNumber < 0;
-        return id < o.id;
+        const int byNumbers = a.compareNumbers(b);
+        if (byNumbers != 0)
+            return byNumbers < 0;
+        const int byRest = rests[size_t(a.index)].compare(rests[size_t(b.index)]) * a.numberDirection;
+        return byRest != 0 ? byRest < 0 : a.id < b.id;
     }
 };
 
@@ -77,17 +81,21 @@ qint64 dayOrLast(const QDate &date)
     return date.isValid() ? date.toJulianDay() : std::numeric_limits<qint64>::max();
 }
 
-// Rank of each lowered company name; few companies, many defects: names are
-// compared once per company, not once per pair of defects.
-QHash<QString, qint64> nameRanks(const QVector<KalFilteredDefect> &defects)
+// Rank of each company's lowered name; few companies, many defects: names
+// are lowered and compared once per company, not once per defect.
+QHash<qint64, qint64> nameRanks(const QVector<KalFilteredDefect> &defects)
 {
-    QHash<QString, qint64> ranks;
-    for (const KalFilteredDefect &d : defects)
-        ranks.insert(d.companyName.toLower(), 0);
-    QStringList names = ranks.keys();
+    QHash<qint64, QString> lowered;
+    for (const KalFilteredDefect &d : defects) {
+        if (!lowered.contains(d.companyId))
+            lowered.insert(d.companyId, d.companyName.toLower());
+    }
+    QStringList names = lowered.values();
     std::sort(names.begin(), names.end());
-    for (int i = 0; i < names.size(); ++i)
-        ranks[names.at(i)] = i;
+    names.erase(std::unique(names.begin(), names.end()), names.end());
+    QHash<qint64, qint64> ranks;
+    for (auto it = lowered.constBegin(); it != lowered.constEnd(); ++it)
+        ranks.insert(it.key(), std::lower_bound(names.begin(), names.end(), it.value()) - names.begin());
     return ranks;
 }
 
@@ -95,48 +103,39 @@ QHash<QString, qint64> nameRanks(const QVector<KalFilteredDefect> &defects)
 
 int KalDefectOrder::compareNumbers(const QString &a, const QString &b)
 {
-    return NumberKey(a).compare(NumberKey(b));
+    SortKey first;
+    SortKey second;
+    second.index = 1;
+    const std::vector<QString> rests{first.setNumber(a, 1), second.setNumber(b, 1)};
+    const KeyLess less{rests};
+    return less(first, second) ? -1 : less(second, first) ? 1 : 0;
 }
 
 void KalDefectOrder::sort(QVector<KalFilteredDefect> &defects, KalDefectFilterState::Sort by, bool ascending)
 {
     const int direction = ascending ? 1 : -1;
-    QHash<QString, qint64> ranks;
-    if (by == KalDefectFilterState::SortByCompany)
-        ranks = nameRanks(defects);
-
-    std::vector<SortKey> keys;
-    keys.reserve(size_t(defects.size()));
+    const QHash<qint64, qint64> ranks =
+        by == KalDefectFilterState::SortByCompany ? nameRanks(defects) : QHash<qint64, qint64>();
+    std::vector<SortKey> keys(size_t(defects.size()));
+    std::vector<QString> rests(size_t(defects.size()));
     for (int i = 0; i < defects.size(); ++i) {
         const KalFilteredDefect &d = defects.at(i);
-        SortKey key(d.number);
-        key.id = d.id;
+        SortKey &key = keys[size_t(i)];
         key.index = i;
-        switch (by) {
-        case KalDefectFilterState::SortByNumber:
-            key.numberDirection = direction;
-            break;
-        case KalDefectFilterState::SortByCompany: {
-            const QString lower = d.companyName.toLower();
-            key.group = ascending && lower.isEmpty() ? 1 : 0;
-            key.primary = ranks.value(lower) * direction;
-            key.secondary = dayOrLast(d.creationDate);
-            break;
-        }
-        case KalDefectFilterState::SortByCreationDate:
-        case KalDefectFilterState::SortByDeadline: {
+        key.id = d.id;
+        rests[size_t(i)] = key.setNumber(d.number, by == KalDefectFilterState::SortByNumber ? direction : 1);
+        if (by == KalDefectFilterState::SortByCompany) {
+            key.setOrder(ascending && d.companyName.isEmpty() ? 1 : 0, ranks.value(d.companyId) * direction,
+                         dayOrLast(d.creationDate));
+        } else if (by != KalDefectFilterState::SortByNumber) {
             const QDate date = by == KalDefectFilterState::SortByDeadline ? d.currentDeadline() : d.creationDate;
-            key.group = date.isValid() ? 0 : 1;
-            key.primary = date.isValid() ? date.toJulianDay() * direction : 0;
-            break;
+            key.setOrder(date.isValid() ? 0 : 1, date.isValid() ? date.toJulianDay() * direction : 0, 0);
         }
-        }
-        keys.push_back(std::move(key));
     }
-    std::sort(keys.begin(), keys.end());
+    std::sort(keys.begin(), keys.end(), KeyLess{rests});
     QVector<KalFilteredDefect> sorted;
     sorted.reserve(defects.size());
     for (const SortKey &key : keys)
-        sorted.append(defects.at(key.index));
+        sorted.append(std::move(defects[key.index]));
     defects.swap(sorted);
 }
