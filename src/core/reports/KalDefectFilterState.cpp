@@ -1,6 +1,7 @@
 #include "KalDefectFilterState.h"
 
-#include <algorithm>
+#include <QSet>
+
 #include <tuple>
 
 namespace {
@@ -141,26 +142,30 @@ KalDefectFilterState KalDefectFilterState::fromRows(const QVector<Row> &rows, co
                                                     const Offered &offered)
 {
     KalDefectFilterState state = defaults(today);
-    auto isOn = [&rows](const QString &k) {
-        return std::any_of(rows.begin(), rows.end(),
-                           [&k](const Row &r) { return r.key == k && r.value.toString() == checkedWord(); });
-    };
-    for (const DateField &d : Dates) {
-        for (const Row &r : rows) {
-            const QDate date = parseDate(r.date);
-            if (r.key == key(d.key) && date.isValid())
+    // One pass over the rows: a file may hold any number of them.
+    QSet<QString> switchedOn;
+    for (const Row &r : rows) {
+        if (r.value.toString() == checkedWord())
+            switchedOn.insert(r.key);
+        for (const DateField &d : Dates) {
+            const QDate date = r.key == key(d.key) ? parseDate(r.date) : QDate();
+            if (date.isValid())
                 state.*d.member = date;
         }
     }
+    auto isOn = [&switchedOn](const QString &k) { return switchedOn.contains(k); };
     for (const Switch &s : Switches)
         state.*s.member = isOn(key(s.key));
     for (int l = 0; l < ListCount; ++l) {
         state.listFilter[l] = isOn(key(FilterKeys[l]));
+        QSet<QString> seen; // a file may repeat an entry any number of times
         for (const Row &r : rows) {
             bool ok = false;
             const QVariant v = r.key == key(ListKeys[l]) ? listValue(List(l), r.value, &ok) : QVariant();
-            if (ok && !state.ticked[l].contains(v) && (!offered || offered(List(l), v)))
+            if (ok && !seen.contains(v.toString()) && (!offered || offered(List(l), v))) {
+                seen.insert(v.toString());
                 state.ticked[l].append(v);
+            }
         }
     }
     // Radio groups: an unreadable or missing choice keeps the default.

@@ -5,6 +5,7 @@
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
 
+#include <QSet>
 #include <QSettings>
 #include <QStandardItemModel>
 
@@ -119,11 +120,14 @@ void KalDefectFilterDialog::showList(int list)
     const QSignalBlocker blocker(m_listModel);
     m_listModel->clear();
     if (list >= 0) {
+        QSet<QString> ticked;
+        for (const QVariant &value : m_lists.ticked[list])
+            ticked.insert(value.toString());
         for (const KalDefectFilter::Item &entry : m_filter.values(State::List(list))) {
             auto *item = new QStandardItem(entry.text);
             item->setData(entry.value, Qt::UserRole);
             item->setCheckable(true);
-            item->setCheckState(m_lists.ticked[list].contains(entry.value) ? Qt::Checked : Qt::Unchecked);
+            item->setCheckState(ticked.contains(entry.value.toString()) ? Qt::Checked : Qt::Unchecked);
             m_listModel->appendRow(item);
         }
     }
