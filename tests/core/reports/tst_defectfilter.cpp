@@ -282,6 +282,41 @@ private slots:
         QVERIFY(m_prompt->shown().isEmpty());
     }
 
+    void numberOrder_data()
+    {
+        QTest::addColumn<QStringList>("numbers"); // ids 1, 2, ... in this order
+        QTest::addColumn<bool>("ascending");
+        QTest::addColumn<QString>("expected"); // number#id
+        QTest::newRow("numbers as numbers") << QStringList{"10", "9", "1", "2"} << true << "1#3,2#4,9#2,10#1";
+        QTest::newRow("text after the digits")
+            << QStringList{"10b", "10", "10a", "9"} << true << "9#4,10#2,10a#3,10b#1";
+        QTest::newRow("zeros and blanks") << QStringList{"007", " 8", "6"} << true << "6#3,007#1, 8#2";
+        QTest::newRow("no digits after numbers") << QStringList{"B", "", "12", "A"} << true << "12#3,#2,A#4,B#1";
+        QTest::newRow("descending mirrors") << QStringList{"B", "12", "A", "3"} << false << "B#1,A#3,12#2,3#4";
+        QTest::newRow("equal numbers by id") << QStringList{"5", "5", "4", "5"} << false << "5#1,5#2,5#4,4#3";
+        QTest::newRow("beyond 64 bits") << QStringList{"99999999999999999999999", "5"} << true
+                                        << "5#2,99999999999999999999999#1";
+    }
+
+    void numberOrder()
+    {
+        QFETCH(QStringList, numbers);
+        QFETCH(bool, ascending);
+        QFETCH(QString, expected);
+        QVector<KalFilteredDefect> defects;
+        for (const QString &number : numbers) {
+            KalFilteredDefect d;
+            d.id = defects.size() + 1;
+            d.number = number;
+            defects.append(d);
+        }
+        KalDefectFilter::sort(defects, State::SortByNumber, ascending);
+        QStringList got;
+        for (const KalFilteredDefect &d : defects)
+            got << d.number + '#' + QString::number(d.id);
+        QCOMPARE(got.join(','), expected);
+    }
+
     void savedStateSurvivesReopening();
     void restoreSkipsUnusableRows_data();
     void restoreSkipsUnusableRows();
