@@ -72,7 +72,8 @@ QString companyCondition(const State &state, QString *emptyLists)
         *emptyLists += QCoreApplication::translate("KalDefectFilter", Sources[State::CompanyList].emptyMessage);
         return QString();
     }
-    const QString in = QStringLiteral("company_id IN (%1)").arg(inList(State::CompanyList, state.ticked[0]));
+    const QString in =
+        QStringLiteral("company_id IN (%1)").arg(inList(State::CompanyList, state.ticked[State::CompanyList]));
     if (byCompany && hasCompanies)
         return state.defectsWithoutCompany ? QStringLiteral("(%1 OR %2)").arg(in, without) : in;
     return state.defectsWithoutCompany ? without : QString();
