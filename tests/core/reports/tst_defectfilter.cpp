@@ -317,6 +317,28 @@ private slots:
         QCOMPARE(got.join(','), expected);
     }
 
+    void failedQueriesAreReported_data()
+    {
+        QTest::addColumn<QString>("operation");
+        QTest::newRow("selection") << "filterDefectRecords";
+        QTest::newRow("value list") << "populateRoomNameModel";
+    }
+
+    void failedQueriesAreReported()
+    {
+        QFETCH(QString, operation);
+        // A damaged file: the table the filter reads is gone.
+        QVERIFY(m_fx.exec("ALTER TABLE defect RENAME TO defect_gone"));
+        KalDefectFilter filter(*m_fx.project());
+        const bool nothing = operation == "filterDefectRecords"
+                                 ? filter.select(State::defaults(day(1, 1))).defects.isEmpty()
+                                 : filter.values(State::RoomnameList).isEmpty();
+        QVERIFY(m_fx.exec("ALTER TABLE defect_gone RENAME TO defect"));
+        QVERIFY(nothing);
+        QCOMPARE(m_prompt->titles(), QStringList{"Datenbankfehler"});
+        QVERIFY(m_prompt->texts().first().contains("Function name: " + operation));
+    }
+
     void savedStateSurvivesReopening();
     void restoreSkipsUnusableRows_data();
     void restoreSkipsUnusableRows();
