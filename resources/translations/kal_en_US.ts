@@ -994,6 +994,252 @@ Lower-case letters are converted to capitals automatically.</translation>
     </message>
 </context>
 <context>
+    <name>KalDefectFilter</name>
+    <message>
+        <source>Nach Firma
+</source>
+        <translation>By company
+</translation>
+    </message>
+    <message>
+        <source>Nach Status
+</source>
+        <translation>By status
+</translation>
+    </message>
+    <message>
+        <source>Nach Typ
+</source>
+        <translation>By type
+</translation>
+    </message>
+    <message>
+        <source>Nach Raum
+</source>
+        <translation>By room
+</translation>
+    </message>
+    <message>
+        <source>Nach Raumbuch-Nr.
+</source>
+        <translation>By room schedule no.
+</translation>
+    </message>
+    <message>
+        <source>Nach Priorität
+</source>
+        <translation>By priority
+</translation>
+    </message>
+    <message>
+        <source>Datenauswahl zur Mängelliste</source>
+        <translation>Data selection for the defect list</translation>
+    </message>
+    <message>
+        <source>Fehleingabe bei der Datenauswahl der Mängelliste</source>
+        <translation>Input error in the data selection for the defect list</translation>
+    </message>
+    <message>
+        <source>Fehler bei den Erfassungsdaten:
+ Das Von-Datum muss vor dem Bis-Datum liegen.</source>
+        <translation>Error in the recording dates:
+ The from date must be before the to date.</translation>
+    </message>
+    <message>
+        <source>Sie haben folgende Filter eingeschaltet ohne eine Auswahl zu treffen:
+</source>
+        <translation>You have turned on the following filters without making a selection:
+</translation>
+    </message>
+    <message>
+        <source>Die Liste der ausgewählten Mängel ist leer, da kein Mangel die eingestellten Auswahlkriterien erfüllt.</source>
+        <translation>The list of selected defects is empty because no defect meets the selection criteria.</translation>
+    </message>
+    <message>
+        <source>Beachten Sie, dass das Von-Datum vor dem Bis-Datum liegen muss.</source>
+        <translation>Please note that the from date must be before the to date.</translation>
+    </message>
+</context>
+<context>
+    <name>KalDefectFilterDialog</name>
+    <message>
+        <source>Datenauswahl zur Mängelliste</source>
+        <translation>Data selection for the defect list</translation>
+    </message>
+    <message>
+        <source>Filtern der Mängel</source>
+        <translation>Filter the defects</translation>
+    </message>
+    <message>
+        <source>Um nur bestimmte Mängel zu drucken, setzen Sie bitte die entsprechenden Filter. 
+Um alle Mängel zu drucken, entfernen Sie sämtliche Häkchen.</source>
+        <translation>To print only certain defects, please set the corresponding filters. 
+To print all defects, remove all check marks.</translation>
+    </message>
+    <message>
+        <source>Nach Erfassungsdatum</source>
+        <translation>By recording date</translation>
+    </message>
+    <message>
+        <source>von</source>
+        <translation>from</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>to</translation>
+    </message>
+    <message>
+        <source>Nach  Fristablauf spätestens:</source>
+        <translation>By deadline, expiring at the latest:</translation>
+    </message>
+    <message>
+        <source>Nach Firma</source>
+        <translation>By company</translation>
+    </message>
+    <message>
+        <source>Mängel ohne Firmenzuordnung</source>
+        <translation>Defects without a company</translation>
+    </message>
+    <message>
+        <source>Nach Status</source>
+        <translation>By status</translation>
+    </message>
+    <message>
+        <source>Nach Typ</source>
+        <translation>By type</translation>
+    </message>
+    <message>
+        <source>Nach Raum</source>
+        <translation>By room</translation>
+    </message>
+    <message>
+        <source>Nach Raumbuch-Nr.</source>
+        <translation>By room schedule no.</translation>
+    </message>
+    <message>
+        <source>Nach Priorität</source>
+        <translation>By priority</translation>
+    </message>
+    <message>
+        <source>Nach Minderung</source>
+        <translation>By price reduction</translation>
+    </message>
+    <message>
+        <source>mit Minderung</source>
+        <translation>with price reduction</translation>
+    </message>
+    <message>
+        <source>ohne Minderung</source>
+        <translation>without price reduction</translation>
+    </message>
+    <message>
+        <source>Alle Filter zurücksetzen</source>
+        <translation>Reset all filters</translation>
+    </message>
+    <message>
+        <source>Auswahl</source>
+        <translation>Selection</translation>
+    </message>
+    <message>
+        <source>Alle wählen</source>
+        <translation>Select all</translation>
+    </message>
+    <message>
+        <source>Auswahl aufheben</source>
+        <translation>Clear selection</translation>
+    </message>
+    <message>
+        <source>Auswahl umkehren</source>
+        <translation>Invert selection</translation>
+    </message>
+    <message>
+        <source>Sortierung</source>
+        <translation>Sort order</translation>
+    </message>
+    <message>
+        <source>nach Nummer</source>
+        <translation>by number</translation>
+    </message>
+    <message>
+        <source>nach Firmenname</source>
+        <translation>by company name</translation>
+    </message>
+    <message>
+        <source>nach Erfassungsdatum</source>
+        <translation>by recording date</translation>
+    </message>
+    <message>
+        <source>nach Frist</source>
+        <translation>by deadline</translation>
+    </message>
+    <message>
+        <source>aufsteigend</source>
+        <translation>ascending</translation>
+    </message>
+    <message>
+        <source>absteigend</source>
+        <translation>descending</translation>
+    </message>
+    <message>
+        <source>Fotos und Pläne</source>
+        <translation>Photos and plans</translation>
+    </message>
+    <message>
+        <source>Ausgabe der Fotos innerhalb der Liste</source>
+        <translation>Print the photos within the list</translation>
+    </message>
+    <message>
+        <source>Ausgabe der Fotos als Anhang</source>
+        <translation>Print the photos as an appendix</translation>
+    </message>
+    <message>
+        <source>Ausgabe der Pläne als Anhang</source>
+        <translation>Print the plans as an appendix</translation>
+    </message>
+    <message>
+        <source>Drucken</source>
+        <translation>Print</translation>
+    </message>
+    <message>
+        <source>Druckvorschau</source>
+        <translation>Print preview</translation>
+    </message>
+    <message>
+        <source>PDF speichern</source>
+        <translation>Save PDF</translation>
+    </message>
+    <message>
+        <source>Speichern und beenden</source>
+        <translation>Save and close</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Möchten Sie das Häkchen entfernen?
+
+Dann klicken Sie bitte nochmals. Beim ersten Klick wird die Auswahl-Liste des Filters geladen, erst beim zweiten Klick wird das Häkchen entfernt.
+</source>
+        <translation>Do you want to remove the check mark?
+
+Then please click again. The first click loads the filter&apos;s selection list; only the second click removes the check mark.
+</translation>
+    </message>
+    <message>
+        <source>Diese Meldung nicht mehr anzeigen</source>
+        <translation>Do not show this message again</translation>
+    </message>
+    <message>
+        <source>Wollen Sie wirklich alle Filter, Daten und Auswahllisten zurücksetzen?</source>
+        <translation>Do you really want to reset all filters, dates and selection lists?</translation>
+    </message>
+    <message>
+        <source>Fortfahren</source>
+        <translation>Continue</translation>
+    </message>
+</context>
+<context>
     <name>KalItemDelegate</name>
     <message>
         <source>Format-Fehler</source>

@@ -994,6 +994,252 @@ Las minúsculas se convierten automáticamente en mayúsculas.</translation>
     </message>
 </context>
 <context>
+    <name>KalDefectFilter</name>
+    <message>
+        <source>Nach Firma
+</source>
+        <translation>Por empresa
+</translation>
+    </message>
+    <message>
+        <source>Nach Status
+</source>
+        <translation>Por estado
+</translation>
+    </message>
+    <message>
+        <source>Nach Typ
+</source>
+        <translation>Por tipo
+</translation>
+    </message>
+    <message>
+        <source>Nach Raum
+</source>
+        <translation>Por estancia
+</translation>
+    </message>
+    <message>
+        <source>Nach Raumbuch-Nr.
+</source>
+        <translation>Por n.º de libro de estancias
+</translation>
+    </message>
+    <message>
+        <source>Nach Priorität
+</source>
+        <translation>Por prioridad
+</translation>
+    </message>
+    <message>
+        <source>Datenauswahl zur Mängelliste</source>
+        <translation>Selección de datos para la lista de defectos</translation>
+    </message>
+    <message>
+        <source>Fehleingabe bei der Datenauswahl der Mängelliste</source>
+        <translation>Error de entrada en la selección de datos de la lista de defectos</translation>
+    </message>
+    <message>
+        <source>Fehler bei den Erfassungsdaten:
+ Das Von-Datum muss vor dem Bis-Datum liegen.</source>
+        <translation>Error en las fechas de registro:
+ La fecha inicial debe ser anterior a la fecha final.</translation>
+    </message>
+    <message>
+        <source>Sie haben folgende Filter eingeschaltet ohne eine Auswahl zu treffen:
+</source>
+        <translation>Ha activado los siguientes filtros sin hacer ninguna selección:
+</translation>
+    </message>
+    <message>
+        <source>Die Liste der ausgewählten Mängel ist leer, da kein Mangel die eingestellten Auswahlkriterien erfüllt.</source>
+        <translation>La lista de defectos seleccionados está vacía porque ningún defecto cumple los criterios de selección.</translation>
+    </message>
+    <message>
+        <source>Beachten Sie, dass das Von-Datum vor dem Bis-Datum liegen muss.</source>
+        <translation>Tenga en cuenta que la fecha inicial debe ser anterior a la fecha final.</translation>
+    </message>
+</context>
+<context>
+    <name>KalDefectFilterDialog</name>
+    <message>
+        <source>Datenauswahl zur Mängelliste</source>
+        <translation>Selección de datos para la lista de defectos</translation>
+    </message>
+    <message>
+        <source>Filtern der Mängel</source>
+        <translation>Filtrar los defectos</translation>
+    </message>
+    <message>
+        <source>Um nur bestimmte Mängel zu drucken, setzen Sie bitte die entsprechenden Filter. 
+Um alle Mängel zu drucken, entfernen Sie sämtliche Häkchen.</source>
+        <translation>Para imprimir solo determinados defectos, active los filtros correspondientes. 
+Para imprimir todos los defectos, quite todas las marcas.</translation>
+    </message>
+    <message>
+        <source>Nach Erfassungsdatum</source>
+        <translation>Por fecha de registro</translation>
+    </message>
+    <message>
+        <source>von</source>
+        <translation>desde</translation>
+    </message>
+    <message>
+        <source>bis</source>
+        <translation>hasta</translation>
+    </message>
+    <message>
+        <source>Nach  Fristablauf spätestens:</source>
+        <translation>Por plazo, que vence a más tardar el:</translation>
+    </message>
+    <message>
+        <source>Nach Firma</source>
+        <translation>Por empresa</translation>
+    </message>
+    <message>
+        <source>Mängel ohne Firmenzuordnung</source>
+        <translation>Defectos sin empresa asignada</translation>
+    </message>
+    <message>
+        <source>Nach Status</source>
+        <translation>Por estado</translation>
+    </message>
+    <message>
+        <source>Nach Typ</source>
+        <translation>Por tipo</translation>
+    </message>
+    <message>
+        <source>Nach Raum</source>
+        <translation>Por estancia</translation>
+    </message>
+    <message>
+        <source>Nach Raumbuch-Nr.</source>
+        <translation>Por n.º de libro de estancias</translation>
+    </message>
+    <message>
+        <source>Nach Priorität</source>
+        <translation>Por prioridad</translation>
+    </message>
+    <message>
+        <source>Nach Minderung</source>
+        <translation>Por reducción de precio</translation>
+    </message>
+    <message>
+        <source>mit Minderung</source>
+        <translation>con reducción de precio</translation>
+    </message>
+    <message>
+        <source>ohne Minderung</source>
+        <translation>sin reducción de precio</translation>
+    </message>
+    <message>
+        <source>Alle Filter zurücksetzen</source>
+        <translation>Restablecer todos los filtros</translation>
+    </message>
+    <message>
+        <source>Auswahl</source>
+        <translation>Selección</translation>
+    </message>
+    <message>
+        <source>Alle wählen</source>
+        <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Auswahl aufheben</source>
+        <translation>Anular la selección</translation>
+    </message>
+    <message>
+        <source>Auswahl umkehren</source>
+        <translation>Invertir la selección</translation>
+    </message>
+    <message>
+        <source>Sortierung</source>
+        <translation>Ordenación</translation>
+    </message>
+    <message>
+        <source>nach Nummer</source>
+        <translation>por número</translation>
+    </message>
+    <message>
+        <source>nach Firmenname</source>
+        <translation>por nombre de empresa</translation>
+    </message>
+    <message>
+        <source>nach Erfassungsdatum</source>
+        <translation>por fecha de registro</translation>
+    </message>
+    <message>
+        <source>nach Frist</source>
+        <translation>por plazo</translation>
+    </message>
+    <message>
+        <source>aufsteigend</source>
+        <translation>ascendente</translation>
+    </message>
+    <message>
+        <source>absteigend</source>
+        <translation>descendente</translation>
+    </message>
+    <message>
+        <source>Fotos und Pläne</source>
+        <translation>Fotos y planos</translation>
+    </message>
+    <message>
+        <source>Ausgabe der Fotos innerhalb der Liste</source>
+        <translation>Imprimir las fotos dentro de la lista</translation>
+    </message>
+    <message>
+        <source>Ausgabe der Fotos als Anhang</source>
+        <translation>Imprimir las fotos como anexo</translation>
+    </message>
+    <message>
+        <source>Ausgabe der Pläne als Anhang</source>
+        <translation>Imprimir los planos como anexo</translation>
+    </message>
+    <message>
+        <source>Drucken</source>
+        <translation>Imprimir</translation>
+    </message>
+    <message>
+        <source>Druckvorschau</source>
+        <translation>Vista previa de impresión</translation>
+    </message>
+    <message>
+        <source>PDF speichern</source>
+        <translation>Guardar PDF</translation>
+    </message>
+    <message>
+        <source>Speichern und beenden</source>
+        <translation>Guardar y cerrar</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Möchten Sie das Häkchen entfernen?
+
+Dann klicken Sie bitte nochmals. Beim ersten Klick wird die Auswahl-Liste des Filters geladen, erst beim zweiten Klick wird das Häkchen entfernt.
+</source>
+        <translation>¿Desea quitar la marca?
+
+Entonces haga clic de nuevo. El primer clic carga la lista de selección del filtro; solo el segundo clic quita la marca.
+</translation>
+    </message>
+    <message>
+        <source>Diese Meldung nicht mehr anzeigen</source>
+        <translation>No volver a mostrar este mensaje</translation>
+    </message>
+    <message>
+        <source>Wollen Sie wirklich alle Filter, Daten und Auswahllisten zurücksetzen?</source>
+        <translation>¿Realmente desea restablecer todos los filtros, fechas y listas de selección?</translation>
+    </message>
+    <message>
+        <source>Fortfahren</source>
+        <translation>Continuar</translation>
+    </message>
+</context>
+<context>
     <name>KalItemDelegate</name>
     <message>
         <source>Format-Fehler</source>

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "core/reports/KalDefectFilter.h"
+#include "core/reports/KalDefectFilterState.h"
+
+#include <QDialog>
+#include <array>
+#include <memory>
+
+class KalProject;
+class QCheckBox;
+class QStandardItem;
+class QStandardItemModel;
+
+namespace Ui {
+class KalDefectFilterDialog;
+}
+
+// In front of every defect list: which defects, in which order, with which
+// pictures. Opens with the choices last saved in the project; "Speichern und
+// beenden" keeps them there, cancelling drops what changed.
+class KalDefectFilterDialog : public QDialog
+{
+    Q_OBJECT
+
+public:
+    explicit KalDefectFilterDialog(KalProject *project, QWidget *parent = nullptr);
+    ~KalDefectFilterDialog() override;
+
+    // The choices as the widgets show them now.
+    KalDefectFilterState state() const;
+
+private slots:
+    void slotListFilterClicked(int list, bool checked);
+    void slotSelectionListItemChanged(QStandardItem *item);
+    void slotSelectionListCheckAllClicked();
+    void slotSelectionListUncheckAllClicked();
+    void slotSelectionListReverseSeletionClicked();
+    void slotCreationDateEditingFinished();
+    void slotResetFiltersClicked();
+    void slotSaveClicked();
+
+protected:
+    void done(int result) override;
+
+private:
+    QCheckBox *listBox(KalDefectFilterState::List list) const;
+    void applyState(const KalDefectFilterState &state);
+    void showList(int list);
+    void setAllItems(const std::function<Qt::CheckState(Qt::CheckState)> &change);
+    void explainSecondClick();
+
+    KalProject *m_project;
+    KalDefectFilter m_filter;
+    std::unique_ptr<Ui::KalDefectFilterDialog> m_ui;
+    QStandardItemModel *m_listModel;
+    // Lists and ticked entries live here; the widgets hold everything else.
+    KalDefectFilterState m_lists;
+    int m_shownList = -1; // the list the view shows, -1: none
+};
