@@ -84,8 +84,11 @@ KalPhotoEditor::KalPhotoEditor(const QImage &picture, QWidget *parent)
 KalPhotoEditor::~KalPhotoEditor()
 {
     QSettings().setValue(QLatin1String(kGeometryKey), saveGeometry());
-    // The commands may own objects outside the scene; they go before it.
     m_undo.clear();
+    for (QGraphicsItem *item : qAsConst(m_created)) {
+        if (!item->scene())
+            delete item;
+    }
 }
 
 QToolButton *KalPhotoEditor::toolButton(const char *name) const
@@ -414,6 +417,7 @@ void KalPhotoEditor::deleteSelected()
 
 void KalPhotoEditor::objectCreated(QGraphicsItem *item)
 {
+    m_created.append(item);
     if (auto *text = qgraphicsitem_cast<KalGraphicsTextItem *>(item))
         connect(text, &KalGraphicsTextItem::textDocumentChanged, this, &KalPhotoEditor::slotTextDocumentChanged);
     m_undo.push(new KalPhotoEditorItemsCommand(m_scene, {item}, KalPhotoEditorItemsCommand::Add, tr("Einfügen")));

@@ -70,9 +70,10 @@ private:
 
     std::unique_ptr<Ui::KalPhotoEditor> m_ui;
     KalPhotoEditorGraphicsScene *m_scene;
-    // Declared after the scene's owner so that it goes first: its commands
-    // may hold objects that are not in the scene.
     QUndoStack m_undo;
+    // Every object ever created; those outside the scene (deleted, or undone)
+    // are deleted with the editor.
+    QList<QGraphicsItem *> m_created;
     QImage m_result;
     // One step of line width in picture pixels, by picture size.
     qreal m_widthUnit = 1;

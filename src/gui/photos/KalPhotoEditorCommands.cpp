@@ -30,14 +30,6 @@ KalPhotoEditorItemsCommand::KalPhotoEditorItemsCommand(QGraphicsScene *scene, co
 {
 }
 
-KalPhotoEditorItemsCommand::~KalPhotoEditorItemsCommand()
-{
-    for (QGraphicsItem *item : qAsConst(m_items)) {
-        if (!item->scene())
-            delete item;
-    }
-}
-
 void KalPhotoEditorItemsCommand::place(bool intoScene)
 {
     for (QGraphicsItem *item : qAsConst(m_items)) {

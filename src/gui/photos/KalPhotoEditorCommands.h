@@ -21,15 +21,14 @@ struct KalItemPlacement
     bool operator==(const KalItemPlacement &other) const;
 };
 
-// Adds objects to or removes them from the scene. Objects outside the scene
-// belong to the command and go with it.
+// Adds objects to or removes them from the scene. Several commands may hold
+// the same object, so none of them deletes it: the editor does when it goes.
 class KalPhotoEditorItemsCommand : public QUndoCommand
 {
 public:
     enum Action { Add, Remove };
     KalPhotoEditorItemsCommand(QGraphicsScene *scene, const QList<QGraphicsItem *> &items, Action action,
                                const QString &text);
-    ~KalPhotoEditorItemsCommand() override;
 
     void redo() override;
     void undo() override;
