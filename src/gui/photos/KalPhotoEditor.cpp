@@ -500,12 +500,16 @@ void KalPhotoEditor::textEditRequested(KalGraphicsTextItem *item)
 void KalPhotoEditor::ownSymbol()
 {
     KalTextEditor editor(KalTextEditor::Symbol, this);
+    KalTextEditor::Values start = editor.values();
+    start.size = m_textPointSize * 2;
+    start.color = m_scene->color();
+    editor.setValues(start);
     if (editor.exec() != QDialog::Accepted)
         return;
     const KalTextEditor::Values values = editor.values();
     if (values.text.trimmed().isEmpty())
         return;
-    m_scene->setChosenSymbol(values.text, values.family);
+    m_scene->setChosenSymbol(values.text, values.family, values.size, values.color, values.properties);
     startTool(KalPhotoEditorGraphicsScene::ChosenSymbol);
 }
 

@@ -84,10 +84,14 @@ void KalPhotoEditorGraphicsScene::setTriangle(KalPhotoEditorShapes::Direction di
     m_triangleDirection = direction;
 }
 
-void KalPhotoEditorGraphicsScene::setChosenSymbol(const QString &text, const QString &family)
+void KalPhotoEditorGraphicsScene::setChosenSymbol(const QString &text, const QString &family, int pointSize,
+                                                  const QColor &color, int properties)
 {
     m_chosenSymbol = text;
     m_chosenFamily = family;
+    m_chosenPointSize = pointSize;
+    m_chosenColor = color;
+    m_chosenProperties = properties;
 }
 
 void KalPhotoEditorGraphicsScene::setDefaultSizes(qreal arrowLength, int symbolPointSize)
@@ -184,9 +188,12 @@ void KalPhotoEditorGraphicsScene::place(const QPointF &scenePos)
         return;
     auto *item = new KalGraphicsTextItem;
     item->setPlainText(symbol);
-    item->setFontFamily(m_mode == ChosenSymbol && !m_chosenFamily.isEmpty() ? m_chosenFamily : symbolFamily(symbol));
-    item->setFontSize(m_symbolPointSize);
-    item->setTextColor(m_color);
+    const bool chosen = m_mode == ChosenSymbol;
+    item->setFontFamily(chosen && !m_chosenFamily.isEmpty() ? m_chosenFamily : symbolFamily(symbol));
+    item->setFontSize(chosen && m_chosenPointSize > 0 ? m_chosenPointSize : m_symbolPointSize);
+    item->setTextColor(chosen && m_chosenColor.isValid() ? m_chosenColor : m_color);
+    if (chosen)
+        item->setTextProperties(m_chosenProperties);
     const QPointF centre = item->boundingRect().center();
     item->setTransformOriginPoint(centre);
     item->setPos(scenePos - centre);
@@ -298,6 +305,10 @@ void KalPhotoEditorGraphicsScene::mouseReleaseEvent(QGraphicsSceneMouseEvent *ev
 void KalPhotoEditorGraphicsScene::mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event)
 {
     if (m_drawing && m_mode == Polyline) {
+        // The double-clicked point ends the line, however many presses came
+        // before the double click.
+        m_points.last() = event->scenePos();
+        m_points.append(event->scenePos());
         finishDrawing();
         event->accept();
         return;

@@ -54,8 +54,10 @@ public:
     void setMode(int mode);
     void setArrow(int number, KalPhotoEditorShapes::Direction direction);
     void setTriangle(KalPhotoEditorShapes::Direction direction);
-    // The character and font the chosen-symbol mode places.
-    void setChosenSymbol(const QString &text, const QString &family);
+    // The text and font the chosen-symbol mode places; without a size or
+    // colour it gets those of symbols.
+    void setChosenSymbol(const QString &text, const QString &family, int pointSize = 0, const QColor &color = QColor(),
+                         int properties = 0);
 
     void setColor(const QColor &color) { m_color = color; }
     QColor color() const { return m_color; }
@@ -101,6 +103,9 @@ private:
     KalPhotoEditorShapes::Direction m_triangleDirection = KalPhotoEditorShapes::Right;
     QString m_chosenSymbol;
     QString m_chosenFamily;
+    int m_chosenPointSize = 0;
+    QColor m_chosenColor;
+    int m_chosenProperties = 0;
     QColor m_color = Qt::red;
     qreal m_lineWidth = 4;
     qreal m_arrowLength = 150;

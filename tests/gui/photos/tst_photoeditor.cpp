@@ -173,6 +173,19 @@ private slots:
         QVERIFY(changed.width() >= extent.width() - slack && changed.height() >= extent.height() - slack);
     }
 
+    void polylineEndsAtTheDoubleClick()
+    {
+        open();
+        press("tbPolygon");
+        for (const QPointF &corner : {QPointF(100, 100), QPointF(150, 200)})
+            QTest::mouseClick(view()->viewport(), Qt::LeftButton, {}, at(corner));
+        QTest::mouseDClick(view()->viewport(), Qt::LeftButton, {}, at({300, 120}));
+        const QRect changed = changedArea(photo(), apply());
+        const qreal slack = 1 / view()->transform().m11() + 4;
+        QVERIFY(QRectF(100, 100, 200, 100).adjusted(-slack, -slack, slack, slack).contains(changed));
+        QVERIFY2(changed.right() >= 300 - slack, "the last corner is missing");
+    }
+
     void turnsRestoreThePicture_data()
     {
         QTest::addColumn<QString>("tool");
