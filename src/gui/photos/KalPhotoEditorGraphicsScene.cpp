@@ -6,6 +6,7 @@
 
 #include <QGraphicsPixmapItem>
 #include <QGraphicsSceneMouseEvent>
+#include <QGraphicsView>
 #include <QHash>
 #include <QPainter>
 #include <QtMath>
@@ -14,6 +15,8 @@ namespace {
 
 // Objects smaller than this (in picture pixels) were a slip of the mouse.
 const qreal kMinimumSize = 2;
+// How near (in screen pixels) a press must be to a corner handle.
+const qreal kHandleReach = 6;
 
 QString symbolFamily(const QString &symbol)
 {
@@ -228,9 +231,36 @@ void KalPhotoEditorGraphicsScene::finishDrawing()
     created(item);
 }
 
+bool KalPhotoEditorGraphicsScene::startResize(QGraphicsSceneMouseEvent *event)
+{
+    const auto *view = event->widget() ? qobject_cast<QGraphicsView *>(event->widget()->parentWidget()) : nullptr;
+    const qreal zoom = view ? qSqrt(qAbs(view->transform().determinant())) : 1.0;
+    const QList<QGraphicsItem *> selected = selectedItems();
+    for (QGraphicsItem *item : selected) {
+        const QRectF frame = item->boundingRect();
+        for (const QPointF &corner : {frame.topLeft(), frame.topRight(), frame.bottomLeft(), frame.bottomRight()}) {
+            const QPointF handle = item->mapToScene(corner);
+            if (QLineF(handle, event->scenePos()).length() * zoom > kHandleReach)
+                continue;
+            const QPointF origin = item->mapToScene(item->transformOriginPoint());
+            m_resizeStartDistance = QLineF(origin, event->scenePos()).length();
+            if (m_resizeStartDistance < 1)
+                return false;
+            m_resizing = item;
+            m_resizeBefore = KalItemPlacement::of(item);
+            return true;
+        }
+    }
+    return false;
+}
+
 void KalPhotoEditorGraphicsScene::mousePressEvent(QGraphicsSceneMouseEvent *event)
 {
     const QPointF point = event->scenePos();
+    if (m_mode == Select && event->button() == Qt::LeftButton && startResize(event)) {
+        event->accept();
+        return;
+    }
     if (m_mode == Select || event->button() != Qt::LeftButton) {
         if (m_drawing && event->button() == Qt::RightButton) {
             finishDrawing();
@@ -269,6 +299,13 @@ void KalPhotoEditorGraphicsScene::mousePressEvent(QGraphicsSceneMouseEvent *even
 
 void KalPhotoEditorGraphicsScene::mouseMoveEvent(QGraphicsSceneMouseEvent *event)
 {
+    if (m_resizing) {
+        // Scaled about its origin, which stays where it is.
+        const QPointF origin = m_resizing->mapToScene(m_resizing->transformOriginPoint());
+        const qreal factor = QLineF(origin, event->scenePos()).length() / m_resizeStartDistance;
+        m_resizing->setScale(qMax(0.05, m_resizeBefore.scale * factor));
+        return;
+    }
     if (!m_drawing) {
         QGraphicsScene::mouseMoveEvent(event);
         return;
@@ -282,6 +319,14 @@ void KalPhotoEditorGraphicsScene::mouseMoveEvent(QGraphicsSceneMouseEvent *event
 
 void KalPhotoEditorGraphicsScene::mouseReleaseEvent(QGraphicsSceneMouseEvent *event)
 {
+    if (m_resizing) {
+        QGraphicsItem *item = m_resizing;
+        m_resizing = nullptr;
+        const KalItemPlacement after = KalItemPlacement::of(item);
+        if (!(after == m_resizeBefore))
+            emit objectsMoved({item}, {m_resizeBefore}, {after});
+        return;
+    }
     if (m_drawing) {
         if (m_mode != Polyline) {
             m_points.last() = event->scenePos();

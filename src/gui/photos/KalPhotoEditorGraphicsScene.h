@@ -89,6 +89,7 @@ protected:
     void mouseDoubleClickEvent(QGraphicsSceneMouseEvent *event) override;
 
 private:
+    bool startResize(QGraphicsSceneMouseEvent *event);
     KalPhotoEditorShapes::Paths dragPaths(const QPointF &end) const;
     void place(const QPointF &scenePos);
     QString symbolForMode() const;
@@ -115,6 +116,10 @@ private:
     KalPhotoEditorShapeItem *m_drawing = nullptr;
     QPointF m_start;
     QVector<QPointF> m_points;
+    // Scaling an object by one of its corner handles.
+    QGraphicsItem *m_resizing = nullptr;
+    KalItemPlacement m_resizeBefore;
+    qreal m_resizeStartDistance = 1;
     QList<QGraphicsItem *> m_pressed;
     QList<KalItemPlacement> m_pressedPlacements;
 };

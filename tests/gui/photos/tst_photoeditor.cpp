@@ -257,6 +257,18 @@ private slots:
             QCOMPARE(QColor(result.pixel(untouched.toPoint())), kBackground);
     }
 
+    void cornerHandleScales()
+    {
+        open();
+        drawLine(); // 2 px wide: its frame reaches 2 px beyond the line
+        drag({302, 152}, {402, 152});
+        const QImage scaled = apply();
+        QVERIFY(!scaled.isNull());
+        // About twice as long, about its middle.
+        QVERIFY(reddish(scaled.pixel(385, 150)));
+        QVERIFY(reddish(scaled.pixel(15, 150)));
+    }
+
     void undoRestores_data()
     {
         QTest::addColumn<QString>("operation");
@@ -264,6 +276,7 @@ private slots:
         QTest::newRow("move") << "move";
         QTest::newRow("rotate") << "tbRotateRight";
         QTest::newRow("enlarge") << "tbUpscale";
+        QTest::newRow("corner handle") << "handle";
         QTest::newRow("colour") << "tbColor";
         QTest::newRow("line width") << "width";
         QTest::newRow("delete") << "delete";
@@ -281,6 +294,8 @@ private slots:
                 drawLine();
             else if (operation == "move")
                 drag({200, 150}, {200, 60});
+            else if (operation == "handle")
+                drag({302, 152}, {352, 180});
             else if (operation == "width")
                 trigger("tbLineWidth", "actionLineWidth8");
             else if (operation == "delete")
