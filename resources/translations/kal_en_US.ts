@@ -1689,6 +1689,14 @@ This cannot be undone.</translation>
         <source>Sollen die Änderungen verworfen werden?</source>
         <translation>Do you want to discard the changes?</translation>
     </message>
+    <message>
+        <source>waagerecht</source>
+        <translation>horizontal</translation>
+    </message>
+    <message>
+        <source>senkrecht</source>
+        <translation>vertical</translation>
+    </message>
 </context>
 <context>
     <name>KalPlanPanel</name>

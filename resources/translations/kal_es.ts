@@ -1689,6 +1689,14 @@ Esta operación no se puede deshacer.</translation>
         <source>Sollen die Änderungen verworfen werden?</source>
         <translation>¿Desea descartar los cambios?</translation>
     </message>
+    <message>
+        <source>waagerecht</source>
+        <translation>horizontal</translation>
+    </message>
+    <message>
+        <source>senkrecht</source>
+        <translation>vertical</translation>
+    </message>
 </context>
 <context>
     <name>KalPlanPanel</name>

@@ -63,6 +63,13 @@ KalPhotoEditor::KalPhotoEditor(const QImage &picture, QWidget *parent)
     connect(m_scene, &KalPhotoEditorGraphicsScene::objectsMoved, this, &KalPhotoEditor::objectsMoved);
     connect(m_scene, &KalPhotoEditorGraphicsScene::textRequested, this, &KalPhotoEditor::textRequested);
     connect(m_scene, &KalPhotoEditorGraphicsScene::textEditRequested, this, &KalPhotoEditor::textEditRequested);
+    // A drawing tool shows itself by the cross cursor until its object is made.
+    connect(m_scene, &KalPhotoEditorGraphicsScene::modeChanged, this, [this](int mode) {
+        if (mode == KalPhotoEditorGraphicsScene::Select)
+            m_ui->gvPhoto->viewport()->unsetCursor();
+        else
+            m_ui->gvPhoto->viewport()->setCursor(Qt::CrossCursor);
+    });
     connect(m_ui->gvPhoto, &KalPhotoEditorGraphicsView::deleteRequested, this, &KalPhotoEditor::deleteSelected);
     connect(m_ui->pbOk, &QPushButton::clicked, this, &KalPhotoEditor::okClicked);
     connect(m_ui->pbCancel, &QPushButton::clicked, this, &KalPhotoEditor::reject);
@@ -177,7 +184,10 @@ void KalPhotoEditor::setUpArrowMenus()
                 entry.direction != KalPhotoEditorShapes::Up)
                 continue;
             const QIcon icon = toolIcon(name + QLatin1Char('-') + QLatin1String(entry.key));
-            QAction *action = menu->addAction(icon, tr(entry.text));
+            const QString text = number != 6                                     ? tr(entry.text)
+                                 : entry.direction == KalPhotoEditorShapes::Left ? tr("waagerecht")
+                                                                                 : tr("senkrecht");
+            QAction *action = menu->addAction(icon, text);
             action->setObjectName(QStringLiteral("action-%1-%2").arg(name, QLatin1String(entry.key)));
             const auto direction = entry.direction;
             connect(action, &QAction::triggered, this, [this, number, button, icon, direction, start] {
