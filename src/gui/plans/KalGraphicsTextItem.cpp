@@ -1,13 +1,34 @@
 #include "KalGraphicsTextItem.h"
 
+#include <QAbstractTextDocumentLayout>
+#include <QImage>
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
 #include <QTextDocument>
 #include <QtMath>
 
+namespace {
+
+// Texts are laid out for 96 dpi whatever the screen: a point size then means
+// the same number of picture pixels in the view, in the stored picture and on
+// every computer.
+QPaintDevice *layoutDevice()
+{
+    static QImage device = [] {
+        QImage image(1, 1, QImage::Format_RGB32);
+        image.setDotsPerMeterX(3780);
+        image.setDotsPerMeterY(3780);
+        return image;
+    }();
+    return &device;
+}
+
+} // namespace
+
 KalGraphicsTextItem::KalGraphicsTextItem(QGraphicsItem *parent)
     : QGraphicsTextItem(parent)
 {
+    document()->documentLayout()->setPaintDevice(layoutDevice());
     setFlags(ItemIsSelectable | ItemIsMovable | ItemSendsGeometryChanges);
     connect(document(), &QTextDocument::contentsChanged, this, [this] { emit textDocumentChanged(document()); });
 }
