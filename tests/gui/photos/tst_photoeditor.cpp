@@ -357,6 +357,25 @@ private slots:
         QVERIFY(m_prompt->shown().isEmpty());
     }
 
+    void colourWithoutSelectionIsForNewObjects()
+    {
+        QString asked;
+        KalTextEditor::setColorChooser([&asked](const QColor &, QWidget *, const QString &title) {
+            asked = title;
+            return QColor(Qt::blue);
+        });
+        open();
+        press("tbColor");
+        QCOMPARE(asked, QString("Objektfarbe wählen"));
+        trigger("tbLineWidth", "actionLineWidth8"); // also for the next objects
+        QVERIFY(m_prompt->shown().isEmpty());
+        drawLine();
+        const QImage result = apply();
+        for (int y = 148; y <= 152; ++y)
+            QCOMPARE(QColor(result.pixel(200, y)), QColor(Qt::blue));
+        KalTextEditor::setColorChooser([](const QColor &, QWidget *, const QString &) { return QColor(Qt::blue); });
+    }
+
     void cancelAsksOnlyAfterAChange()
     {
         open();
