@@ -43,10 +43,10 @@ void KalGraphicsViewZoom::fitToWindow()
     m_view->fitInView(m_view->sceneRect(), Qt::KeepAspectRatio);
 }
 
-void KalGraphicsViewZoom::rememberMouse(const QPoint &viewportPos, bool force)
+void KalGraphicsViewZoom::rememberMouse(const QPoint &viewportPos)
 {
     const QPoint delta = m_targetViewportPos - viewportPos;
-    if (!force && qAbs(delta.x()) <= kMoveThreshold && qAbs(delta.y()) <= kMoveThreshold)
+    if (qAbs(delta.x()) <= kMoveThreshold && qAbs(delta.y()) <= kMoveThreshold)
         return;
     m_targetViewportPos = viewportPos;
     m_targetScenePos = m_view->mapToScene(viewportPos);
@@ -56,14 +56,15 @@ bool KalGraphicsViewZoom::eventFilter(QObject *object, QEvent *event)
 {
     switch (event->type()) {
     case QEvent::MouseMove:
-        rememberMouse(static_cast<QMouseEvent *>(event)->pos(), false);
+        rememberMouse(static_cast<QMouseEvent *>(event)->pos());
         break;
     case QEvent::Wheel: {
         auto *wheel = static_cast<QWheelEvent *>(event);
         const QPoint angle = wheel->angleDelta();
         if (wheel->modifiers() == Qt::ControlModifier && angle.x() == 0 && qAbs(angle.y()) == kNotch) {
-            // The wheel may arrive without a move first.
-            rememberMouse(wheel->position().toPoint(), true);
+            // The wheel may arrive without a move first; jitter below the
+            // threshold keeps the anchor as it is.
+            rememberMouse(wheel->position().toPoint());
             gentleZoom(factorForDelta(angle.y()));
             return true;
         }

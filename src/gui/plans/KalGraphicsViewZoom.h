@@ -32,7 +32,7 @@ protected:
     bool eventFilter(QObject *object, QEvent *event) override;
 
 private:
-    void rememberMouse(const QPoint &viewportPos, bool force);
+    void rememberMouse(const QPoint &viewportPos);
 
     QGraphicsView *m_view;
     QPoint m_targetViewportPos;

@@ -61,6 +61,44 @@ private slots:
                  qPrintable(QStringLiteral("moved by %1, %2").arg(moved.x()).arg(moved.y())));
     }
 
+    void smallMovesKeepTheAnchor_data()
+    {
+        QTest::addColumn<QPoint>("offset");
+        QTest::addColumn<bool>("anchorMoves");
+        QTest::newRow("within 5 px") << QPoint(5, -4) << false;
+        QTest::newRow("6 px across") << QPoint(6, 0) << true;
+        QTest::newRow("6 px down") << QPoint(0, 6) << true;
+    }
+
+    void smallMovesKeepTheAnchor()
+    {
+        QFETCH(QPoint, offset);
+        QFETCH(bool, anchorMoves);
+        QGraphicsScene scene(0, 0, 2000, 1500);
+        QGraphicsView view(&scene);
+        view.setTransformationAnchor(QGraphicsView::NoAnchor);
+        view.resize(600, 400);
+        new KalGraphicsViewZoom(&view);
+        view.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&view));
+        view.centerOn(1000, 750);
+        const QPoint first(150, 120);
+        QTest::mouseMove(view.viewport(), first);
+        const QPoint anchor = anchorMoves ? first + offset : first;
+        const QPoint other = anchorMoves ? first : first + offset;
+        const QPointF underAnchor = view.mapToScene(anchor);
+        const QPointF underOther = view.mapToScene(other);
+        // Five notches, so that a wrong anchor shows by some pixels.
+        for (int i = 0; i < 5; ++i)
+            wheel(view, first + offset, QPoint(0, 120), Qt::ControlModifier);
+        const qreal scale = view.transform().m11();
+        const QPointF moved = (view.mapToScene(anchor) - underAnchor) * scale;
+        QVERIFY2(qAbs(moved.x()) <= 1.5 && qAbs(moved.y()) <= 1.5,
+                 qPrintable(QStringLiteral("anchor moved by %1, %2 px").arg(moved.x()).arg(moved.y())));
+        const QPointF otherMoved = (view.mapToScene(other) - underOther) * scale;
+        QVERIFY(qMax(qAbs(otherMoved.x()), qAbs(otherMoved.y())) >= 2.5);
+    }
+
     void handDragOnlyWithScrollBars()
     {
         QGraphicsScene scene(0, 0, 2000, 1500);
