@@ -171,6 +171,11 @@ private slots:
                                                            .arg(changed.height())));
         // And it reaches the outline's ends: nothing was cut off.
         QVERIFY(changed.width() >= extent.width() - slack && changed.height() >= extent.height() - slack);
+        // The selected object's frame and handles stay out of the picture.
+        if (tool != "tbRect" && tool != "tbSquare") {
+            for (const QPointF &corner : {extent.topRight(), extent.bottomLeft()})
+                QCOMPARE(QColor(result.pixel(corner.toPoint())), kBackground);
+        }
     }
 
     void polylineEndsAtTheDoubleClick()
