@@ -381,6 +381,54 @@ private slots:
         KalTextEditor::setColorChooser([](const QColor &, QWidget *, const QString &) { return QColor(Qt::blue); });
     }
 
+    void symbolLandsWhereClicked_data()
+    {
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QString>("menuEntry"); // empty: the button itself
+        QTest::newRow("X") << "tbSymbolX"
+                           << "";
+        QTest::newRow("filled circle") << "tbSymbolFilledCircle"
+                                       << "";
+        QTest::newRow("third text symbol") << "tbTextSymbol3"
+                                           << "";
+        QTest::newRow("number 7") << "tbNumberSymbols"
+                                  << "number-symbols-7";
+        QTest::newRow("further symbol 12") << "tbOtherTextSymbols"
+                                           << "text-symbols-12";
+        QTest::newRow("own symbol") << "tbOtherTextSymbols"
+                                    << "actionOwnSymbol";
+        QTest::newRow("arrow 4 upwards") << "tbArrow4"
+                                         << "action-arrow-4-up";
+        QTest::newRow("double arrow upright") << "tbArrow6"
+                                              << "action-arrow-6-up";
+        QTest::newRow("triangle") << "tbTriangle"
+                                  << "";
+    }
+
+    void symbolLandsWhereClicked()
+    {
+        QFETCH(QString, button);
+        QFETCH(QString, menuEntry);
+        open();
+        KalDialogAnswer<KalTextEditor> own([](KalTextEditor *editor) {
+            QCOMPARE(editor->windowTitle(), QString("Symbol erstellen"));
+            editor->findChild<QTextEdit *>("teText")->setPlainText("#");
+            editor->findChild<QPushButton *>("pbOk")->click();
+        });
+        if (menuEntry.isEmpty())
+            press(button.toLatin1());
+        else
+            trigger(button.toLatin1(), menuEntry);
+        QCOMPARE(own.seen(), menuEntry == "actionOwnSymbol");
+        const QPointF click(250, 160);
+        QTest::mouseClick(view()->viewport(), Qt::LeftButton, {}, at(click));
+        const QRect changed = changedArea(photo(), apply());
+        QVERIFY(!changed.isEmpty());
+        // Centred on the click, of a size that suits the picture.
+        QVERIFY(qAbs(changed.center().x() - click.x()) < 12 && qAbs(changed.center().y() - click.y()) < 12);
+        QVERIFY(changed.width() < 120 && changed.height() < 120);
+    }
+
     void cancelAsksOnlyAfterAChange()
     {
         open();
