@@ -60,6 +60,31 @@ private slots:
         KalTextEditor::setColorChooser({});
     }
 
+    void presetsLoadTheStoredDefaults()
+    {
+        QSettings settings;
+        settings.setValue("MarkerText/StandardMarkerTextFontSize", 20);
+        settings.setValue("MarkerText/StandardMarkerTextColor", "#008000");
+        settings.setValue("MarkerText/StandardMarkerTextProperties", 6);
+        KalTextEditor editor(KalTextEditor::EditText);
+        KalTextEditor::Values own;
+        own.text = "Fuge offen";
+        own.size = 9;
+        editor.setValues(own);
+        editor.findChild<QPushButton *>("pbPresets")->click();
+        const KalTextEditor::Values now = editor.values();
+        QCOMPARE(now.text, QString("Fuge offen")); // the text stays
+        QCOMPARE(now.size, 20);
+        QCOMPARE(now.color, QColor("#008000"));
+        QCOMPARE(now.properties, 6);
+        QVERIFY(editor.findChild<QToolButton *>("tbItalic")->isChecked());
+        // Unreadable stored values fall back to the factory ones.
+        settings.setValue("MarkerText/StandardMarkerTextFontSize", "groß");
+        settings.setValue("MarkerText/StandardMarkerTextColor", "keine Farbe");
+        QCOMPARE(KalTextEditor::storedDefaults().size, 8);
+        QCOMPARE(KalTextEditor::storedDefaults().color, QColor(Qt::black));
+    }
+
     void cancelAsksOnlyAfterAChange()
     {
         KalTextEditor untouched(KalTextEditor::EditText);
