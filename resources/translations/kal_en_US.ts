@@ -1240,6 +1240,27 @@ Then please click again. The first click loads the filter&apos;s selection list;
     </message>
 </context>
 <context>
+    <name>KalFontCheck</name>
+    <message>
+        <source>Fehlende Schriften im Fotoeditor</source>
+        <translation>Missing fonts in the photo editor</translation>
+    </message>
+    <message>
+        <source>Folgende Schriften sind auf Ihrem System nicht installiert:</source>
+        <translation>The following fonts are not installed on your system:</translation>
+    </message>
+    <message>
+        <source>
+Sie müssen diese Schriften installieren, um den vollen Funktionsumfang des Fotoeditors nutzen zu können.</source>
+        <translation>
+You need to install these fonts to use all functions of the photo editor.</translation>
+    </message>
+    <message>
+        <source>Diese Meldung nicht mehr anzeigen</source>
+        <translation>Don&apos;t show this message again</translation>
+    </message>
+</context>
+<context>
     <name>KalItemDelegate</name>
     <message>
         <source>Format-Fehler</source>
@@ -1698,6 +1719,229 @@ The buttons at the bottom left add, copy or delete defects.</translation>
     <message>
         <source>Diese Meldung nicht mehr anzeigen</source>
         <translation>Do not show this message again</translation>
+    </message>
+</context>
+<context>
+    <name>KalPhotoEditor</name>
+    <message>
+        <source>Foto bearbeiten</source>
+        <translation>Edit photo</translation>
+    </message>
+    <message>
+        <source>Zeichnen</source>
+        <translation>Draw</translation>
+    </message>
+    <message>
+        <source>Linie einfügen</source>
+        <translation>Insert line</translation>
+    </message>
+    <message>
+        <source>Linienzug einfügen</source>
+        <translation>Insert polyline</translation>
+    </message>
+    <message>
+        <source>Quadrat  einfügen</source>
+        <translation>Insert  square</translation>
+    </message>
+    <message>
+        <source>Rechteck einfügen</source>
+        <translation>Insert rectangle</translation>
+    </message>
+    <message>
+        <source>Kreis einfügen</source>
+        <translation>Insert circle</translation>
+    </message>
+    <message>
+        <source>Ellipse einfügen</source>
+        <translation>Insert ellipse</translation>
+    </message>
+    <message>
+        <source>Text  einfügen</source>
+        <translation>Insert  text</translation>
+    </message>
+    <message>
+        <source>Freihand zeichnen</source>
+        <translation>Draw freehand</translation>
+    </message>
+    <message>
+        <source>Pfeile</source>
+        <translation>Arrows</translation>
+    </message>
+    <message>
+        <source>Pfeil einfügen</source>
+        <translation>Insert arrow</translation>
+    </message>
+    <message>
+        <source>Doppelpfeil einfügen</source>
+        <translation>Insert double arrow</translation>
+    </message>
+    <message>
+        <source>Dreieck einfügen</source>
+        <translation>Insert triangle</translation>
+    </message>
+    <message>
+        <source>Symbole</source>
+        <translation>Symbols</translation>
+    </message>
+    <message>
+        <source>Symbol einfügen</source>
+        <translation>Insert symbol</translation>
+    </message>
+    <message>
+        <source>Zahlensymbol einfügen</source>
+        <translation>Insert number symbol</translation>
+    </message>
+    <message>
+        <source>weiteres Symbol einfügen</source>
+        <translation>Insert another symbol</translation>
+    </message>
+    <message>
+        <source>Bearbeiten</source>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>Selektierte Objekte nach links drehen</source>
+        <translation>Rotate selected objects left</translation>
+    </message>
+    <message>
+        <source>Selektierte Objekte nach rechts drehen</source>
+        <translation>Rotate selected objects right</translation>
+    </message>
+    <message>
+        <source>Selektierte Objekte vergrößern</source>
+        <translation>Enlarge selected objects</translation>
+    </message>
+    <message>
+        <source>Selektierte Objekte verkleinern</source>
+        <translation>Shrink selected objects</translation>
+    </message>
+    <message>
+        <source>Farbe ändern</source>
+        <translation>Change color</translation>
+    </message>
+    <message>
+        <source>Linienstärke ändern</source>
+        <translation>Change line width</translation>
+    </message>
+    <message>
+        <source>Foto</source>
+        <translation>Photo</translation>
+    </message>
+    <message>
+        <source>Hintergrund nach links drehen</source>
+        <translation>Rotate background left</translation>
+    </message>
+    <message>
+        <source>Hintergrund nach rechts drehen</source>
+        <translation>Rotate background right</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>nach links</source>
+        <translation>to the left</translation>
+    </message>
+    <message>
+        <source>nach rechts</source>
+        <translation>to the right</translation>
+    </message>
+    <message>
+        <source>nach oben</source>
+        <translation>upwards</translation>
+    </message>
+    <message>
+        <source>nach unten</source>
+        <translation>downwards</translation>
+    </message>
+    <message>
+        <source>Rückgängig</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>Wiederherstellen</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>Eigenes Symbol erstellen</source>
+        <translation>Create own symbol</translation>
+    </message>
+    <message>
+        <source>%1 Pixel</source>
+        <translation>%1 pixels</translation>
+    </message>
+    <message>
+        <source>Sie haben kein Objekt ausgewählt.
+Sie wählen ein Objekt aus, indem Sie es anklicken.
+Sie wählen mehrere Objekte aus, indem Sie sie bei gedrückter Strg-Taste anklicken.
+</source>
+        <translation>You have not selected an object.
+You select an object by clicking it.
+You select several objects by clicking them while holding down the Ctrl key.
+</translation>
+    </message>
+    <message>
+        <source>Objekte drehen</source>
+        <translation>Rotate objects</translation>
+    </message>
+    <message>
+        <source>Objekt vergrößern</source>
+        <translation>Enlarge object</translation>
+    </message>
+    <message>
+        <source>Objekt verkleinern</source>
+        <translation>Shrink object</translation>
+    </message>
+    <message>
+        <source>Objektfarbe wählen</source>
+        <translation>Choose object color</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Einfügen</source>
+        <translation>Insert</translation>
+    </message>
+    <message>
+        <source>Verschieben</source>
+        <translation>Move</translation>
+    </message>
+    <message>
+        <source>Text bearbeiten</source>
+        <translation>Edit text</translation>
+    </message>
+    <message>
+        <source>Änderungen übernehmen</source>
+        <translation>Apply changes</translation>
+    </message>
+    <message>
+        <source>Ihre Änderungen werden jetzt in das Bild übernommen.
+Dieser Vorgang lässt sich nicht rückgängig machen.</source>
+        <translation>Your changes will now be applied to the picture.
+This cannot be undone.</translation>
+    </message>
+    <message>
+        <source>Änderungen verwerfen</source>
+        <translation>Discard changes</translation>
+    </message>
+    <message>
+        <source>Sollen die Änderungen verworfen werden?</source>
+        <translation>Do you want to discard the changes?</translation>
+    </message>
+    <message>
+        <source>waagerecht</source>
+        <translation>horizontal</translation>
+    </message>
+    <message>
+        <source>senkrecht</source>
+        <translation>vertical</translation>
     </message>
 </context>
 <context>
@@ -2751,6 +2995,115 @@ Do you really want to delete the selected status?</translation>
 Sollen die %1 gewählten Status tatsächlich gelöscht werden?</source>
         <translation>If you delete a status that is already assigned to defects, these defects lose their status!
 Do you really want to delete the %1 selected statuses?</translation>
+    </message>
+</context>
+<context>
+    <name>KalTextEditor</name>
+    <message>
+        <source>Text bearbeiten</source>
+        <translation>Edit text</translation>
+    </message>
+    <message>
+        <source>Text fett</source>
+        <translation>Bold text</translation>
+    </message>
+    <message>
+        <source>F</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Text kursiv</source>
+        <translation>Italic text</translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation>I</translation>
+    </message>
+    <message>
+        <source>Text unterstrichen</source>
+        <translation>Underlined text</translation>
+    </message>
+    <message>
+        <source>U</source>
+        <translation>U</translation>
+    </message>
+    <message>
+        <source>Schriftart</source>
+        <translation>Font</translation>
+    </message>
+    <message>
+        <source>Schriftgröße</source>
+        <translation>Font size</translation>
+    </message>
+    <message>
+        <source>Textfarbe</source>
+        <translation>Text color</translation>
+    </message>
+    <message>
+        <source>Voreinstellungen</source>
+        <translation>Presets</translation>
+    </message>
+    <message>
+        <source>Hier den Text eingeben</source>
+        <translation>Enter the text here</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Text eingeben</source>
+        <translation>Enter text</translation>
+    </message>
+    <message>
+        <source>Symbol erstellen</source>
+        <translation>Create symbol</translation>
+    </message>
+    <message>
+        <source>Standardeinstellungen Plantexte</source>
+        <translation>Default settings for plan texts</translation>
+    </message>
+    <message>
+        <source>Legen Sie die Standardeinstellungen für die automatisch im Plan erzeugten Mängeltexte fest. Sie können einzelne Texte im Plan ändern, indem Sie im Planeditor einen Doppelklick auf den Text ausführen. Den Planeditor öffnen Sie, indem Sie den Mangel in der Tabelle auswählen und einen Doppelklick auf den Plan ausführen.
+</source>
+        <translation>Set the defaults for the defect texts created automatically on the plan. You can change single texts on the plan by double-clicking the text in the plan editor. You open the plan editor by selecting the defect in the table and double-clicking the plan.
+</translation>
+    </message>
+    <message>
+        <source>0001: Mangelbeschreibung</source>
+        <translation>0001: Defect description</translation>
+    </message>
+    <message>
+        <source>Textfarbe wählen</source>
+        <translation>Choose text color</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Sie haben den kompletten Text gelöscht.
+Das Textelement im Plan wird dann ebenfalls gelöscht.
+Wenn Sie den Planeditor verlassen und für diesen Mangel erneut aufrufen, wird automatisch ein neues Textelement mit der Mangelbeschreibung erzeugt.
+
+Wollen Sie das Textelement im Plan wirklich löschen?</source>
+        <translation>You have deleted the whole text.
+The text element on the plan will then be deleted as well.
+When you leave the plan editor and open it again for this defect, a new text element with the defect description is created automatically.
+
+Do you really want to delete the text element on the plan?</translation>
+    </message>
+    <message>
+        <source>Änderungen verwerfen</source>
+        <translation>Discard changes</translation>
+    </message>
+    <message>
+        <source>Möchten Sie die Änderungen tatsächlich verwerfen?</source>
+        <translation>Do you really want to discard the changes?</translation>
     </message>
 </context>
 <context>

@@ -1240,6 +1240,27 @@ Entonces haga clic de nuevo. El primer clic carga la lista de selección del fil
     </message>
 </context>
 <context>
+    <name>KalFontCheck</name>
+    <message>
+        <source>Fehlende Schriften im Fotoeditor</source>
+        <translation>Fuentes que faltan en el editor de fotos</translation>
+    </message>
+    <message>
+        <source>Folgende Schriften sind auf Ihrem System nicht installiert:</source>
+        <translation>Las siguientes fuentes no están instaladas en su sistema:</translation>
+    </message>
+    <message>
+        <source>
+Sie müssen diese Schriften installieren, um den vollen Funktionsumfang des Fotoeditors nutzen zu können.</source>
+        <translation>
+Debe instalar estas fuentes para poder usar todas las funciones del editor de fotos.</translation>
+    </message>
+    <message>
+        <source>Diese Meldung nicht mehr anzeigen</source>
+        <translation>No volver a mostrar este mensaje</translation>
+    </message>
+</context>
+<context>
     <name>KalItemDelegate</name>
     <message>
         <source>Format-Fehler</source>
@@ -1698,6 +1719,229 @@ Los botones de abajo a la izquierda añaden, copian o eliminan defectos.</transl
     <message>
         <source>Diese Meldung nicht mehr anzeigen</source>
         <translation>No volver a mostrar este mensaje</translation>
+    </message>
+</context>
+<context>
+    <name>KalPhotoEditor</name>
+    <message>
+        <source>Foto bearbeiten</source>
+        <translation>Editar foto</translation>
+    </message>
+    <message>
+        <source>Zeichnen</source>
+        <translation>Dibujar</translation>
+    </message>
+    <message>
+        <source>Linie einfügen</source>
+        <translation>Insertar línea</translation>
+    </message>
+    <message>
+        <source>Linienzug einfügen</source>
+        <translation>Insertar polilínea</translation>
+    </message>
+    <message>
+        <source>Quadrat  einfügen</source>
+        <translation>Insertar  cuadrado</translation>
+    </message>
+    <message>
+        <source>Rechteck einfügen</source>
+        <translation>Insertar rectángulo</translation>
+    </message>
+    <message>
+        <source>Kreis einfügen</source>
+        <translation>Insertar círculo</translation>
+    </message>
+    <message>
+        <source>Ellipse einfügen</source>
+        <translation>Insertar elipse</translation>
+    </message>
+    <message>
+        <source>Text  einfügen</source>
+        <translation>Insertar  texto</translation>
+    </message>
+    <message>
+        <source>Freihand zeichnen</source>
+        <translation>Dibujar a mano alzada</translation>
+    </message>
+    <message>
+        <source>Pfeile</source>
+        <translation>Flechas</translation>
+    </message>
+    <message>
+        <source>Pfeil einfügen</source>
+        <translation>Insertar flecha</translation>
+    </message>
+    <message>
+        <source>Doppelpfeil einfügen</source>
+        <translation>Insertar flecha doble</translation>
+    </message>
+    <message>
+        <source>Dreieck einfügen</source>
+        <translation>Insertar triángulo</translation>
+    </message>
+    <message>
+        <source>Symbole</source>
+        <translation>Símbolos</translation>
+    </message>
+    <message>
+        <source>Symbol einfügen</source>
+        <translation>Insertar símbolo</translation>
+    </message>
+    <message>
+        <source>Zahlensymbol einfügen</source>
+        <translation>Insertar símbolo numérico</translation>
+    </message>
+    <message>
+        <source>weiteres Symbol einfügen</source>
+        <translation>Insertar otro símbolo</translation>
+    </message>
+    <message>
+        <source>Bearbeiten</source>
+        <translation>Editar</translation>
+    </message>
+    <message>
+        <source>Selektierte Objekte nach links drehen</source>
+        <translation>Girar los objetos seleccionados a la izquierda</translation>
+    </message>
+    <message>
+        <source>Selektierte Objekte nach rechts drehen</source>
+        <translation>Girar los objetos seleccionados a la derecha</translation>
+    </message>
+    <message>
+        <source>Selektierte Objekte vergrößern</source>
+        <translation>Ampliar los objetos seleccionados</translation>
+    </message>
+    <message>
+        <source>Selektierte Objekte verkleinern</source>
+        <translation>Reducir los objetos seleccionados</translation>
+    </message>
+    <message>
+        <source>Farbe ändern</source>
+        <translation>Cambiar color</translation>
+    </message>
+    <message>
+        <source>Linienstärke ändern</source>
+        <translation>Cambiar grosor de línea</translation>
+    </message>
+    <message>
+        <source>Foto</source>
+        <translation>Foto</translation>
+    </message>
+    <message>
+        <source>Hintergrund nach links drehen</source>
+        <translation>Girar el fondo a la izquierda</translation>
+    </message>
+    <message>
+        <source>Hintergrund nach rechts drehen</source>
+        <translation>Girar el fondo a la derecha</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>nach links</source>
+        <translation>hacia la izquierda</translation>
+    </message>
+    <message>
+        <source>nach rechts</source>
+        <translation>hacia la derecha</translation>
+    </message>
+    <message>
+        <source>nach oben</source>
+        <translation>hacia arriba</translation>
+    </message>
+    <message>
+        <source>nach unten</source>
+        <translation>hacia abajo</translation>
+    </message>
+    <message>
+        <source>Rückgängig</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Wiederherstellen</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Eigenes Symbol erstellen</source>
+        <translation>Crear símbolo propio</translation>
+    </message>
+    <message>
+        <source>%1 Pixel</source>
+        <translation>%1 píxeles</translation>
+    </message>
+    <message>
+        <source>Sie haben kein Objekt ausgewählt.
+Sie wählen ein Objekt aus, indem Sie es anklicken.
+Sie wählen mehrere Objekte aus, indem Sie sie bei gedrückter Strg-Taste anklicken.
+</source>
+        <translation>No ha seleccionado ningún objeto.
+Seleccione un objeto haciendo clic en él.
+Seleccione varios objetos haciendo clic en ellos mientras mantiene pulsada la tecla Ctrl.
+</translation>
+    </message>
+    <message>
+        <source>Objekte drehen</source>
+        <translation>Girar objetos</translation>
+    </message>
+    <message>
+        <source>Objekt vergrößern</source>
+        <translation>Ampliar objeto</translation>
+    </message>
+    <message>
+        <source>Objekt verkleinern</source>
+        <translation>Reducir objeto</translation>
+    </message>
+    <message>
+        <source>Objektfarbe wählen</source>
+        <translation>Elegir color del objeto</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Einfügen</source>
+        <translation>Insertar</translation>
+    </message>
+    <message>
+        <source>Verschieben</source>
+        <translation>Mover</translation>
+    </message>
+    <message>
+        <source>Text bearbeiten</source>
+        <translation>Editar texto</translation>
+    </message>
+    <message>
+        <source>Änderungen übernehmen</source>
+        <translation>Aplicar cambios</translation>
+    </message>
+    <message>
+        <source>Ihre Änderungen werden jetzt in das Bild übernommen.
+Dieser Vorgang lässt sich nicht rückgängig machen.</source>
+        <translation>Sus cambios se aplicarán ahora a la imagen.
+Esta operación no se puede deshacer.</translation>
+    </message>
+    <message>
+        <source>Änderungen verwerfen</source>
+        <translation>Descartar cambios</translation>
+    </message>
+    <message>
+        <source>Sollen die Änderungen verworfen werden?</source>
+        <translation>¿Desea descartar los cambios?</translation>
+    </message>
+    <message>
+        <source>waagerecht</source>
+        <translation>horizontal</translation>
+    </message>
+    <message>
+        <source>senkrecht</source>
+        <translation>vertical</translation>
     </message>
 </context>
 <context>
@@ -2751,6 +2995,115 @@ Soll der gewählte Status tatsächlich gelöscht werden?</source>
 Sollen die %1 gewählten Status tatsächlich gelöscht werden?</source>
         <translation>Si elimina un estado que ya está asignado a defectos, esos defectos pierden su estado.
 ¿Desea eliminar realmente los %1 estados seleccionados?</translation>
+    </message>
+</context>
+<context>
+    <name>KalTextEditor</name>
+    <message>
+        <source>Text bearbeiten</source>
+        <translation>Editar texto</translation>
+    </message>
+    <message>
+        <source>Text fett</source>
+        <translation>Texto en negrita</translation>
+    </message>
+    <message>
+        <source>F</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Text kursiv</source>
+        <translation>Texto en cursiva</translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation>C</translation>
+    </message>
+    <message>
+        <source>Text unterstrichen</source>
+        <translation>Texto subrayado</translation>
+    </message>
+    <message>
+        <source>U</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>Schriftart</source>
+        <translation>Fuente</translation>
+    </message>
+    <message>
+        <source>Schriftgröße</source>
+        <translation>Tamaño de fuente</translation>
+    </message>
+    <message>
+        <source>Textfarbe</source>
+        <translation>Color del texto</translation>
+    </message>
+    <message>
+        <source>Voreinstellungen</source>
+        <translation>Valores predeterminados</translation>
+    </message>
+    <message>
+        <source>Hier den Text eingeben</source>
+        <translation>Introduzca el texto aquí</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Text eingeben</source>
+        <translation>Introducir texto</translation>
+    </message>
+    <message>
+        <source>Symbol erstellen</source>
+        <translation>Crear símbolo</translation>
+    </message>
+    <message>
+        <source>Standardeinstellungen Plantexte</source>
+        <translation>Configuración predeterminada de los textos del plano</translation>
+    </message>
+    <message>
+        <source>Legen Sie die Standardeinstellungen für die automatisch im Plan erzeugten Mängeltexte fest. Sie können einzelne Texte im Plan ändern, indem Sie im Planeditor einen Doppelklick auf den Text ausführen. Den Planeditor öffnen Sie, indem Sie den Mangel in der Tabelle auswählen und einen Doppelklick auf den Plan ausführen.
+</source>
+        <translation>Defina la configuración predeterminada de los textos de defectos creados automáticamente en el plano. Puede cambiar textos individuales en el plano haciendo doble clic en el texto en el editor de planos. El editor de planos se abre seleccionando el defecto en la tabla y haciendo doble clic en el plano.
+</translation>
+    </message>
+    <message>
+        <source>0001: Mangelbeschreibung</source>
+        <translation>0001: Descripción del defecto</translation>
+    </message>
+    <message>
+        <source>Textfarbe wählen</source>
+        <translation>Elegir color del texto</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Sie haben den kompletten Text gelöscht.
+Das Textelement im Plan wird dann ebenfalls gelöscht.
+Wenn Sie den Planeditor verlassen und für diesen Mangel erneut aufrufen, wird automatisch ein neues Textelement mit der Mangelbeschreibung erzeugt.
+
+Wollen Sie das Textelement im Plan wirklich löschen?</source>
+        <translation>Ha borrado todo el texto.
+El elemento de texto del plano también se eliminará.
+Si sale del editor de planos y lo vuelve a abrir para este defecto, se creará automáticamente un nuevo elemento de texto con la descripción del defecto.
+
+¿Desea realmente eliminar el elemento de texto del plano?</translation>
+    </message>
+    <message>
+        <source>Änderungen verwerfen</source>
+        <translation>Descartar cambios</translation>
+    </message>
+    <message>
+        <source>Möchten Sie die Änderungen tatsächlich verwerfen?</source>
+        <translation>¿Desea realmente descartar los cambios?</translation>
     </message>
 </context>
 <context>
