@@ -2,7 +2,9 @@
 #include "cli/KalCli.h"
 #include "cli/KalCliAddDefect.h"
 #include "cli/KalCliExport.h"
+#include "cli/KalCliExportPlan.h"
 #include "cli/KalCliImportCompanies.h"
+#include "cli/KalCliImportPlan.h"
 #include "cli/KalCliProject.h"
 
 int main(int argc, char **argv)
@@ -24,6 +26,10 @@ int main(int argc, char **argv)
          "import-companies FILE.pwp ADDRESSES.csv [--dry-run] [--separator C]\n"
          "             [--encoding utf-8|windows-1252|utf-16]",
          "add the companies of an address file the project lacks; --dry-run only shows them", kalCliImportCompanies},
+        {"import-plan", "import-plan FILE.pwp PLAN.(pdf|jpg|png) [--name TEXT]",
+         "import a plan (a PDF's first page), save with backups, print its id", kalCliImportPlan},
+        {"export-plan", "export-plan FILE.pwp --plan ID --output OUT.png",
+         "the plan at its stored size with markers and texts as a picture (read-only)", kalCliExportPlan, true},
     };
     return KalCli::run(argc, argv, commands);
 }
