@@ -3,9 +3,11 @@
 // every failure the project holds no new row and the temporary folder no file.
 #include "core/plans/KalPlanRasteriser.h"
 #include "core/plans/KalPlans.h"
+#include "core/project/KalFileOps.h"
 #include "core/project/KalProgress.h"
 #include "core/project/KalProject.h"
 #include "support/KalScriptedPrompt.h"
+#include "support/KalTestImages.h"
 #include "support/KalTestProject.h"
 #include "support/KalTestSettings.h"
 
@@ -161,26 +163,37 @@ private slots:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QString>("planName");
         QTest::addColumn<QRgb>("colour");
+        QTest::addColumn<QDate>("taken"); // invalid: the file's date
+        const QRgb red = qRgb(255, 0, 0);
+        const QRgb green = qRgb(0, 255, 0);
+        const QDate fileDate;
         QTest::newRow("PDF, page 1") << "Grundriss EG.pdf"
-                                     << "Grundriss EG" << qRgb(255, 0, 0);
+                                     << "Grundriss EG" << red << fileDate;
         QTest::newRow("suffix Pdf") << "Schnitt.Pdf"
-                                    << "Schnitt" << qRgb(255, 0, 0);
-        QTest::newRow("leading dash, umlaut, blanks") << "-Ärger  plan.v2.PDF"
-                                                      << "-Ärger  plan.v2" << qRgb(255, 0, 0);
+                                    << "Schnitt" << red << fileDate;
+        QTest::newRow("dash, umlaut, blanks") << "-Ärger  plan.v2.PDF"
+                                              << "-Ärger  plan.v2" << red << fileDate;
         QTest::newRow("PNG") << "Ansicht Nord.png"
-                             << "Ansicht Nord" << qRgb(0, 255, 0);
+                             << "Ansicht Nord" << green << fileDate;
         QTest::newRow("JPEG") << "Lageplan.jpg"
-                              << "Lageplan" << qRgb(0, 255, 0);
+                              << "Lageplan" << green << fileDate;
+        QTest::newRow("JPEG with date taken") << "Foto.jpeg"
+                                              << "Foto" << qRgb(128, 128, 128) << QDate(2019, 5, 4);
     }
     void importsPicturesAndPdfs()
     {
         QFETCH(QString, name);
         QFETCH(QString, planName);
         QFETCH(QRgb, colour);
+        QFETCH(QDate, taken);
         const QString path = file(name);
         QFile::remove(path);
+        KalTestImages::Exif exif;
+        exif.dateTaken = QStringLiteral("2019:05:04 10:11:12");
         if (KalPlans::isPdf(path))
             QVERIFY(QFile::copy(file("plan.pdf"), path));
+        else if (taken.isValid())
+            QVERIFY(writeBytes(path, KalTestImages::jpeg(KalTestImages::marked(QSize(1200, 600)), exif)));
         else
             QVERIFY(writePicture(path, QSize(1200, 600), name.endsWith("png") ? "PNG" : "JPEG"));
         const QStringList before = tempFiles();
@@ -189,7 +202,8 @@ private slots:
         QCOMPARE(result.planInfoIds.size(), 2);
         const qint64 id = result.planInfoIds.first();
         QCOMPARE(m_project.field("plan_info", id, "plan_name").toString(), planName);
-        QCOMPARE(m_project.field("plan_info", id, "date").toDate(), QFileInfo(path).lastModified().date());
+        QCOMPARE(m_project.field("plan_info", id, "date").toDate(),
+                 taken.isValid() ? taken : QFileInfo(path).lastModified().date());
         QCOMPARE(m_project.field("plan_info", result.planInfoIds.last(), "pos").toInt(),
                  m_project.field("plan_info", id, "pos").toInt() + 1);
         const QImage stored = storedPlan(id);
@@ -226,6 +240,11 @@ private slots:
         QTest::newRow("zero-page PDF") << zeroPagePdf() << "leer2.pdf" << QByteArray() << importTitle << failed;
         QTest::newRow("truncated JPEG") << QByteArray("\xff\xd8\xff\xe0\x00\x10JFIF", 10) << "halb.jpg" << QByteArray()
                                         << importTitle << failed;
+        QTest::newRow("over 100 megapixels") << KalTestImages::pngHeaderOnly(QSize(20000, 20000)) << "riesig.png"
+                                             << QByteArray() << importTitle << failed;
+        QTest::newRow("temporary folder full")
+            << QByteArray("@copy") << "plan.pdf" << QByteArray("@copyfault") << "Dateifehler"
+            << QStringLiteral("Die PDF-Datei %1 konnte nicht in den Temp-Ordner kopiert werden.");
         QTest::newRow("rasteriser missing")
             << QByteArray("@copy") << "plan.pdf" << QByteArray("@missing") << "PDF-Fehler" << notStarted;
         QTest::newRow("rasteriser exits 3")
@@ -257,7 +276,9 @@ private slots:
         const QString pidFile = file("rasteriser.pid");
         QFile::remove(pidFile);
         qputenv("PIDFILE", pidFile.toLocal8Bit());
-        if (script == "@missing") {
+        if (script == "@copyfault") {
+            KalFileOps::setFaultHook([](const QString &operation, const QString &) { return operation == "copy"; });
+        } else if (script == "@missing") {
             KalPlanRasteriser::setProgramLookup([this] { return file("no-such-rasteriser"); });
         } else if (!script.isEmpty()) {
             if (script.startsWith("@cancel ")) {
@@ -271,6 +292,7 @@ private slots:
         const QStringList before = tempFiles();
         const KalPlans::Import result = KalPlans(m_project.project()).addFiles({path});
         KalProgress::install(nullptr);
+        KalFileOps::setFaultHook({});
 
         QCOMPARE(result.planInfoIds.size(), 0);
         QCOMPARE(result.canceled, title.isEmpty());
@@ -343,8 +365,8 @@ private slots:
             QVERIFY(m_project.insert("marker", {{"type", 1}, {"plan_info_id", sheet}, {"defect_id", d1}}) > 0);
             QVERIFY(m_project.insert("marker_text", {{"text", "x"}, {"plan_info_id", sheet}, {"defect_id", d1}}) > 0);
         }
-        m_prompt->queueAnswer("OK");    // delete three plans
-        m_prompt->queueAnswer("OK");    // A with two defects
+        m_prompt->queueAnswer("OK");        // delete three plans
+        m_prompt->queueAnswer("OK");        // A with two defects
         m_prompt->queueAnswer("Abbrechen"); // B with one defect
         QCOMPARE(plans.removeAsked({a, b, c}), (QList<qint64>{a, c}));
         QCOMPARE(m_prompt->texts(),
