@@ -124,8 +124,9 @@ KalPlanRasteriser::Result KalPlanRasteriser::run(const QString &prog, int size)
 {
     Result result;
     QProcess process;
-    process.setProcessChannelMode(QProcess::SeparateChannels);
+    // Only its error text matters; a chatty program must not fill memory.
     process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
     process.start(prog, arguments(m_copy, m_outputRoot, size), QIODevice::ReadOnly);
     if (!process.waitForStarted(s_startTimeout)) {
         result.outcome = StartFailed;
@@ -136,11 +137,13 @@ KalPlanRasteriser::Result KalPlanRasteriser::run(const QString &prog, int size)
     progress->beginCancelable(tr("PDF wird umgewandelt ..."));
     QElapsedTimer clock;
     clock.start();
-    bool finished = false;
     bool canceled = false;
-    while (!(finished = process.waitForFinished(s_pollInterval))) {
+    QByteArray errors;
+    while (!process.waitForFinished(s_pollInterval)) {
         if (process.state() == QProcess::NotRunning)
             break;
+        errors += process.readAllStandardError();
+        errors = errors.right(4000);
         progress->setProgress(0, 0);
         if (progress->wasCanceled()) {
             canceled = true;
@@ -159,20 +162,21 @@ KalPlanRasteriser::Result KalPlanRasteriser::run(const QString &prog, int size)
                                        .arg(finishTimeout() / 1000.0);
         return result;
     }
-    const QString errors = QString::fromLocal8Bit(process.readAllStandardError()).trimmed().left(2000);
+    errors += process.readAllStandardError();
+    const QString reported = QString::fromLocal8Bit(errors.right(2000)).trimmed();
     if (process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0) {
         result.detail = process.exitStatus() != QProcess::NormalExit
                             ? tr("Der PDF-Konverter ist abgestürzt.")
                             : tr("Der PDF-Konverter meldet Fehler %1.").arg(process.exitCode());
-        if (!errors.isEmpty())
-            result.detail += QLatin1Char('\n') + errors;
+        if (!reported.isEmpty())
+            result.detail += QLatin1Char('\n') + reported;
         return result;
     }
     result.jpegPath = findFirstPage(m_outputRoot);
     if (result.jpegPath.isEmpty()) {
         result.detail = tr("Der PDF-Konverter hat keine Seite geschrieben.");
-        if (!errors.isEmpty())
-            result.detail += QLatin1Char('\n') + errors;
+        if (!reported.isEmpty())
+            result.detail += QLatin1Char('\n') + reported;
         return result;
     }
     result.outcome = Done;

@@ -273,6 +273,16 @@ bool KalPlans::writeNewVersion(qint64 planInfoId, const KalStoredPicture &pictur
     return true;
 }
 
+bool KalPlans::checkOneSelected(int selected, const QString &title)
+{
+    if (selected == 1)
+        return true;
+    KalPrompt::information(title, selected < 1 ? tr("Wählen Sie zunächst per Mausklick einen Plan aus.")
+                                               : tr("Sie haben mehrere Pläne ausgewählt. Wählen Sie nur einen Plan "
+                                                    "aus."));
+    return false;
+}
+
 bool KalPlans::askOpenEditor()
 {
     return okAbort(tr("Neue Planversion laden"),

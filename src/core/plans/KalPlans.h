@@ -50,6 +50,10 @@ public:
     // Defects located on the sheet; -1 on a database error.
     int defectCount(qint64 planInfoId) const;
 
+    // A new version and an assignment need exactly one chosen plan: false
+    // after telling the user (none, several) under `title`.
+    static bool checkOneSelected(int selected, const QString &title);
+
     // A suffix of "pdf" in any case.
     static bool isPdf(const QString &file);
     // For KalPictureStore::shrink(): moves markers and texts of the sheets

@@ -316,6 +316,28 @@ private slots:
         }
     }
 
+    void oneSelectedPlanNeeded_data()
+    {
+        QTest::addColumn<int>("selected");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QStringList>("texts");
+        QTest::newRow("none") << 0 << "Neue Planversion laden"
+                              << QStringList{"Wählen Sie zunächst per Mausklick einen Plan aus."};
+        QTest::newRow("one") << 1 << "Planauswahl" << QStringList();
+        QTest::newRow("several") << 3 << "Planauswahl"
+                                 << QStringList{"Sie haben mehrere Pläne ausgewählt. Wählen Sie nur einen Plan aus."};
+    }
+    void oneSelectedPlanNeeded()
+    {
+        QFETCH(int, selected);
+        QFETCH(QString, title);
+        QFETCH(QStringList, texts);
+        QCOMPARE(KalPlans::checkOneSelected(selected, title), texts.isEmpty());
+        QCOMPARE(m_prompt->texts(), texts);
+        if (!texts.isEmpty())
+            QCOMPARE(m_prompt->titles(), QStringList{title});
+    }
+
     void newVersionMovesMarkersWithThePicture()
     {
         QVERIFY(writePicture(file("v1.png"), QSize(400, 200), "PNG"));
