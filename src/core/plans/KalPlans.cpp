@@ -12,6 +12,7 @@
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QVariant>
+#include <cstring>
 
 namespace {
 
@@ -345,7 +346,9 @@ QList<qint64> KalPlans::removeAsked(const QList<qint64> &planInfoIds)
 bool KalPlans::remove(qint64 planInfoId, QString *error)
 {
     static const char *const statements[] = {
-        "DELETE FROM plan WHERE id = (SELECT plan_id FROM plan_info WHERE id = :id)",
+        // A picture another sheet still shows (a hand-edited file) stays.
+        "DELETE FROM plan WHERE id = (SELECT plan_id FROM plan_info WHERE id = :id) AND NOT EXISTS (SELECT 1 FROM "
+        "plan_info o WHERE o.plan_id = plan.id AND o.id <> :other)",
         "DELETE FROM marker WHERE plan_info_id = :id",
         "DELETE FROM marker_text WHERE plan_info_id = :id",
         "UPDATE defect SET plan_info_id = -1, plan_id = -1 WHERE plan_info_id = :id",
@@ -360,6 +363,8 @@ bool KalPlans::remove(qint64 planInfoId, QString *error)
         QSqlQuery query(m_project->database());
         query.prepare(QLatin1String(sql));
         query.bindValue(QStringLiteral(":id"), planInfoId);
+        if (std::strstr(sql, ":other"))
+            query.bindValue(QStringLiteral(":other"), planInfoId);
         if (!(ok = exec(query, error)))
             break;
     }

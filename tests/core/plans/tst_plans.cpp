@@ -129,6 +129,17 @@ private slots:
         KalProgress::install(nullptr);
     }
 
+    void bundledRasteriserComesFirst()
+    {
+        const QString folder = QCoreApplication::applicationDirPath() + QStringLiteral("/ptc");
+        QVERIFY(QDir().mkpath(folder));
+        QVERIFY(writeScript(folder + QStringLiteral("/ptc"), "exit 0"));
+        const QString bundled = KalPlanRasteriser::program();
+        QVERIFY(QDir(folder).removeRecursively());
+        QCOMPARE(bundled, folder + QStringLiteral("/ptc"));
+        QVERIFY(KalPlanRasteriser::program().endsWith(QStringLiteral("/pdftocairo")));
+    }
+
     void firstPageNamedByPageCount_data()
     {
         QTest::addColumn<int>("pages");
@@ -414,6 +425,16 @@ private slots:
         QCOMPARE(plans.removeAsked({b}), QList<qint64>());
         QCOMPARE(m_prompt->titles(), QStringList{"Plan löschen"});
         QCOMPARE(m_project.count("plan_info"), 1);
+
+        // A picture another sheet still shows (a hand-edited file) is kept.
+        const qint64 twin = m_project.insert(
+            "plan_info",
+            {{"plan_name", "Zwilling"}, {"pos", 9}, {"plan_id", m_project.field("plan_info", b, "plan_id")}});
+        QString error;
+        QVERIFY(plans.remove(twin, &error));
+        QCOMPARE(m_project.count("plan"), 1);
+        QVERIFY(plans.remove(b, &error));
+        QCOMPARE(m_project.count("plan"), 0);
     }
 
     void shrinkingPlansMovesTheirMarkers()
