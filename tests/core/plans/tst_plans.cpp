@@ -352,7 +352,7 @@ private slots:
     void newVersionMovesMarkersWithThePicture()
     {
         QVERIFY(writePicture(file("v1.png"), QSize(400, 200), "PNG"));
-        QVERIFY(writePicture(file("v2.png"), QSize(200, 100), "PNG"));
+        QVERIFY(writePicture(file("v2.png"), QSize(200, 50), "PNG"));
         KalPlans plans(m_project.project());
         const qint64 sheet = plans.addFile(file("v1.png"));
         QVERIFY(sheet > 0);
@@ -365,6 +365,15 @@ private slots:
                                                           {"transform_point_y", 20.0},
                                                           {"plan_info_id", sheet},
                                                           {"defect_id", 1}});
+        const qint64 text = m_project.insert("marker_text", {{"pos_x", 10.0},
+                                                             {"pos_y", 30.0},
+                                                             {"scale_factor", 2.0},
+                                                             {"transform_point_x", 0.0},
+                                                             {"transform_point_y", 10.0},
+                                                             {"text", "0001: Riss"},
+                                                             {"plan_info_id", sheet}});
+        const qint64 elsewhere = m_project.insert(
+            "marker", {{"type", 1}, {"pos_x", 100.0}, {"scale_factor", 1.0}, {"plan_info_id", sheet + 1}});
         QVERIFY(m_project.exec("UPDATE plan_info SET date = '2001-01-01' WHERE id = :id", {{":id", sheet}}));
 
         QVERIFY(!plans.newVersion(sheet, file("missing.png")));
@@ -377,9 +386,14 @@ private slots:
         QCOMPARE(m_project.field("plan_info", sheet, "plan_id").toLongLong(), planId);
         QCOMPARE(m_project.field("plan", planId, "plan_width").toInt(), 200);
         QCOMPARE(m_project.field("plan_info", sheet, "date").toDate(), QFileInfo(file("v2.png")).lastModified().date());
+        // Half the width, a quarter of the height: the scale follows the height.
         QCOMPARE(m_project.field("marker", marker, "pos_x").toDouble(), 40.0);
-        QCOMPARE(m_project.field("marker", marker, "pos_y").toDouble(), 40.0);
-        QCOMPARE(m_project.field("marker", marker, "scale_factor").toDouble(), 0.5);
+        QCOMPARE(m_project.field("marker", marker, "pos_y").toDouble(), 10.0);
+        QCOMPARE(m_project.field("marker", marker, "scale_factor").toDouble(), 0.25);
+        QCOMPARE(m_project.field("marker_text", text, "pos_x").toDouble(), 5.0);
+        QCOMPARE(m_project.field("marker_text", text, "pos_y").toDouble(), 0.0);
+        QCOMPARE(m_project.field("marker_text", text, "scale_factor").toDouble(), 0.5);
+        QCOMPARE(m_project.field("marker", elsewhere, "pos_x").toDouble(), 100.0);
     }
 
     void deleteAsksPerPlanAndClearsReferences()

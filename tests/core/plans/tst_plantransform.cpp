@@ -89,34 +89,6 @@ private slots:
         }
     }
 
-    void rowsOfOneSheetAreRescaled()
-    {
-        const qint64 marker = addMarker(7, 100, 100, 1.0, 20, 20);
-        const qint64 other = addMarker(8, 100, 100, 1.0, 20, 20);
-        const qint64 text = m_project.insert(QStringLiteral("marker_text"), {{"pos_x", 10.0},
-                                                                             {"pos_y", 30.0},
-                                                                             {"scale_factor", 2.0},
-                                                                             {"transform_point_x", 0.0},
-                                                                             {"transform_point_y", 10.0},
-                                                                             {"text", "0001: Riss"},
-                                                                             {"plan_info_id", 7},
-                                                                             {"defect_id", 1}});
-        QVERIFY(marker > 0 && other > 0 && text > 0);
-        QString error;
-        QVERIFY2(KalPlanTransform::rescaleRows(m_project.project()->database(), 7, 0.5, 0.25, &error),
-                 qPrintable(error));
-        QCOMPARE(m_project.field("marker", marker, "pos_x").toDouble(), 40.0);
-        QCOMPARE(m_project.field("marker", marker, "pos_y").toDouble(), 10.0);
-        QCOMPARE(m_project.field("marker", marker, "scale_factor").toDouble(), 0.25);
-        QCOMPARE(m_project.field("marker", marker, "rotation_angle").toDouble(), 30.0);
-        QCOMPARE(m_project.field("marker", marker, "transform_point_x").toDouble(), 20.0);
-        QCOMPARE(m_project.field("marker_text", text, "pos_x").toDouble(), 5.0);
-        QCOMPARE(m_project.field("marker_text", text, "pos_y").toDouble(), 0.0);
-        QCOMPARE(m_project.field("marker_text", text, "scale_factor").toDouble(), 0.5);
-        QCOMPARE(m_project.field("marker", other, "pos_x").toDouble(), 100.0);
-        QCOMPARE(m_project.field("marker", other, "scale_factor").toDouble(), 1.0);
-    }
-
     void unusableRatiosChangeNothing_data()
     {
         QTest::addColumn<double>("rx");
