@@ -6,8 +6,10 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QGuiApplication>
 #include <QSqlDatabase>
 #include <cstdio>
+#include <memory>
 #include <new>
 
 namespace KalCli {
@@ -91,9 +93,34 @@ Options parseOptions(const QStringList &args, const QStringList &withValue, cons
     return options;
 }
 
+namespace {
+
+// Fonts need a GUI application; every other command stays a plain one, whose
+// start is quicker and prints no platform notices.
+std::unique_ptr<QCoreApplication> makeApplication(int &argc, char **argv, const QList<Command> &commands)
+{
+    for (int i = 1; i < argc; ++i) {
+        const QByteArray arg(argv[i]);
+        if (arg.startsWith('-'))
+            continue;
+        for (const Command &command : commands) {
+            if (command.needsFonts && arg == command.name) {
+                if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+                    qputenv("QT_QPA_PLATFORM", "offscreen");
+                return std::make_unique<QGuiApplication>(argc, argv);
+            }
+        }
+        break;
+    }
+    return std::make_unique<QCoreApplication>(argc, argv);
+}
+
+} // namespace
+
 int run(int argc, char **argv, const QList<Command> &commands)
 {
-    QCoreApplication app(argc, argv);
+    const std::unique_ptr<QCoreApplication> application = makeApplication(argc, argv, commands);
+    QCoreApplication &app = *application;
     QCoreApplication::setOrganizationName(QStringLiteral("Quellor - Software"));
     QCoreApplication::setApplicationName(QStringLiteral("Quellor Pellwick"));
     QCoreApplication::setApplicationVersion(QStringLiteral(PELLWICK_VERSION));

@@ -18,6 +18,8 @@ struct Command
     const char *synopsis; // may hold "\n" for a continuation line
     const char *help;
     int (*run)(const QString &file, const QStringList &options);
+    // Draws text: runs in a GUI application (offscreen unless told otherwise).
+    bool needsFonts = false;
 };
 
 // Parses the global options, installs the stderr prompt and runs the command

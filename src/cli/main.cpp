@@ -1,8 +1,12 @@
 // pellwick-cli: project files from scripts and headless machines.
 #include "cli/KalCli.h"
 #include "cli/KalCliAddDefect.h"
+#include "cli/KalCliAddPhoto.h"
 #include "cli/KalCliExport.h"
+#include "cli/KalCliExportPhotos.h"
+#include "cli/KalCliExportPlan.h"
 #include "cli/KalCliImportCompanies.h"
+#include "cli/KalCliImportPlan.h"
 #include "cli/KalCliProject.h"
 
 int main(int argc, char **argv)
@@ -17,6 +21,12 @@ int main(int argc, char **argv)
          "add-defect FILE.pwp --description TEXT [--number N] [--room TEXT]\n"
          "             [--company ID] [--status ID] [--priority TEXT]",
          "add a defect, save with backups, print its id", kalCliAddDefect},
+        {"add-photo", "add-photo FILE.pwp --defect NUMBER IMAGE...",
+         "store images as photos of the defect with that number, save with backups; exit 1 when any failed",
+         kalCliAddPhoto},
+        {"export-photos", "export-photos FILE.pwp --defect NUMBER --output DIR",
+         "write the defect's photos as \"01 Caption.jpg\" into DIR, never replacing a file (read-only)",
+         kalCliExportPhotos},
         {"vacuum", "vacuum FILE.pwp", "compact the project and save it", kalCliVacuum},
         {"export-defects", "export-defects FILE.pwp [--output OUT.csv] [--columns compact|all]",
          "defect list as CSV (UTF-8, \";\"), to stdout without --output (read-only)", kalCliExportDefects},
@@ -24,6 +34,10 @@ int main(int argc, char **argv)
          "import-companies FILE.pwp ADDRESSES.csv [--dry-run] [--separator C]\n"
          "             [--encoding utf-8|windows-1252|utf-16]",
          "add the companies of an address file the project lacks; --dry-run only shows them", kalCliImportCompanies},
+        {"import-plan", "import-plan FILE.pwp PLAN.(pdf|jpg|png) [--name TEXT]",
+         "import a plan (a PDF's first page), save with backups, print its id", kalCliImportPlan},
+        {"export-plan", "export-plan FILE.pwp --plan ID --output OUT.png",
+         "the plan at its stored size with markers and texts as a picture (read-only)", kalCliExportPlan, true},
     };
     return KalCli::run(argc, argv, commands);
 }

@@ -24,7 +24,8 @@ void KalScriptedPrompt::queueCheckBox(bool checked)
 
 int KalScriptedPrompt::show(const Message &message)
 {
-    Shown s{message.icon, message.title, message.text, {}, 0, message.iconPath, message.checkBoxText};
+    Shown s{message.icon,     message.title,        message.text,      {}, 0,
+            message.iconPath, message.checkBoxText, message.detailText};
     if (!message.checkBoxText.isEmpty() && message.checkBoxChecked && !m_checkBoxes.isEmpty())
         *message.checkBoxChecked = m_checkBoxes.dequeue();
     for (const Button &b : message.buttons)
@@ -49,7 +50,7 @@ int KalScriptedPrompt::show(const Message &message)
 
 void KalScriptedPrompt::notice(const QString &title, const QString &text, int)
 {
-    m_shown.append(Shown{Information, title, text, {}, 0, {}, {}});
+    m_shown.append(Shown{Information, title, text, {}, 0, {}, {}, {}});
 }
 
 QStringList KalScriptedPrompt::titles() const

@@ -20,6 +20,7 @@ public:
         int answer;
         QString iconPath;
         QString checkBoxText;
+        QString detailText;
     };
 
     static KalScriptedPrompt *install();

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/photos/KalPictureStore.h"
 #include "core/project/KalModelHost.h"
 #include "core/project/KalTransactions.h"
 
@@ -77,6 +78,18 @@ public:
     // Thumbnails of stored pictures (null image when absent).
     QImage imageThumbnail(qint64 imageId) const override;
     QImage planThumbnail(qint64 planId) const override;
+
+    // Pictures of photos and logos in the table `image` (KalPictureStore does
+    // the work): the new or kept id, or -1 with `error` set. Inserts mark
+    // the project modified.
+    qint64 insertImageFromFile(const QString &path, QString *error);
+    qint64 insertOrUpdateImage(const QImage &picture, qint64 id, QString *error);
+    bool deleteImage(qint64 id, QString *error);
+    // Stored photos wider or higher than `size`; -1 with `error` set.
+    int countImagesLargerThan(int size, QString *error) const;
+    // Fits the stored photos into `size` in the project's transactions;
+    // marks the project modified when any changed.
+    KalShrinkResult shrinkImages(int size);
 
     // --- helpers that do not need an open project ---
     // "ok" when sound, otherwise the reason.

@@ -123,6 +123,8 @@ int KalStderrPrompt::show(const Message &message)
     QString line = message.title + QStringLiteral(": ") + message.text;
     while (line.endsWith(QLatin1Char('\n')))
         line.chop(1);
+    if (!message.detailText.isEmpty())
+        line += QStringLiteral("\n  ") + message.detailText;
     int answer = 0;
     if (message.buttons.size() > 1) {
         answer = m_assumeYes ? message.defaultButton : escapeIndex(message);

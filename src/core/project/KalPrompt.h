@@ -37,6 +37,8 @@ public:
         // shown when the text is set; in: initial state, out: state on close.
         QString checkBoxText;
         bool *checkBoxChecked = nullptr;
+        // The technical reason behind the text, shown on request.
+        QString detailText;
     };
 
     virtual ~KalPrompt();

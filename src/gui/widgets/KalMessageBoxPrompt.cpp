@@ -104,6 +104,9 @@ int KalMessageBoxPrompt::show(const Message &message)
     const int escape = escapeIndex(message);
     box.setEscapeButton(made.value(qBound(0, escape, made.size() - 1)));
 
+    if (!message.detailText.isEmpty())
+        box.setDetailedText(message.detailText);
+
     QCheckBox *dontShow = nullptr;
     QCheckBox *returned = nullptr;
     if (!message.checkBoxText.isEmpty()) {

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "core/photos/KalPictureStore.h"
+
+#include <QCoreApplication>
+#include <QDate>
+#include <QList>
+#include <QSqlDatabase>
+#include <QStringList>
+
+class KalProject;
+
+// The rules of the project's plan library: import of pictures and PDFs,
+// new versions of a plan, deletion. Each change is one counted transaction
+// and marks the project modified; each failure is shown through KalPrompt
+// and leaves no row and no temporary file behind.
+class KalPlans
+{
+    Q_DECLARE_TR_FUNCTIONS(KalPlans)
+
+public:
+    explicit KalPlans(KalProject *project);
+
+    struct Import
+    {
+        QList<qint64> planInfoIds; // the new sheets, in file order
+        QStringList failed;        // files that were not imported
+        bool canceled = false;     // the user stopped the conversion
+    };
+    // Each file becomes a plan on its own; a failing file does not stop the
+    // others, a canceled conversion does.
+    Import addFiles(const QStringList &files);
+    // A new sheet named `name` (empty: after the file), dated by the file.
+    // Its plan_info id, or -1 after the failure was shown (-2: canceled).
+    qint64 addFile(const QString &file, const QString &name = QString());
+
+    // Stores `file` into the sheet's plan row, dates the sheet by the file
+    // and moves its markers and texts to the new size. False after the
+    // failure was shown; nothing changed then.
+    bool newVersion(qint64 planInfoId, const QString &file);
+    // The question after a new version; true: open the plan editor.
+    static bool askOpenEditor();
+
+    // Confirms (one plan / several plans, then per plan by the number of
+    // its defects) and deletes what the user agreed to. The ids deleted.
+    QList<qint64> removeAsked(const QList<qint64> &planInfoIds);
+    // Deletes the sheet, its picture, markers and texts and clears the
+    // defects' reference to it, without asking. False with a reason.
+    bool remove(qint64 planInfoId, QString *error);
+    // Defects located on the sheet; -1 on a database error.
+    int defectCount(qint64 planInfoId) const;
+
+    // A new version and an assignment need exactly one chosen plan: false
+    // after telling the user (none, several) under `title`.
+    static bool checkOneSelected(int selected, const QString &title);
+
+    // A suffix of "pdf" in any case.
+    static bool isPdf(const QString &file);
+    // For KalPictureStore::shrink(): moves markers and texts of the sheets
+    // showing a shrunk plan picture.
+    static KalPictureStore::ShrinkHook shrinkHook(QSqlDatabase db);
+
+private:
+    enum Prepared { Ready, Failed, Canceled };
+    Prepared preparePicture(const QString &file, KalStoredPicture *picture, QDate *date);
+    bool writeNewSheet(const KalStoredPicture &picture, const QString &name, const QDate &date, qint64 *planInfoId,
+                       QString *error);
+    bool writeNewVersion(qint64 planInfoId, const KalStoredPicture &picture, const QDate &date, QString *error);
+    void reselectModels();
+
+    KalProject *m_project;
+};
