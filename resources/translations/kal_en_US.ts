@@ -1061,7 +1061,7 @@ Lower-case letters are converted to capitals automatically.</translation>
     </message>
 </context>
 <context>
-    <name>KalDefectFilterDialog</name>
+    <name>KalFilterDialog</name>
     <message>
         <source>Datenauswahl zur Mängelliste</source>
         <translation>Data selection for the defect list</translation>

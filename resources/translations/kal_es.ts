@@ -1061,7 +1061,7 @@ Las minúsculas se convierten automáticamente en mayúsculas.</translation>
     </message>
 </context>
 <context>
-    <name>KalDefectFilterDialog</name>
+    <name>KalFilterDialog</name>
     <message>
         <source>Datenauswahl zur Mängelliste</source>
         <translation>Selección de datos para la lista de defectos</translation>

@@ -13,19 +13,19 @@ class QStandardItem;
 class QStandardItemModel;
 
 namespace Ui {
-class KalDefectFilterDialog;
+class KalFilterDialog;
 }
 
 // In front of every defect list: which defects, in which order, with which
 // pictures. Opens with the choices last saved in the project; "Speichern und
 // beenden" keeps them there, cancelling drops what changed.
-class KalDefectFilterDialog : public QDialog
+class KalFilterDialog : public QDialog
 {
     Q_OBJECT
 
 public:
-    explicit KalDefectFilterDialog(KalProject *project, QWidget *parent = nullptr);
-    ~KalDefectFilterDialog() override;
+    explicit KalFilterDialog(KalProject *project, QWidget *parent = nullptr);
+    ~KalFilterDialog() override;
 
     // The choices as the widgets show them now.
     KalDefectFilterState state() const;
@@ -52,7 +52,7 @@ private:
 
     KalProject *m_project;
     KalDefectFilter m_filter;
-    std::unique_ptr<Ui::KalDefectFilterDialog> m_ui;
+    std::unique_ptr<Ui::KalFilterDialog> m_ui;
     QStandardItemModel *m_listModel;
     // Lists and ticked entries live here; the widgets hold everything else.
     KalDefectFilterState m_lists;

@@ -1,5 +1,5 @@
-#include "KalDefectFilterDialog.h"
-#include "ui_KalDefectFilterDialog.h"
+#include "KalFilterDialog.h"
+#include "ui_KalFilterDialog.h"
 
 #include "core/project/KalEnvironment.h"
 #include "core/project/KalProject.h"
@@ -20,11 +20,11 @@ const char *const ShowOnceKey = "Messages/showFilterUncheckMsgOnce";
 
 } // namespace
 
-KalDefectFilterDialog::KalDefectFilterDialog(KalProject *project, QWidget *parent)
+KalFilterDialog::KalFilterDialog(KalProject *project, QWidget *parent)
     : QDialog(parent)
     , m_project(project)
     , m_filter(*project)
-    , m_ui(std::make_unique<Ui::KalDefectFilterDialog>())
+    , m_ui(std::make_unique<Ui::KalFilterDialog>())
     , m_listModel(new QStandardItemModel(this))
 {
     m_ui->setupUi(this);
@@ -37,35 +37,35 @@ KalDefectFilterDialog::KalDefectFilterDialog(KalProject *project, QWidget *paren
     for (int list = 0; list < State::ListCount; ++list)
         connect(listBox(State::List(list)), &QCheckBox::clicked, this,
                 [this, list](bool checked) { slotListFilterClicked(list, checked); });
-    connect(m_listModel, &QStandardItemModel::itemChanged, this, &KalDefectFilterDialog::slotSelectionListItemChanged);
+    connect(m_listModel, &QStandardItemModel::itemChanged, this, &KalFilterDialog::slotSelectionListItemChanged);
     connect(m_ui->pbSelectionListCheckAll, &QPushButton::clicked, this,
-            &KalDefectFilterDialog::slotSelectionListCheckAllClicked);
+            &KalFilterDialog::slotSelectionListCheckAllClicked);
     connect(m_ui->pbSelectionListUncheckAll, &QPushButton::clicked, this,
-            &KalDefectFilterDialog::slotSelectionListUncheckAllClicked);
+            &KalFilterDialog::slotSelectionListUncheckAllClicked);
     connect(m_ui->pbSelectionListReverseSeletion, &QPushButton::clicked, this,
-            &KalDefectFilterDialog::slotSelectionListReverseSeletionClicked);
+            &KalFilterDialog::slotSelectionListReverseSeletionClicked);
     connect(m_ui->deCreationDateFrom, &QLineEdit::editingFinished, this,
-            &KalDefectFilterDialog::slotCreationDateEditingFinished);
+            &KalFilterDialog::slotCreationDateEditingFinished);
     connect(m_ui->deCreationDateTo, &QLineEdit::editingFinished, this,
-            &KalDefectFilterDialog::slotCreationDateEditingFinished);
-    connect(m_ui->pbResetFilters, &QPushButton::clicked, this, &KalDefectFilterDialog::slotResetFiltersClicked);
-    connect(m_ui->pbSave, &QPushButton::clicked, this, &KalDefectFilterDialog::slotSaveClicked);
+            &KalFilterDialog::slotCreationDateEditingFinished);
+    connect(m_ui->pbResetFilters, &QPushButton::clicked, this, &KalFilterDialog::slotResetFiltersClicked);
+    connect(m_ui->pbSave, &QPushButton::clicked, this, &KalFilterDialog::slotSaveClicked);
     connect(m_ui->pbCancel, &QPushButton::clicked, this, &QDialog::reject);
 
     applyState(m_filter.restore());
     restoreGeometry(QSettings().value(QLatin1String(GeometryKey)).toByteArray());
 }
 
-KalDefectFilterDialog::~KalDefectFilterDialog() = default;
+KalFilterDialog::~KalFilterDialog() = default;
 
-QCheckBox *KalDefectFilterDialog::listBox(State::List list) const
+QCheckBox *KalFilterDialog::listBox(State::List list) const
 {
     QCheckBox *const boxes[State::ListCount] = {m_ui->cbCompany,  m_ui->cbStatus,     m_ui->cbType,
                                                 m_ui->cbRoomname, m_ui->cbRoombookNo, m_ui->cbPriority};
     return boxes[list];
 }
 
-KalDefectFilterState KalDefectFilterDialog::state() const
+KalDefectFilterState KalFilterDialog::state() const
 {
     State s = m_lists;
     s.creationDateFilter = m_ui->cbCreationDate->isChecked();
@@ -91,7 +91,7 @@ KalDefectFilterState KalDefectFilterDialog::state() const
     return s;
 }
 
-void KalDefectFilterDialog::applyState(const State &s)
+void KalFilterDialog::applyState(const State &s)
 {
     m_lists = s;
     m_ui->cbCreationDate->setChecked(s.creationDateFilter);
@@ -114,7 +114,7 @@ void KalDefectFilterDialog::applyState(const State &s)
     showList(-1);
 }
 
-void KalDefectFilterDialog::showList(int list)
+void KalFilterDialog::showList(int list)
 {
     m_shownList = list;
     const QSignalBlocker blocker(m_listModel);
@@ -137,7 +137,7 @@ void KalDefectFilterDialog::showList(int list)
     m_ui->lvSelectionList->reset();
 }
 
-void KalDefectFilterDialog::slotListFilterClicked(int list, bool checked)
+void KalFilterDialog::slotListFilterClicked(int list, bool checked)
 {
     if (checked) {
         showList(list);
@@ -154,7 +154,7 @@ void KalDefectFilterDialog::slotListFilterClicked(int list, bool checked)
     showList(-1);
 }
 
-void KalDefectFilterDialog::explainSecondClick()
+void KalFilterDialog::explainSecondClick()
 {
     QSettings settings;
     if (settings.value(QLatin1String(DontShowKey), false).toBool() ||
@@ -174,7 +174,7 @@ void KalDefectFilterDialog::explainSecondClick()
     settings.setValue(QLatin1String(ShowOnceKey), false);
 }
 
-void KalDefectFilterDialog::slotSelectionListItemChanged(QStandardItem *)
+void KalFilterDialog::slotSelectionListItemChanged(QStandardItem *)
 {
     if (m_shownList < 0)
         return;
@@ -187,7 +187,7 @@ void KalDefectFilterDialog::slotSelectionListItemChanged(QStandardItem *)
     m_lists.ticked[m_shownList] = ticked;
 }
 
-void KalDefectFilterDialog::setAllItems(const std::function<Qt::CheckState(Qt::CheckState)> &change)
+void KalFilterDialog::setAllItems(const std::function<Qt::CheckState(Qt::CheckState)> &change)
 {
     {
         // One update of the ticked list, not one per entry.
@@ -201,22 +201,22 @@ void KalDefectFilterDialog::setAllItems(const std::function<Qt::CheckState(Qt::C
     m_ui->lvSelectionList->viewport()->update();
 }
 
-void KalDefectFilterDialog::slotSelectionListCheckAllClicked()
+void KalFilterDialog::slotSelectionListCheckAllClicked()
 {
     setAllItems([](Qt::CheckState) { return Qt::Checked; });
 }
 
-void KalDefectFilterDialog::slotSelectionListUncheckAllClicked()
+void KalFilterDialog::slotSelectionListUncheckAllClicked()
 {
     setAllItems([](Qt::CheckState) { return Qt::Unchecked; });
 }
 
-void KalDefectFilterDialog::slotSelectionListReverseSeletionClicked()
+void KalFilterDialog::slotSelectionListReverseSeletionClicked()
 {
     setAllItems([](Qt::CheckState s) { return s == Qt::Checked ? Qt::Unchecked : Qt::Checked; });
 }
 
-void KalDefectFilterDialog::slotCreationDateEditingFinished()
+void KalFilterDialog::slotCreationDateEditingFinished()
 {
     const QDate from = m_ui->deCreationDateFrom->date();
     const QDate to = m_ui->deCreationDateTo->date();
@@ -224,7 +224,7 @@ void KalDefectFilterDialog::slotCreationDateEditingFinished()
         KalDefectFilter::warnIfReversed(from, to);
 }
 
-void KalDefectFilterDialog::slotResetFiltersClicked()
+void KalFilterDialog::slotResetFiltersClicked()
 {
     KalPrompt::Message m;
     m.icon = KalPrompt::Question;
@@ -245,7 +245,7 @@ void KalDefectFilterDialog::slotResetFiltersClicked()
     applyState(reset);
 }
 
-void KalDefectFilterDialog::slotSaveClicked()
+void KalFilterDialog::slotSaveClicked()
 {
     // A date text that is not a date is refused with its own message.
     for (KalDateEdit *date : {m_ui->deCreationDateFrom, m_ui->deCreationDateTo, m_ui->deDeadline}) {
@@ -256,7 +256,7 @@ void KalDefectFilterDialog::slotSaveClicked()
         accept();
 }
 
-void KalDefectFilterDialog::done(int result)
+void KalFilterDialog::done(int result)
 {
     for (KalDateEdit *date : {m_ui->deCreationDateFrom, m_ui->deCreationDateTo, m_ui->deDeadline})
         date->discardWarning();

@@ -2,7 +2,7 @@
 // ticked filter, the list buttons, reset, save and cancel.
 #include "core/project/KalProject.h"
 #include "core/reports/KalDefectFilter.h"
-#include "gui/reports/KalDefectFilterDialog.h"
+#include "gui/reports/KalFilterDialog.h"
 #include "gui/textaids/KalDateEdit.h"
 #include "support/KalTestProject.h"
 #include "support/KalWidgetTestMain.h"
@@ -42,7 +42,7 @@ private:
 
     State stored() { return KalDefectFilter(*m_fx.project()).restore(); }
 
-    QStringList listTexts(KalDefectFilterDialog &dialog)
+    QStringList listTexts(KalFilterDialog &dialog)
     {
         QStringList texts;
         const QAbstractItemModel *model = child<QListView>(&dialog, "lvSelectionList")->model();
@@ -96,7 +96,7 @@ private slots:
         saved.listFilter[State::TypeList] = true;
         saveState(saved);
 
-        KalDefectFilterDialog dialog(m_fx.project());
+        KalFilterDialog dialog(m_fx.project());
         auto *box = child<QCheckBox>(&dialog, "cbStatus");
         auto *types = child<QCheckBox>(&dialog, "cbType");
         QVERIFY(box->isChecked());
@@ -158,7 +158,7 @@ private slots:
         saved.ticked[State::RoomnameList] = ticked;
         saveState(saved);
 
-        KalDefectFilterDialog dialog(m_fx.project());
+        KalFilterDialog dialog(m_fx.project());
         child<QCheckBox>(&dialog, "cbRoomname")->click(); // shows the list
         QCOMPARE(listTexts(dialog), (QStringList{"Bad", "Eltern'zimmer", "Küche"}));
         for (const QString &button : buttons)
@@ -199,7 +199,7 @@ private slots:
         saved.creationDateFrom = QDate(2025, 6, 1);
         saveState(saved);
 
-        KalDefectFilterDialog dialog(m_fx.project());
+        KalFilterDialog dialog(m_fx.project());
         for (const char *print : {"pbPrint", "pbPrintPreview", "pbPDF"})
             QVERIFY(!child<QPushButton>(&dialog, print)->isEnabled());
         child<QRadioButton>(&dialog, "rbSortDesc")->click();
@@ -234,7 +234,7 @@ private slots:
         QFETCH(QDate, from);
         QFETCH(QDate, to);
         QFETCH(bool, noted);
-        KalDefectFilterDialog dialog(m_fx.project());
+        KalFilterDialog dialog(m_fx.project());
         auto *fromEdit = child<KalDateEdit>(&dialog, "deCreationDateFrom");
         auto *toEdit = child<KalDateEdit>(&dialog, "deCreationDateTo");
         toEdit->setDate(to);
@@ -248,4 +248,4 @@ private slots:
 };
 
 KAL_WIDGET_TEST_MAIN(TstDefectFilterDialog)
-#include "tst_defectfilterdialog.moc"
+#include "tst_filterdialog.moc"
