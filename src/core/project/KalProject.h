@@ -78,6 +78,15 @@ public:
     QImage imageThumbnail(qint64 imageId) const override;
     QImage planThumbnail(qint64 planId) const override;
 
+    // Pictures of photos and logos in the table `image` (KalPictureStore does
+    // the work): the new or kept id, or -1 with `error` set. Inserts mark
+    // the project modified.
+    qint64 insertImageFromFile(const QString &path, QString *error);
+    qint64 insertOrUpdateImage(const QImage &picture, qint64 id, QString *error);
+    bool deleteImage(qint64 id, QString *error);
+    // Stored photos wider or higher than `size`; -1 with `error` set.
+    int countImagesLargerThan(int size, QString *error) const;
+
     // --- helpers that do not need an open project ---
     // "ok" when sound, otherwise the reason.
     static QString checkIntegrity(const QString &connectionName);
