@@ -10,6 +10,7 @@
 #include <QCheckBox>
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QEventLoop>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
@@ -333,6 +334,31 @@ private slots:
         QCOMPARE(buttonCount, 0);
         QVERIFY(!modal);
         QTRY_VERIFY(!KalDialogAnswer<QMessageBox>::find());
+    }
+
+    // Work shorter than the delay, followed by a message whose loop runs while
+    // the finished window waits for deletion: the window never comes up.
+    void busyWindowStaysAwayAfterShortWork()
+    {
+        KalProgressDialog progress;
+        bool appeared = false;
+        QEventLoop outer;
+        QTimer::singleShot(0, &outer, [&] {
+            progress.begin(QStringLiteral("Die Fotos werden importiert."));
+            progress.setProgress(0, 2);
+            progress.setProgress(2, 2);
+            progress.end();
+            QEventLoop message;
+            QTimer poll;
+            connect(&poll, &QTimer::timeout, [&] { appeared = appeared || KalDialogAnswer<QProgressDialog>::find(); });
+            poll.start(20);
+            QTimer::singleShot(KalProgressDialog::showDelay() * 4, &message, &QEventLoop::quit);
+            message.exec();
+            outer.quit();
+        });
+        outer.exec();
+        QVERIFY(!appeared);
+        QVERIFY(!QApplication::overrideCursor());
     }
 
     void busyWindowAppearsAfterDelay()
