@@ -17,11 +17,13 @@
 #include <QGraphicsPixmapItem>
 #include <QGraphicsScene>
 #include <QHeaderView>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QSettings>
 #include <QSortFilterProxyModel>
 #include <QSqlQuery>
 #include <QSqlRecord>
+#include <QToolButton>
 #include <QUrl>
 
 #include <algorithm>
@@ -185,6 +187,11 @@ void KalPhotoInfoDialog::setUpList()
     view->setDropIndicatorShown(true);
     view->setDragDropOverwriteMode(false);
     view->horizontalHeader()->setStretchLastSection(true);
+    // The grid's own buttons would add and remove bare rows; here the
+    // dialog's buttons do that, and Delete means "Fotos entfernen".
+    for (QToolButton *button : {view->addButton(), view->deleteButton(), view->copyButton()})
+        button->hide();
+    view->installEventFilter(this);
     if (!view->restoreColumnWidths()) {
         view->setColumnWidth(m_model->fieldIndex(QStringLiteral("caption")), 200);
         view->setColumnWidth(m_model->fieldIndex(QStringLiteral("comment")), 260);
@@ -416,6 +423,18 @@ void KalPhotoInfoDialog::fitPreview()
         m_ui->gvImage->resetTransform();
     else
         m_ui->gvImage->fitInView(m_pixmapItem, Qt::KeepAspectRatio);
+}
+
+bool KalPhotoInfoDialog::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_ui->tvImageInfo && event->type() == QEvent::KeyPress &&
+        static_cast<QKeyEvent *>(event)->key() == Qt::Key_Delete &&
+        static_cast<QKeyEvent *>(event)->modifiers() == Qt::NoModifier) {
+        // Keys reach the view only while no cell editor is open.
+        slotRemoveImages();
+        return true;
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void KalPhotoInfoDialog::resizeEvent(QResizeEvent *event)

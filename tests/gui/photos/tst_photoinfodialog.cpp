@@ -179,6 +179,7 @@ private slots:
         const QString two =
             QStringLiteral("Sie haben 2 Fotos zum Löschen ausgewählt.\nSollen diese Foto tatsächlich gelöscht werden?");
         QTest::newRow("one, OK") << QList<int>{1} << "OK" << QList<int>() << "Foto löschen" << one << 0 << 2;
+        QTest::newRow("one, Delete key") << QList<int>{0} << "OK" << QList<int>() << "Foto löschen" << one << 0 << 1;
         QTest::newRow("one, Abort") << QList<int>{1} << "Abbrechen" << QList<int>{1} << "Foto löschen" << one << 0 << 1;
         QTest::newRow("two, OK, one from the site journal")
             << QList<int>{2, 3} << "OK" << QList<int>{3} << "Fotos löschen" << two << 1 << 4;
@@ -214,7 +215,12 @@ private slots:
             chosen << ids.at(row);
         QCOMPARE(list(dialog)->selectIds(chosen), selected.size());
         m_prompt->queueAnswer(answer);
-        dialog.findChild<QPushButton *>("pbRemoveImages")->click();
+        if (QByteArray(QTest::currentDataTag()).contains("Delete key")) {
+            list(dialog)->setFocus();
+            QTest::keyClick(list(dialog), Qt::Key_Delete);
+        } else {
+            dialog.findChild<QPushButton *>("pbRemoveImages")->click();
+        }
 
         QCOMPARE(m_prompt->titles(), QStringList{title});
         QCOMPARE(m_prompt->texts(), QStringList{text});
