@@ -162,3 +162,29 @@ bool kalCliOpenForWriting(KalProject &project, const QString &file)
     }
     return true;
 }
+
+qint64 kalCliFindDefect(const QSqlDatabase &db, const QString &number)
+{
+    QSqlQuery query(db);
+    query.prepare(QStringLiteral("SELECT id FROM defect WHERE number = :number ORDER BY id"));
+    query.bindValue(QStringLiteral(":number"), number);
+    if (!query.exec()) {
+        KalPrompt::critical(tr("Datenbankfehler"), query.lastError().text());
+        return -1;
+    }
+    QStringList ids;
+    while (query.next())
+        ids << query.value(0).toString();
+    if (ids.isEmpty()) {
+        KalPrompt::critical(tr("Fehler"), tr("Es gibt keinen Mangel mit der Nummer \"%1\".").arg(number));
+        return -1;
+    }
+    if (ids.size() > 1) {
+        KalPrompt::critical(tr("Fehler"),
+                            tr("%1 Mängel haben die Nummer \"%2\" (Ids %3); die Nummer ist nicht eindeutig.")
+                                .arg(ids.size())
+                                .arg(number, ids.join(QStringLiteral(", "))));
+        return -1;
+    }
+    return ids.first().toLongLong();
+}

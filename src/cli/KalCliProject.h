@@ -26,3 +26,7 @@ void kalCliReadOnly(const QString &file, const std::function<void(QSqlDatabase &
 // Opens through the whole lifecycle; false (reason shown) when it cannot be
 // opened or is write-protected and so cannot take changes.
 bool kalCliOpenForWriting(KalProject &project, const QString &file);
+
+// The id of the one defect numbered `number` (numbers are text and need not
+// be unique); -1 with the reason shown when none or several have it.
+qint64 kalCliFindDefect(const QSqlDatabase &db, const QString &number);

@@ -1,7 +1,9 @@
 // pellwick-cli: project files from scripts and headless machines.
 #include "cli/KalCli.h"
 #include "cli/KalCliAddDefect.h"
+#include "cli/KalCliAddPhoto.h"
 #include "cli/KalCliExport.h"
+#include "cli/KalCliExportPhotos.h"
 #include "cli/KalCliImportCompanies.h"
 #include "cli/KalCliProject.h"
 
@@ -17,6 +19,12 @@ int main(int argc, char **argv)
          "add-defect FILE.pwp --description TEXT [--number N] [--room TEXT]\n"
          "             [--company ID] [--status ID] [--priority TEXT]",
          "add a defect, save with backups, print its id", kalCliAddDefect},
+        {"add-photo", "add-photo FILE.pwp --defect NUMBER IMAGE...",
+         "store images as photos of the defect with that number, save with backups; exit 1 when any failed",
+         kalCliAddPhoto},
+        {"export-photos", "export-photos FILE.pwp --defect NUMBER --output DIR",
+         "write the defect's photos as \"01 Caption.jpg\" into DIR, never replacing a file (read-only)",
+         kalCliExportPhotos},
         {"vacuum", "vacuum FILE.pwp", "compact the project and save it", kalCliVacuum},
         {"export-defects", "export-defects FILE.pwp [--output OUT.csv] [--columns compact|all]",
          "defect list as CSV (UTF-8, \";\"), to stdout without --output (read-only)", kalCliExportDefects},

@@ -185,9 +185,8 @@ QList<qint64> KalPhotos::photoIds(qint64 defectId, QString *error) const
     return ids;
 }
 
-bool KalPhotos::renumber(qint64 defectId, QList<qint64> ids, QString *error)
+bool KalPhotos::renumber(const QList<qint64> &ids, QString *error)
 {
-    Q_UNUSED(defectId)
     QSqlQuery query(m_project->database());
     query.prepare(QStringLiteral("UPDATE photo_info SET pos = :pos WHERE id = :id"));
     for (int i = 0; i < ids.size(); ++i) {
@@ -246,7 +245,7 @@ bool KalPhotos::remove(const QList<qint64> &photoInfoIds, QString *error)
         if (!ok)
             break;
         const QList<qint64> left = photoIds(defectId, error);
-        ok = error->isEmpty() && renumber(defectId, left, error) && updateCount(defectId, error);
+        ok = error->isEmpty() && renumber(left, error) && updateCount(defectId, error);
     }
     return finish(ok);
 }
@@ -312,5 +311,5 @@ bool KalPhotos::move(qint64 photoInfoId, int newIndex, QString *error)
         *error = m_project->database().lastError().text();
         return false;
     }
-    return finish(renumber(row.defectId, ids, error));
+    return finish(renumber(ids, error));
 }

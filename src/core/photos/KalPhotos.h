@@ -52,7 +52,7 @@ private:
     bool storePhoto(qint64 defectId, const QByteArray &data, const QString &file, bool *portrait, qint64 *newId,
                     QString *error);
     bool updateCount(qint64 defectId, QString *error);
-    bool renumber(qint64 defectId, QList<qint64> ids, QString *error);
+    bool renumber(const QList<qint64> &ids, QString *error);
     bool removeOne(qint64 photoInfoId, QList<qint64> *defects, QString *error);
     bool writePicture(qint64 photoInfoId, const QImage &picture, QString *error);
     bool finish(bool ok);

@@ -143,11 +143,12 @@ bool KalPictureStore::isTruncatedJpeg(const QByteArray &data)
 {
     if (!data.startsWith("\xFF\xD8"))
         return false;
-    // Inside entropy-coded data 0xFF is always stuffed, so an end marker
-    // after the last start of scan means the last scan is complete; a thumbnail's
-    // end marker in the EXIF block comes before every scan.
-    const int lastScan = data.lastIndexOf("\xFF\xDA");
-    return lastScan < 0 || data.lastIndexOf("\xFF\xD9") < lastScan;
+    // Inside entropy-coded data 0xFF is always stuffed, so a start of scan
+    // after the last end marker means the last scan was cut off; a
+    // thumbnail's end marker in the EXIF block comes before every scan.
+    // Searching from the end keeps this cheap for the usual complete file.
+    const int lastEnd = data.lastIndexOf("\xFF\xD9");
+    return lastEnd < 0 || data.indexOf("\xFF\xDA", lastEnd) >= 0;
 }
 
 QImage KalPictureStore::decodeFitted(const QByteArray &data, int limit, QString *error)

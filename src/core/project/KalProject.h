@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/photos/KalPictureStore.h"
 #include "core/project/KalModelHost.h"
 #include "core/project/KalTransactions.h"
 
@@ -86,6 +87,9 @@ public:
     bool deleteImage(qint64 id, QString *error);
     // Stored photos wider or higher than `size`; -1 with `error` set.
     int countImagesLargerThan(int size, QString *error) const;
+    // Fits the stored photos into `size` in the project's transactions;
+    // marks the project modified when any changed.
+    KalShrinkResult shrinkImages(int size);
 
     // --- helpers that do not need an open project ---
     // "ok" when sound, otherwise the reason.

@@ -40,3 +40,13 @@ int KalProject::countImagesLargerThan(int size, QString *error) const
 {
     return photos(*this).countLargerThan(size, error);
 }
+
+KalShrinkResult KalProject::shrinkImages(int size)
+{
+    KalPictureStore store = photos(*this);
+    store.setTransactions(&m_transactions);
+    const KalShrinkResult result = store.shrink(size);
+    if (result.done > 0)
+        markModified();
+    return result;
+}
