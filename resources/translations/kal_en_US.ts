@@ -2372,12 +2372,6 @@ Click &apos;File-&gt;Clean up database&apos; in the main window to reduce the fi
         <translation>File error</translation>
     </message>
     <message>
-        <source>Das Projekt wurde noch nie gespeichert: es gibt keine Projektdatei, von der eine Backup-Datei erstellt werden könnte.
-Speichern Sie das Projekt zuerst oder verkleinern Sie ohne Backup.</source>
-        <translation>The project has never been saved: there is no project file a backup could be made of.
-Save the project first or shrink without a backup.</translation>
-    </message>
-    <message>
         <source>Die Backup-Datei %1 konnte nicht erstellt werden.</source>
         <translation>The backup file %1 could not be created.</translation>
     </message>
@@ -2403,6 +2397,33 @@ Save the project first or shrink without a backup.</translation>
     <message>
         <source>&lt;h3&gt;Datenimport von einem Mobilgerät&lt;/h3&gt;&lt;p&gt;Mängel, Mängelfotos und Firmen können Sie auf der Baustelle mit der Quellor App auf einem Smartphone oder Tablet erfassen und anschließend in das Pellwick-Projekt importieren.&lt;/p&gt;&lt;ol&gt;&lt;li&gt;Übertragen Sie die Datenbank der App auf Ihren Computer.&lt;/li&gt;&lt;li&gt;Wählen Sie im Menü &quot;Datenimport&quot; den Eintrag &quot;Mängel und Firmen aus der Quellor App importieren&quot; und wählen Sie die übertragene Datei aus.&lt;/li&gt;&lt;li&gt;Die Mängel werden mit ihren Fotos und Firmen in das geöffnete Projekt übernommen.&lt;/li&gt;&lt;/ol&gt;</source>
         <translation>&lt;h3&gt;Data import from a mobile device&lt;/h3&gt;&lt;p&gt;You can record defects, defect photos and companies on the building site with the Quellor app on a smartphone or tablet and then import them into the Pellwick project.&lt;/p&gt;&lt;ol&gt;&lt;li&gt;Transfer the database of the app to your computer.&lt;/li&gt;&lt;li&gt;In the &quot;Data import&quot; menu choose &quot;Import defects and companies from the Quellor app&quot; and select the transferred file.&lt;/li&gt;&lt;li&gt;The defects are taken over into the open project together with their photos and companies.&lt;/li&gt;&lt;/ol&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>KalShrinkBackup</name>
+    <message>
+        <source>Das Projekt wurde noch nicht gespeichert: Es gibt keine Projektdatei, die gesichert werden kann.</source>
+        <translation>The project has not been saved yet: there is no project file that could be backed up.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 existiert bereits und wird nicht überschrieben.</source>
+        <translation>The file %1 already exists and is not overwritten.</translation>
+    </message>
+    <message>
+        <source>Die Projektdatei %1 existiert nicht.</source>
+        <translation>The project file %1 does not exist.</translation>
+    </message>
+    <message>
+        <source>Auf dem Laufwerk %1 ist nicht genug Platz frei.</source>
+        <translation>There is not enough free space on the drive %1.</translation>
+    </message>
+    <message>
+        <source>Die Projektdatei konnte nicht kopiert werden.</source>
+        <translation>The project file could not be copied.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 konnte nicht angelegt werden.</source>
+        <translation>The file %1 could not be created.</translation>
     </message>
 </context>
 <context>

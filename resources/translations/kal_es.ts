@@ -2372,12 +2372,6 @@ Haga clic en &apos;Archivo-&gt;Limpiar base de datos&apos; en la ventana princip
         <translation>Error de archivo</translation>
     </message>
     <message>
-        <source>Das Projekt wurde noch nie gespeichert: es gibt keine Projektdatei, von der eine Backup-Datei erstellt werden könnte.
-Speichern Sie das Projekt zuerst oder verkleinern Sie ohne Backup.</source>
-        <translation>El proyecto nunca se ha guardado: no hay ningún archivo de proyecto del que crear una copia de seguridad.
-Guarde primero el proyecto o reduzca sin copia de seguridad.</translation>
-    </message>
-    <message>
         <source>Die Backup-Datei %1 konnte nicht erstellt werden.</source>
         <translation>No se pudo crear la copia de seguridad %1.</translation>
     </message>
@@ -2403,6 +2397,33 @@ Guarde primero el proyecto o reduzca sin copia de seguridad.</translation>
     <message>
         <source>&lt;h3&gt;Datenimport von einem Mobilgerät&lt;/h3&gt;&lt;p&gt;Mängel, Mängelfotos und Firmen können Sie auf der Baustelle mit der Quellor App auf einem Smartphone oder Tablet erfassen und anschließend in das Pellwick-Projekt importieren.&lt;/p&gt;&lt;ol&gt;&lt;li&gt;Übertragen Sie die Datenbank der App auf Ihren Computer.&lt;/li&gt;&lt;li&gt;Wählen Sie im Menü &quot;Datenimport&quot; den Eintrag &quot;Mängel und Firmen aus der Quellor App importieren&quot; und wählen Sie die übertragene Datei aus.&lt;/li&gt;&lt;li&gt;Die Mängel werden mit ihren Fotos und Firmen in das geöffnete Projekt übernommen.&lt;/li&gt;&lt;/ol&gt;</source>
         <translation>&lt;h3&gt;Importación de datos desde un dispositivo móvil&lt;/h3&gt;&lt;p&gt;Puede registrar defectos, fotos de defectos y empresas en la obra con la app de Quellor en un smartphone o una tableta e importarlos después al proyecto de Pellwick.&lt;/p&gt;&lt;ol&gt;&lt;li&gt;Transfiera la base de datos de la app a su ordenador.&lt;/li&gt;&lt;li&gt;En el menú «Importación de datos» elija «Importar defectos y empresas de la app de Quellor» y seleccione el archivo transferido.&lt;/li&gt;&lt;li&gt;Los defectos se transfieren al proyecto abierto junto con sus fotos y empresas.&lt;/li&gt;&lt;/ol&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>KalShrinkBackup</name>
+    <message>
+        <source>Das Projekt wurde noch nicht gespeichert: Es gibt keine Projektdatei, die gesichert werden kann.</source>
+        <translation>El proyecto aún no se ha guardado: no hay ningún archivo de proyecto del que hacer una copia de seguridad.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 existiert bereits und wird nicht überschrieben.</source>
+        <translation>El archivo %1 ya existe y no se sobrescribe.</translation>
+    </message>
+    <message>
+        <source>Die Projektdatei %1 existiert nicht.</source>
+        <translation>El archivo de proyecto %1 no existe.</translation>
+    </message>
+    <message>
+        <source>Auf dem Laufwerk %1 ist nicht genug Platz frei.</source>
+        <translation>No hay suficiente espacio libre en la unidad %1.</translation>
+    </message>
+    <message>
+        <source>Die Projektdatei konnte nicht kopiert werden.</source>
+        <translation>No se pudo copiar el archivo de proyecto.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 konnte nicht angelegt werden.</source>
+        <translation>No se pudo crear el archivo %1.</translation>
     </message>
 </context>
 <context>

@@ -1,16 +1,12 @@
 #include "KalSettingsImageSizeDialog.h"
 #include "ui_KalSettingsImageSizeDialog.h"
 
-#include "core/project/KalEnvironment.h"
-#include "core/project/KalFileOps.h"
+#include "core/photos/KalShrinkBackup.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
 
-#include <QCoreApplication>
 #include <QDialogButtonBox>
 #include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QIcon>
 #include <QPushButton>
 #include <QSettings>
@@ -135,14 +131,6 @@ QString KalSettingsImageSizeDialog::backupCheckBoxText()
     return tr("Backup der Datei mit bisheriger Auflösung erstellen");
 }
 
-QString KalSettingsImageSizeDialog::backupFileName(const QString &projectPath)
-{
-    QString name = projectPath + QStringLiteral(".Backup");
-    for (int n = 2; QFileInfo::exists(name) && n < 1000; ++n)
-        name = projectPath + QStringLiteral(".Backup") + QString::number(n);
-    return name;
-}
-
 void KalSettingsImageSizeDialog::slotDefault()
 {
     m_ui->sbImageSize->setValue(KalPictureStore::defaultSizeLimit(m_kind));
@@ -219,42 +207,18 @@ void KalSettingsImageSizeDialog::shrinkStoredPictures(int size)
 
 bool KalSettingsImageSizeDialog::makeBackup(QString *backupName)
 {
-    const QString projectPath = m_project->projectPath();
-    if (m_project->isUntitled() || !QFileInfo::exists(projectPath)) {
-        KalPrompt::critical(tr("Dateifehler"),
-                            tr("Das Projekt wurde noch nie gespeichert: es gibt keine Projektdatei, von der eine "
-                               "Backup-Datei erstellt werden könnte.\nSpeichern Sie das Projekt zuerst oder "
-                               "verkleinern Sie ohne Backup."));
-        return false;
+    const QString projectPath = m_project->isUntitled() ? QString() : m_project->projectPath();
+    QString error;
+    if (KalShrinkBackup::create(projectPath, &error)) {
+        *backupName = KalShrinkBackup::fileName(projectPath);
+        return true;
     }
-    // Never over an existing file, never a half-written one: copy beside it
-    // under a temporary name, then give it a name no file has yet.
-    for (int attempt = 0; attempt < 5; ++attempt) {
-        const QString target = backupFileName(projectPath);
-        const QString part = target + QStringLiteral(".part");
-        const QFileInfo source(projectPath);
-        const KalEnvironment::VolumeInfo volume = KalEnvironment::volumeInfo(source.absolutePath());
-        bool ok = volume.valid && volume.bytesAvailable > source.size() + (1 << 20) &&
-                  KalFileOps::copyFile(projectPath, part);
-        if (ok) {
-            const KalFileOps::InstallResult installed = KalFileOps::installNew(part, target);
-            if (installed == KalFileOps::AlreadyExists) {
-                QFile::remove(part);
-                continue;
-            }
-            ok = installed == KalFileOps::Installed && KalFileOps::syncDirectory(source.absolutePath());
-        }
-        QFile::remove(part);
-        if (ok) {
-            *backupName = target;
-            return true;
-        }
-        KalPrompt::critical(
-            tr("Dateifehler"),
-            tr("Die Backup-Datei %1 konnte nicht erstellt werden.").arg(QDir::toNativeSeparators(target)));
-        return false;
+    QString text = error;
+    if (!projectPath.isEmpty()) {
+        text = tr("Die Backup-Datei %1 konnte nicht erstellt werden.")
+                   .arg(QDir::toNativeSeparators(KalShrinkBackup::fileName(projectPath))) +
+               QLatin1Char('\n') + error;
     }
-    KalPrompt::critical(tr("Dateifehler"), tr("Die Backup-Datei %1 konnte nicht erstellt werden.")
-                                               .arg(QDir::toNativeSeparators(backupFileName(projectPath))));
+    KalPrompt::critical(tr("Dateifehler"), text);
     return false;
 }

@@ -28,9 +28,6 @@ public:
 
     static QString shrinkQuestionText(Kind kind, int count);
     static QString backupCheckBoxText();
-    // Where the backup of the project file goes: the first free name of
-    // "<file>.Backup", "<file>.Backup2", ...
-    static QString backupFileName(const QString &projectPath);
 
 private slots:
     void slotAccepted();
