@@ -6,7 +6,6 @@
 #include "core/project/KalPrompt.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -88,19 +87,16 @@ KalPhotoImport KalPhotos::addFiles(qint64 defectId, const QStringList &files)
 
 qint64 KalPhotos::addFile(qint64 defectId, const QString &file, bool *portrait)
 {
-    QFile in(file);
-    QByteArray data;
-    if (in.open(QIODevice::ReadOnly))
-        data = in.readAll();
     QString error;
     qint64 id = -1;
-    if (in.error() == QFileDevice::NoError && storePhoto(defectId, data, file, portrait, &id, &error))
+    const QByteArray data = KalPictureStore::readFile(file, &error);
+    if (!data.isEmpty() && storePhoto(defectId, data, file, portrait, &id, &error))
         return id;
     KalProgress::instance()->yieldToMessage();
     if (id == -2) {
         KalPrompt::critical(tr("Datenbankfehler"), error);
     } else {
-        qWarning("photo import %s: %s", qPrintable(file), qPrintable(error.isEmpty() ? in.errorString() : error));
+        qWarning("photo import %s: %s", qPrintable(file), qPrintable(error));
         KalPrompt::critical(tr("Fehler Fotoimport"),
                             tr("Das Foto %1 konnte nicht importiert werden.").arg(QDir::toNativeSeparators(file)));
     }
