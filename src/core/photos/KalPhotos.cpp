@@ -227,6 +227,8 @@ bool KalPhotos::removeOne(qint64 photoInfoId, QList<qint64> *defects, QString *e
 
 bool KalPhotos::remove(const QList<qint64> &photoInfoIds, QString *error)
 {
+    if (photoInfoIds.isEmpty())
+        return true;
     if (!m_project->beginTransaction()) {
         *error = m_project->database().lastError().text();
         return false;
@@ -301,8 +303,11 @@ bool KalPhotos::move(qint64 photoInfoId, int newIndex, QString *error)
     QList<qint64> ids = photoIds(row.defectId, error);
     if (!error->isEmpty())
         return false;
+    const QList<qint64> before = ids;
     ids.removeOne(photoInfoId);
     ids.insert(qBound(0, newIndex, ids.size()), photoInfoId);
+    if (ids == before)
+        return true;
     if (!m_project->beginTransaction()) {
         *error = m_project->database().lastError().text();
         return false;

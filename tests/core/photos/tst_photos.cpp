@@ -303,11 +303,13 @@ private slots:
         const qint64 defect = m_fx.addDefect();
         const QList<qint64> photos = addPhotos(defect, 4);
         QString error;
+        m_fx.project()->setModified(false);
         QVERIFY2(KalPhotos(m_fx.project()).move(photos.at(from), to, &error), qPrintable(error));
         QList<qint64> expected;
         for (int index : order)
             expected << photos.at(index);
         QCOMPARE(ids(defect), expected);
+        QCOMPARE(m_fx.project()->isModified(), expected != photos);
         QCOMPARE(m_fx.value(QStringLiteral("SELECT group_concat(pos) FROM (SELECT pos FROM photo_info ORDER BY pos)"))
                      .toString(),
                  QStringLiteral("1,2,3,4"));
