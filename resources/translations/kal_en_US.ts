@@ -1772,6 +1772,22 @@ Do you really want to delete these photos?</translation>
         <source>Die Pläne werden bearbeitet.</source>
         <translation>The plans are being processed.</translation>
     </message>
+    <message>
+        <source>%1 ist keine Datei.</source>
+        <translation>%1 is not a file.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 existiert nicht.</source>
+        <translation>The file %1 does not exist.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist zu groß.</source>
+        <translation>The file is too large.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist leer.</source>
+        <translation>The file is empty.</translation>
+    </message>
 </context>
 <context>
     <name>KalPlanPanel</name>

@@ -1772,6 +1772,22 @@ Sollen diese Foto tatsächlich gelöscht werden?</source>
         <source>Die Pläne werden bearbeitet.</source>
         <translation>Se están procesando los planos.</translation>
     </message>
+    <message>
+        <source>%1 ist keine Datei.</source>
+        <translation>%1 no es un archivo.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 existiert nicht.</source>
+        <translation>El archivo %1 no existe.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist zu groß.</source>
+        <translation>El archivo es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist leer.</source>
+        <translation>El archivo está vacío.</translation>
+    </message>
 </context>
 <context>
     <name>KalPlanPanel</name>
