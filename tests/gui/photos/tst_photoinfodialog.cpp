@@ -277,6 +277,34 @@ private slots:
         QCOMPARE(m_project.field("image", other, "image_width").toInt(), 640);
     }
 
+    // Caption and comment typed into the list are stored at once and mark
+    // the photo as changed here.
+    void captionAndCommentAreStored_data()
+    {
+        QTest::addColumn<QString>("column");
+        QTest::newRow("caption") << "caption";
+        QTest::newRow("comment") << "comment";
+    }
+
+    void captionAndCommentAreStored()
+    {
+        QFETCH(QString, column);
+        KalPhotoInfoDialog dialog(m_project.project(), m_defect);
+        dialog.show();
+        const qint64 id = addPhotos(dialog, {"400x300"}).first();
+        KalTableView *view = list(dialog);
+        const QModelIndex cell = view->model()->index(0, m_project.model("photo_info")->fieldIndex(column));
+        view->setCurrentIndex(cell);
+        view->edit(cell);
+        QWidget *editor = view->indexWidget(cell);
+        QVERIFY(editor);
+        QTest::keyClicks(editor, QStringLiteral("Riss 2. OG"));
+        // Closing the list ends the edit as the user's next click would.
+        dialog.findChild<QPushButton *>("pbClose")->click();
+        QCOMPARE(m_project.field("photo_info", id, column).toString(), QStringLiteral("Riss 2. OG"));
+        QCOMPARE(m_project.field("photo_info", id, "site_journal_data_modified").toInt(), 1);
+    }
+
     void dragReordersAndDropAdds()
     {
         KalSqlTableModel *photos = m_project.model("photo_info");
