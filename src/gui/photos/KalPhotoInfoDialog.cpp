@@ -223,10 +223,10 @@ void KalPhotoInfoDialog::setUpPreview()
          &KalPhotoInfoDialog::slot_rotateImageRight},
         {"actionFlipImage", QT_TR_NOOP("Bild um 180° drehen"), &KalPhotoInfoDialog::slot_flipImage},
     };
-    for (const auto &spec : actions) {
-        auto *action = new QAction(tr(spec.text), m_ui->gvImage);
-        action->setObjectName(QLatin1String(spec.name));
-        connect(action, &QAction::triggered, this, spec.slot);
+    for (const auto &entry : actions) {
+        auto *action = new QAction(tr(entry.text), m_ui->gvImage);
+        action->setObjectName(QLatin1String(entry.name));
+        connect(action, &QAction::triggered, this, entry.slot);
         m_ui->gvImage->addAction(action);
     }
 }

@@ -43,17 +43,17 @@ class TstPhotoInfoDialog : public QObject
     KalScriptedPrompt *m_prompt = nullptr;
     qint64 m_defect = -1;
 
-    // A file in the test folder, last modified on kFileDate. Spec: "WxH",
+    // A file in the test folder, last modified on kFileDate, described as "WxH",
     // "WxH@date" with an EXIF date taken, "empty" or "truncated".
-    QString makeFile(const QString &name, const QString &spec)
+    QString makeFile(const QString &name, const QString &content)
     {
         const QString path = m_dir.filePath(name);
         QByteArray bytes;
-        if (spec == QLatin1String("truncated")) {
+        if (content == QLatin1String("truncated")) {
             bytes = KalTestImages::jpeg(KalTestImages::marked(QSize(400, 300)));
             bytes.chop(bytes.size() / 2);
-        } else if (spec != QLatin1String("empty")) {
-            const QStringList parts = spec.split('@');
+        } else if (content != QLatin1String("empty")) {
+            const QStringList parts = content.split('@');
             const QStringList wh = parts.first().split('x');
             KalTestImages::Exif exif;
             if (parts.size() > 1)
@@ -70,11 +70,11 @@ class TstPhotoInfoDialog : public QObject
     int storedCount() { return m_project.count("photo_info", QStringLiteral("defect_id = %1").arg(m_defect)); }
     int imageCount() { return m_project.field("defect", m_defect, "image_cnt").toInt(); }
 
-    QList<qint64> addPhotos(KalPhotoInfoDialog &dialog, const QStringList &specs)
+    QList<qint64> addPhotos(KalPhotoInfoDialog &dialog, const QStringList &contents)
     {
         QStringList files;
-        for (int i = 0; i < specs.size(); ++i)
-            files << makeFile(QStringLiteral("Foto \"%1\" Küche.jpg").arg(i), specs.at(i));
+        for (int i = 0; i < contents.size(); ++i)
+            files << makeFile(QStringLiteral("Foto \"%1\" Küche.jpg").arg(i), contents.at(i));
         KalFileDialog::queueChoices(files);
         dialog.findChild<QPushButton *>("pbAddImages")->click();
         return KalPhotos(m_project.project()).photoIds(m_defect, nullptr);
