@@ -84,8 +84,11 @@ public:
     using ShrinkHook = std::function<bool(qint64 id, const QSize &oldSize, const QSize &newSize)>;
     void setShrinkHook(ShrinkHook hook) { m_shrinkHook = std::move(hook); }
     // Fits every larger stored picture into `size`; thumbnails stay as they
-    // were. Progress and cancel go through KalProgress. Give it the project's
-    // transactions and mark the project modified when `done` > 0.
+    // were. Progress and cancel go through KalProgress. Batches of pictures
+    // are committed as they finish; a stop keeps every picture finished so
+    // far and leaves the others as they were. Each picture is either wholly
+    // shrunk or untouched. Give it the project's transactions and mark the
+    // project modified when `done` > 0.
     KalShrinkResult shrink(int size);
 
     // --- the picture pipeline, without a database ---
