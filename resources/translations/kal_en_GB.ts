@@ -2192,6 +2192,16 @@ Do you really want to delete these photos?</translation>
         <source>Datenbankfehler</source>
         <translation>Database error</translation>
     </message>
+    <message>
+        <source>Foto bearbeiten</source>
+        <translation>Edit photo</translation>
+    </message>
+    <message>
+        <source>Das Foto kann nicht gelesen werden.
+%1</source>
+        <translation>The photo cannot be read.
+%1</translation>
+    </message>
 </context>
 <context>
     <name>KalPhotos</name>
@@ -2292,6 +2302,17 @@ Do you really want to delete these photos?</translation>
     </message>
 </context>
 <context>
+    <name>KalPlanPainter</name>
+    <message>
+        <source>Der Plan %1 existiert nicht.</source>
+        <translation>Plan %1 does not exist.</translation>
+    </message>
+    <message>
+        <source>Das Planbild ist nicht lesbar.</source>
+        <translation>The plan picture cannot be read.</translation>
+    </message>
+</context>
+<context>
     <name>KalPlanPanel</name>
     <message>
         <source>An Fenstergröße anpassen</source>
@@ -2326,6 +2347,158 @@ Doppelklick: Plan zuordnen oder im Plan verorten.</source>
         <translation>Plan of the selected defect.
 Mouse wheel: zoom in and out.
 Double-click: assign a plan or locate the defect on the plan.</translation>
+    </message>
+</context>
+<context>
+    <name>KalPlanRasteriser</name>
+    <message>
+        <source>Kein PDF-Konverter gefunden (ptc oder pdftocairo).</source>
+        <translation>No PDF converter found (ptc or pdftocairo).</translation>
+    </message>
+    <message>
+        <source>Die Kopie nach %1 ist fehlgeschlagen.</source>
+        <translation>Copying to %1 failed.</translation>
+    </message>
+    <message>
+        <source>PDF wird umgewandelt ...</source>
+        <translation>Converting PDF ...</translation>
+    </message>
+    <message>
+        <source>Abgebrochen.</source>
+        <translation>Cancelled.</translation>
+    </message>
+    <message>
+        <source>Der PDF-Konverter hat nach %1 s nicht geantwortet und wurde beendet.</source>
+        <translation>The PDF converter did not respond within %1 s and was stopped.</translation>
+    </message>
+    <message>
+        <source>Der PDF-Konverter ist abgestürzt.</source>
+        <translation>The PDF converter crashed.</translation>
+    </message>
+    <message>
+        <source>Der PDF-Konverter meldet Fehler %1.</source>
+        <translation>The PDF converter reports error %1.</translation>
+    </message>
+    <message>
+        <source>Der PDF-Konverter hat keine Seite geschrieben.</source>
+        <translation>The PDF converter wrote no page.</translation>
+    </message>
+</context>
+<context>
+    <name>KalPlans</name>
+    <message>
+        <source>Die Datei ist leer.</source>
+        <translation>The file is empty.</translation>
+    </message>
+    <message>
+        <source>Fehler Plan Import</source>
+        <translation>Plan import error</translation>
+    </message>
+    <message>
+        <source>Der Plan %1 konnte nicht importiert werden.</source>
+        <translation>Plan %1 could not be imported.</translation>
+    </message>
+    <message>
+        <source>Die Datei existiert nicht.</source>
+        <translation>The file does not exist.</translation>
+    </message>
+    <message>
+        <source>Dateifehler</source>
+        <translation>File error</translation>
+    </message>
+    <message>
+        <source>Die PDF-Datei %1 konnte nicht in den Temp-Ordner kopiert werden.</source>
+        <translation>The PDF file %1 could not be copied to the temporary folder.</translation>
+    </message>
+    <message>
+        <source>PDF-Fehler</source>
+        <translation>PDF error</translation>
+    </message>
+    <message>
+        <source>Die PDF-Konvertierung konnte nicht gestartet werden.
+Die PDF-Datei %1 wurde nicht importiert.</source>
+        <translation>The PDF conversion could not be started.
+The PDF file %1 was not imported.</translation>
+    </message>
+    <message>
+        <source>Keine neue Plannummer.</source>
+        <translation>No new plan number.</translation>
+    </message>
+    <message>
+        <source>Der Plan %1 existiert nicht.</source>
+        <translation>Plan %1 does not exist.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie zunächst per Mausklick einen Plan aus.</source>
+        <translation>First select a plan with a mouse click.</translation>
+    </message>
+    <message>
+        <source>Sie haben mehrere Pläne ausgewählt. Wählen Sie nur einen Plan aus.</source>
+        <translation>You have selected several plans. Select only one plan.</translation>
+    </message>
+    <message>
+        <source>Neue Planversion laden</source>
+        <translation>Load new plan version</translation>
+    </message>
+    <message>
+        <source>Die neue Planversion wurde erfolgreich importiert.
+Sie sollten die Lage der Marker und Texte im Plan an den neuen Planinhalt anpassen.
+
+Soll der Planeditor jetzt geöffnet werden?
+</source>
+        <translation>The new plan version was imported successfully.
+You should adjust the position of the markers and texts to the new plan content.
+
+Open the plan editor now?
+</translation>
+    </message>
+    <message>
+        <source>Plan löschen</source>
+        <translation>Delete plan</translation>
+    </message>
+    <message>
+        <source>Pläne löschen</source>
+        <translation>Delete plans</translation>
+    </message>
+    <message>
+        <source>Sie haben 1 Plan zum Löschen ausgewählt.
+Soll dieser Plan tatsächlich gelöscht werden?</source>
+        <translation>You have selected 1 plan for deletion.
+Do you really want to delete this plan?</translation>
+    </message>
+    <message>
+        <source>Sie haben %1 Pläne zum Löschen ausgewählt.
+Sollen diese Pläne tatsächlich gelöscht werden?</source>
+        <translation>You have selected %1 plans for deletion.
+Do you really want to delete these plans?</translation>
+    </message>
+    <message>
+        <source>Der Plan %1 ist einem Mangel zugeordnet.
+Wenn Sie den Plan löschen, wird diese Zuordnung aufgehoben. Der Mangel ist dann nicht mehr verortet.
+
+Soll dieser Plan tatsächlich gelöscht werden?</source>
+        <translation>Plan %1 is assigned to one defect.
+If you delete the plan, this assignment is removed and the defect is no longer located.
+
+Do you really want to delete this plan?</translation>
+    </message>
+    <message>
+        <source>Der Plan %1 ist %2 Mängeln zugeordnet.
+Wenn Sie den Plan löschen, werden diese Zuordnungen aufgehoben. Die Mängel sind dann nicht mehr verortet.
+
+Soll dieser Plan tatsächlich gelöscht werden?</source>
+        <translation>Plan %1 is assigned to %2 defects.
+If you delete the plan, these assignments are removed and the defects are no longer located.
+
+Do you really want to delete this plan?</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Database error</translation>
+    </message>
+    <message>
+        <source>Der Plan %1 konnte nicht gelöscht werden.</source>
+        <translation>Plan %1 could not be deleted.</translation>
     </message>
 </context>
 <context>

@@ -2192,6 +2192,16 @@ Sollen diese Foto tatsächlich gelöscht werden?</source>
         <source>Datenbankfehler</source>
         <translation>Error de base de datos</translation>
     </message>
+    <message>
+        <source>Foto bearbeiten</source>
+        <translation>Editar foto</translation>
+    </message>
+    <message>
+        <source>Das Foto kann nicht gelesen werden.
+%1</source>
+        <translation>No se puede leer la foto.
+%1</translation>
+    </message>
 </context>
 <context>
     <name>KalPhotos</name>
@@ -2292,6 +2302,17 @@ Sollen diese Foto tatsächlich gelöscht werden?</source>
     </message>
 </context>
 <context>
+    <name>KalPlanPainter</name>
+    <message>
+        <source>Der Plan %1 existiert nicht.</source>
+        <translation>El plano %1 no existe.</translation>
+    </message>
+    <message>
+        <source>Das Planbild ist nicht lesbar.</source>
+        <translation>No se puede leer la imagen del plano.</translation>
+    </message>
+</context>
+<context>
     <name>KalPlanPanel</name>
     <message>
         <source>An Fenstergröße anpassen</source>
@@ -2326,6 +2347,158 @@ Doppelklick: Plan zuordnen oder im Plan verorten.</source>
         <translation>Plano del defecto seleccionado.
 Rueda del ratón: ampliar y reducir.
 Doble clic: asignar un plano o ubicar el defecto en el plano.</translation>
+    </message>
+</context>
+<context>
+    <name>KalPlanRasteriser</name>
+    <message>
+        <source>Kein PDF-Konverter gefunden (ptc oder pdftocairo).</source>
+        <translation>No se ha encontrado ningún convertidor de PDF (ptc o pdftocairo).</translation>
+    </message>
+    <message>
+        <source>Die Kopie nach %1 ist fehlgeschlagen.</source>
+        <translation>La copia a %1 ha fallado.</translation>
+    </message>
+    <message>
+        <source>PDF wird umgewandelt ...</source>
+        <translation>Convirtiendo PDF ...</translation>
+    </message>
+    <message>
+        <source>Abgebrochen.</source>
+        <translation>Cancelado.</translation>
+    </message>
+    <message>
+        <source>Der PDF-Konverter hat nach %1 s nicht geantwortet und wurde beendet.</source>
+        <translation>El convertidor de PDF no respondió en %1 s y se detuvo.</translation>
+    </message>
+    <message>
+        <source>Der PDF-Konverter ist abgestürzt.</source>
+        <translation>El convertidor de PDF se ha bloqueado.</translation>
+    </message>
+    <message>
+        <source>Der PDF-Konverter meldet Fehler %1.</source>
+        <translation>El convertidor de PDF informa del error %1.</translation>
+    </message>
+    <message>
+        <source>Der PDF-Konverter hat keine Seite geschrieben.</source>
+        <translation>El convertidor de PDF no escribió ninguna página.</translation>
+    </message>
+</context>
+<context>
+    <name>KalPlans</name>
+    <message>
+        <source>Die Datei ist leer.</source>
+        <translation>El archivo está vacío.</translation>
+    </message>
+    <message>
+        <source>Fehler Plan Import</source>
+        <translation>Error al importar el plano</translation>
+    </message>
+    <message>
+        <source>Der Plan %1 konnte nicht importiert werden.</source>
+        <translation>No se pudo importar el plano %1.</translation>
+    </message>
+    <message>
+        <source>Die Datei existiert nicht.</source>
+        <translation>El archivo no existe.</translation>
+    </message>
+    <message>
+        <source>Dateifehler</source>
+        <translation>Error de archivo</translation>
+    </message>
+    <message>
+        <source>Die PDF-Datei %1 konnte nicht in den Temp-Ordner kopiert werden.</source>
+        <translation>No se pudo copiar el archivo PDF %1 a la carpeta temporal.</translation>
+    </message>
+    <message>
+        <source>PDF-Fehler</source>
+        <translation>Error de PDF</translation>
+    </message>
+    <message>
+        <source>Die PDF-Konvertierung konnte nicht gestartet werden.
+Die PDF-Datei %1 wurde nicht importiert.</source>
+        <translation>No se pudo iniciar la conversión del PDF.
+El archivo PDF %1 no se ha importado.</translation>
+    </message>
+    <message>
+        <source>Keine neue Plannummer.</source>
+        <translation>No hay un nuevo número de plano.</translation>
+    </message>
+    <message>
+        <source>Der Plan %1 existiert nicht.</source>
+        <translation>El plano %1 no existe.</translation>
+    </message>
+    <message>
+        <source>Wählen Sie zunächst per Mausklick einen Plan aus.</source>
+        <translation>Seleccione primero un plano con un clic del ratón.</translation>
+    </message>
+    <message>
+        <source>Sie haben mehrere Pläne ausgewählt. Wählen Sie nur einen Plan aus.</source>
+        <translation>Ha seleccionado varios planos. Seleccione solo un plano.</translation>
+    </message>
+    <message>
+        <source>Neue Planversion laden</source>
+        <translation>Cargar nueva versión del plano</translation>
+    </message>
+    <message>
+        <source>Die neue Planversion wurde erfolgreich importiert.
+Sie sollten die Lage der Marker und Texte im Plan an den neuen Planinhalt anpassen.
+
+Soll der Planeditor jetzt geöffnet werden?
+</source>
+        <translation>La nueva versión del plano se ha importado correctamente.
+Debería ajustar la posición de los marcadores y textos al nuevo contenido del plano.
+
+¿Abrir ahora el editor de planos?
+</translation>
+    </message>
+    <message>
+        <source>Plan löschen</source>
+        <translation>Eliminar plano</translation>
+    </message>
+    <message>
+        <source>Pläne löschen</source>
+        <translation>Eliminar planos</translation>
+    </message>
+    <message>
+        <source>Sie haben 1 Plan zum Löschen ausgewählt.
+Soll dieser Plan tatsächlich gelöscht werden?</source>
+        <translation>Ha seleccionado 1 plano para eliminar.
+¿Desea eliminar realmente este plano?</translation>
+    </message>
+    <message>
+        <source>Sie haben %1 Pläne zum Löschen ausgewählt.
+Sollen diese Pläne tatsächlich gelöscht werden?</source>
+        <translation>Ha seleccionado %1 planos para eliminar.
+¿Desea eliminar realmente estos planos?</translation>
+    </message>
+    <message>
+        <source>Der Plan %1 ist einem Mangel zugeordnet.
+Wenn Sie den Plan löschen, wird diese Zuordnung aufgehoben. Der Mangel ist dann nicht mehr verortet.
+
+Soll dieser Plan tatsächlich gelöscht werden?</source>
+        <translation>El plano %1 está asignado a un defecto.
+Si elimina el plano, se anula esta asignación y el defecto deja de estar localizado.
+
+¿Desea eliminar realmente este plano?</translation>
+    </message>
+    <message>
+        <source>Der Plan %1 ist %2 Mängeln zugeordnet.
+Wenn Sie den Plan löschen, werden diese Zuordnungen aufgehoben. Die Mängel sind dann nicht mehr verortet.
+
+Soll dieser Plan tatsächlich gelöscht werden?</source>
+        <translation>El plano %1 está asignado a %2 defectos.
+Si elimina el plano, se anulan estas asignaciones y los defectos dejan de estar localizados.
+
+¿Desea eliminar realmente este plano?</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Error de base de datos</translation>
+    </message>
+    <message>
+        <source>Der Plan %1 konnte nicht gelöscht werden.</source>
+        <translation>No se pudo eliminar el plano %1.</translation>
     </message>
 </context>
 <context>

@@ -7,6 +7,7 @@
 #include "core/project/KalPrompt.h"
 #include "core/project/KalSettings.h"
 #include "core/project/KalSqlTableModel.h"
+#include "gui/photos/KalPhotoEditor.h"
 #include "gui/photos/KalSettingsImageSizeDialog.h"
 #include "gui/widgets/KalFileDialog.h"
 #include "gui/widgets/KalTableView.h"
@@ -382,7 +383,24 @@ void KalPhotoInfoDialog::slotImageSize()
 
 void KalPhotoInfoDialog::slotStartPhotoEditor()
 {
-    // The photo editor is not part of the program yet (the button is disabled).
+    const qint64 id = currentId();
+    const qint64 imageId = imageIdOf(id);
+    if (imageId < 0)
+        return;
+    QString error;
+    const QImage picture = KalPictureStore(m_project->database(), KalPictureStore::Kind::Photo).load(imageId, &error);
+    if (picture.isNull()) {
+        KalPrompt::critical(tr("Foto bearbeiten"), tr("Das Foto kann nicht gelesen werden.\n%1").arg(error));
+        return;
+    }
+    KalPhotoEditor editor(picture, this);
+    // The editor closes as rejected when nothing was drawn or turned: the
+    // stored picture is then not encoded again.
+    if (editor.exec() != QDialog::Accepted)
+        return;
+    if (!KalPhotos(m_project).replacePicture(id, editor.result(), &error))
+        KalPrompt::critical(tr("Datenbankfehler"), error);
+    reload({id});
 }
 
 void KalPhotoInfoDialog::updateButtons()
@@ -390,8 +408,8 @@ void KalPhotoInfoDialog::updateButtons()
     const bool any =
         m_model && m_ui->tvImageInfo->selectionModel() && m_ui->tvImageInfo->selectionModel()->hasSelection();
     m_ui->pbRemoveImages->setEnabled(any);
-    m_ui->pbStartPhotoEditor->setEnabled(false);
     const bool hasPhoto = currentId() >= 0;
+    m_ui->pbStartPhotoEditor->setEnabled(hasPhoto);
     for (QAction *action : m_ui->gvImage->actions())
         action->setEnabled(hasPhoto);
 }

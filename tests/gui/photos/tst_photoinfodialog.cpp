@@ -3,6 +3,7 @@
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
 #include "gui/editors/KalDefectEditor.h"
+#include "gui/photos/KalPhotoEditor.h"
 #include "gui/photos/KalPhotoInfoDialog.h"
 #include "gui/widgets/KalFileDialog.h"
 #include "gui/widgets/KalTableView.h"
@@ -275,6 +276,50 @@ private slots:
         // The other photo stays as it was.
         const qint64 other = m_project.field("photo_info", ids.last(), "image_id").toLongLong();
         QCOMPARE(m_project.field("image", other, "image_width").toInt(), 640);
+    }
+
+    // The editor opened from the list stores what was applied, and nothing
+    // when the user leaves it unchanged or discards the changes.
+    void editorResultIsStored_data()
+    {
+        QTest::addColumn<QString>("closeWith");
+        QTest::addColumn<bool>("turn");
+        QTest::addColumn<QSize>("size");
+        QTest::newRow("turned, OK") << "pbOk" << true << QSize(600, 800);
+        QTest::newRow("unchanged, OK") << "pbOk" << false << QSize(800, 600);
+        QTest::newRow("turned, discarded") << "pbCancel" << true << QSize(800, 600);
+    }
+
+    void editorResultIsStored()
+    {
+        QFETCH(QString, closeWith);
+        QFETCH(bool, turn);
+        QFETCH(QSize, size);
+
+        KalPhotoInfoDialog dialog(m_project.project(), m_defect);
+        dialog.show();
+        const QList<qint64> ids = addPhotos(dialog, {"800x600"});
+        QVERIFY(list(dialog)->selectId(ids.first()));
+        const qint64 image = m_project.field("photo_info", ids.first(), "image_id").toLongLong();
+        const QByteArray before = m_project.field("image", image, "image").toByteArray();
+
+        KalDialogAnswer<KalPhotoEditor> editor([&](KalPhotoEditor *e) {
+            if (turn)
+                e->findChild<QAbstractButton *>("tbImageRotateRight")->click();
+            m_prompt->queueAnswerIndex(0);
+            e->findChild<QPushButton *>(closeWith)->click();
+        });
+        auto *start = dialog.findChild<QPushButton *>("pbStartPhotoEditor");
+        QVERIFY(start->isEnabled());
+        start->click();
+        QVERIFY(editor.seen());
+
+        QCOMPARE(m_project.field("image", image, "image_width").toInt(), size.width());
+        QCOMPARE(m_project.field("image", image, "image_height").toInt(), size.height());
+        const bool changed = m_project.field("image", image, "image").toByteArray() != before;
+        QCOMPARE(changed, size != QSize(800, 600));
+        QCOMPARE(m_project.field("image", image, "thumbnail_width").toInt(), changed ? 180 : 240);
+        QCOMPARE(preview(dialog), size);
     }
 
     // Caption and comment typed into the list are stored at once and mark
