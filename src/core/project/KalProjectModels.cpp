@@ -69,7 +69,7 @@ void declarePlanInfo(KalSqlTableModel *m)
                    {"id", Int},
                    {"plan_name", String, QT_TRANSLATE_NOOP("KalSqlTableModel", "Plan-Name oder Nummer")},
                    {"plan_index", String, QT_TRANSLATE_NOOP("KalSqlTableModel", "Index")},
-                   {"date", Date, QT_TRANSLATE_NOOP("KalSqlTableModel", "Datum")},
+                   {"date", Date, QT_TRANSLATE_NOOP("KalSqlTableModel", "Datum"), KalSqlTableModel::DateRole},
                    {"plan_id", Int},
                    {"pos", Int},
                });
@@ -82,7 +82,7 @@ void declarePhotoInfo(KalSqlTableModel *m)
                    {"pos", Int, QT_TRANSLATE_NOOP("KalSqlTableModel", "Position")},
                    {"caption", String, QT_TRANSLATE_NOOP("KalSqlTableModel", "Titel")},
                    {"comment", String, QT_TRANSLATE_NOOP("KalSqlTableModel", "Kommentar")},
-                   {"date", Date, QT_TRANSLATE_NOOP("KalSqlTableModel", "Datum")},
+                   {"date", Date, QT_TRANSLATE_NOOP("KalSqlTableModel", "Datum"), KalSqlTableModel::DateRole},
                    {"image_id", Int},
                    {"defect_id", Int},
                    {"site_journal_id", Int},

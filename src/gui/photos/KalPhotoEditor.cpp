@@ -81,6 +81,12 @@ KalPhotoEditor::KalPhotoEditor(const QImage &picture, QWidget *parent)
     addActions({undo, redo});
 
     setUpTools();
+    // Icon-only buttons: screen readers (and the group box around them)
+    // would otherwise announce only the group's title.
+    for (QToolButton *button : findChildren<QToolButton *>()) {
+        if (button->accessibleName().isEmpty())
+            button->setAccessibleName(button->toolTip());
+    }
     setUpArrowMenus();
     setUpSymbolMenus();
     setUpLineWidthMenu();

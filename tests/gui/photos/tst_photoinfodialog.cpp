@@ -158,6 +158,12 @@ private slots:
         QCOMPARE(list(dialog)->model()->rowCount(), dates.size());
         for (int i = 0; i < ids.size(); ++i)
             QCOMPARE(m_project.field("photo_info", ids.at(i), "date").toDate(), dates.at(i));
+        // The list shows dates as the user types them, not as stored.
+        QAbstractItemModel *shown = list(dialog)->model();
+        for (int column = 0; column < shown->columnCount(); ++column) {
+            if (shown->headerData(column, Qt::Horizontal).toString() == QLatin1String("Datum") && !dates.isEmpty())
+                QCOMPARE(shown->index(0, column).data().toString(), dates.first().toString("dd.MM.yyyy"));
+        }
         // The last added photo is selected and shown.
         QCOMPARE(list(dialog)->selectedIds(), QList<qint64>{ids.last()});
         const qint64 image = m_project.field("photo_info", ids.last(), "image_id").toLongLong();
