@@ -53,10 +53,6 @@ cannot be imported:
         <translation>The file does not exist.</translation>
     </message>
     <message>
-        <source>Die Datei ist zu groß für eine Adressdatei.</source>
-        <translation>The file is too large for an address file.</translation>
-    </message>
-    <message>
         <source>Die Datei ist keine Textdatei.</source>
         <translation>The file is not a text file.</translation>
     </message>
@@ -71,6 +67,73 @@ cannot be imported:
     <message>
         <source>Spalte %1</source>
         <translation>Column %1</translation>
+    </message>
+    <message>
+        <source>Die Datei ist %1 MB groß; eine Adressdatei darf höchstens %2 MB groß sein.</source>
+        <translation>The file is %1 MB in size; an address file may be at most %2 MB.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält nur Spaltenüberschriften, aber keine Adressen.</source>
+        <translation>The file contains only column headings but no addresses.</translation>
+    </message>
+    <message>
+        <source>Das Anführungszeichen in Zeile %1 wird nie geschlossen; der Rest der Datei wäre ein einziges Feld. Bitte korrigieren Sie die Datei.</source>
+        <translation>The quotation mark in line %1 is never closed; the rest of the file would be a single field. Please correct the file.</translation>
+    </message>
+    <message>
+        <source>Vor- und Nachname</source>
+        <translation>First and last name</translation>
+    </message>
+    <message>
+        <source>- ignorieren -</source>
+        <translation>- ignore -</translation>
+    </message>
+    <message>
+        <source>Art der Angabe in „%1“</source>
+        <translation>Kind of data in “%1”</translation>
+    </message>
+    <message>
+        <source>wird nicht übernommen</source>
+        <translation>is not taken over</translation>
+    </message>
+    <message>
+        <source>Feld und Vorrang je Zeile nach „%1“</source>
+        <translation>Field and precedence per line according to “%1”</translation>
+    </message>
+    <message>
+        <source>wird in Vor- und Nachname geteilt</source>
+        <translation>is split into first and last name</translation>
+    </message>
+    <message>
+        <source>nur wenn „%1“ leer ist</source>
+        <translation>only when “%1” is empty</translation>
+    </message>
+    <message>
+        <source>wird angehängt</source>
+        <translation>is appended</translation>
+    </message>
+</context>
+<context>
+    <name>KalCli</name>
+    <message>
+        <source>Dateifehler</source>
+        <translation>File error</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+existiert nicht.</source>
+        <translation>The file
+%1
+does not exist.</translation>
+    </message>
+    <message>
+        <source>Speicherfehler</source>
+        <translation>Memory error</translation>
+    </message>
+    <message>
+        <source>Für diesen Vorgang reicht der Arbeitsspeicher nicht; er wurde abgebrochen.</source>
+        <translation>There is not enough memory for this operation; it was cancelled.</translation>
     </message>
 </context>
 <context>
@@ -116,6 +179,13 @@ The site journal file %1 does not exist.</translation>
     <message>
         <source>Info</source>
         <translation>Info</translation>
+    </message>
+</context>
+<context>
+    <name>KalCompanies</name>
+    <message>
+        <source>Es konnte keine neue Id vergeben werden.</source>
+        <translation>No new id could be assigned.</translation>
     </message>
 </context>
 <context>
@@ -326,10 +396,6 @@ is not a site journal file.</translation>
         <translation>The companies could not be imported:
 %1</translation>
     </message>
-    <message>
-        <source>Es konnte keine neue Id vergeben werden.</source>
-        <translation>No new id could be assigned.</translation>
-    </message>
 </context>
 <context>
     <name>KalCompanyImportDialog</name>
@@ -418,10 +484,6 @@ is not a site journal file.</translation>
         <translation>Field</translation>
     </message>
     <message>
-        <source>- ignorieren -</source>
-        <translation>- ignore -</translation>
-    </message>
-    <message>
         <source>bereits vorhanden</source>
         <translation>already exists</translation>
     </message>
@@ -452,6 +514,21 @@ is not a site journal file.</translation>
     <message>
         <source>%1 Firmen wurden importiert.</source>
         <translation>%1 companies were imported.</translation>
+    </message>
+    <message>
+        <source>Alle Spalten mit Inhalt werden übernommen.</source>
+        <translation>All columns with content are taken over.</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen werden die Spalten: %1</source>
+        <translation>These columns are not taken over: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) haben mehr Felder als die Überschriftenzeile; die zusätzlichen Felder stehen in eigenen Spalten.</source>
+        <translation>
+            <numerusform>%n line has more fields than the heading line; the additional fields are in columns of their own.</numerusform>
+            <numerusform>%n lines have more fields than the heading line; the additional fields are in columns of their own.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -801,6 +878,10 @@ texts that have been entered in this field so far.</translation>
         <source>www.quellor.de</source>
         <translation>www.quellor.de</translation>
     </message>
+    <message>
+        <source>Für die Tabelle &quot;%1&quot; kann keine neue Id mehr vergeben werden.</source>
+        <translation>No more new ids can be assigned for the table &quot;%1&quot;.</translation>
+    </message>
 </context>
 <context>
     <name>KalDateEdit</name>
@@ -848,6 +929,16 @@ could not be written:
     <message>
         <source>Dateifehler</source>
         <translation>File error</translation>
+    </message>
+    <message>
+        <source>Die Mängelliste kann nicht in die Projektdatei selbst oder eine ihrer Begleitdateien geschrieben werden:
+%1</source>
+        <translation>The defect list cannot be written into the project file itself or one of its companion files:
+%1</translation>
+    </message>
+    <message>
+        <source>Für die Mängelliste reicht der Arbeitsspeicher nicht.</source>
+        <translation>There is not enough memory for the defect list.</translation>
     </message>
 </context>
 <context>
@@ -991,6 +1082,41 @@ Lower-case letters are converted to capitals automatically.</translation>
     <message>
         <source>Fotos bearbeiten</source>
         <translation>Edit photos</translation>
+    </message>
+    <message>
+        <source>Als Autor können Sie nur Initialen eingeben: höchstens zwei Buchstaben.</source>
+        <translation>As author you can only enter initials: at most two letters.</translation>
+    </message>
+</context>
+<context>
+    <name>KalDefects</name>
+    <message>
+        <source>Eine Firma mit der Id %1 gibt es in diesem Projekt nicht.</source>
+        <translation>There is no company with the id %1 in this project.</translation>
+    </message>
+    <message>
+        <source>Einen Status mit der Id %1 gibt es in diesem Projekt nicht.</source>
+        <translation>There is no status with the id %1 in this project.</translation>
+    </message>
+    <message>
+        <source>Als Autor sind höchstens zwei Großbuchstaben (Initialen) erlaubt, nicht &quot;%1&quot;.</source>
+        <translation>At most two capital letters (initials) are allowed as author, not &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Database error</translation>
+    </message>
+    <message>
+        <source>Der Mangel konnte nicht gespeichert werden.</source>
+        <translation>The defect could not be saved.</translation>
+    </message>
+    <message>
+        <source>Die Mängel konnten nicht kopiert werden.</source>
+        <translation>The defects could not be copied.</translation>
     </message>
 </context>
 <context>
@@ -1713,6 +1839,38 @@ The buttons at the bottom left add, copy or delete defects.</translation>
         <source>Die Firmenliste konnte nicht gespeichert werden.</source>
         <translation>The company list could not be saved.</translation>
     </message>
+    <message>
+        <source>Soll der gewählte Eintrag tatsächlich entfernt werden?</source>
+        <translation>Do you really want to remove the selected entry?</translation>
+    </message>
+    <message>
+        <source>Eintrag entfernen</source>
+        <translation>Remove entry</translation>
+    </message>
+    <message>
+        <source>Der gewählten Firma ist 1 Mangel zugeordnet. Er hat nach dem Löschen keine Firma mehr.</source>
+        <translation>1 defect is assigned to the selected company. After the deletion it has no company any more.</translation>
+    </message>
+    <message>
+        <source>Der gewählten Firma sind %1 Mängel zugeordnet. Sie haben nach dem Löschen keine Firma mehr.</source>
+        <translation>%1 defects are assigned to the selected company. After the deletion they have no company any more.</translation>
+    </message>
+    <message>
+        <source>Den gewählten Firmen ist 1 Mangel zugeordnet. Er hat nach dem Löschen keine Firma mehr.</source>
+        <translation>1 defect is assigned to the selected companies. After the deletion it has no company any more.</translation>
+    </message>
+    <message>
+        <source>Den gewählten Firmen sind %1 Mängel zugeordnet. Sie haben nach dem Löschen keine Firma mehr.</source>
+        <translation>%1 defects are assigned to the selected companies. After the deletion they have no company any more.</translation>
+    </message>
+    <message>
+        <source>Firma entfernen</source>
+        <translation>Remove company</translation>
+    </message>
+    <message>
+        <source>Die Stammdaten konnten nicht gespeichert werden.</source>
+        <translation>The master data could not be saved.</translation>
+    </message>
 </context>
 <context>
     <name>KalMessageBoxPrompt</name>
@@ -1722,6 +1880,7 @@ The buttons at the bottom left add, copy or delete defects.</translation>
     </message>
 </context>
 <context>
+<<<<<<< HEAD
     <name>KalPhotoEditor</name>
     <message>
         <source>Foto bearbeiten</source>
@@ -1942,6 +2101,182 @@ This cannot be undone.</translation>
     <message>
         <source>senkrecht</source>
         <translation>vertical</translation>
+=======
+    <name>KalPhotoInfoDialog</name>
+    <message>
+        <source>Fotos</source>
+        <translation>Photos</translation>
+    </message>
+    <message>
+        <source>Fotos hinzufügen</source>
+        <translation>Add photos</translation>
+    </message>
+    <message>
+        <source>Fotos entfernen</source>
+        <translation>Remove photos</translation>
+    </message>
+    <message>
+        <source>Fotogröße</source>
+        <translation>Photo size</translation>
+    </message>
+    <message>
+        <source>In das Foto zeichnen und schreiben</source>
+        <translation>Draw and write on the photo</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Bild um 90° nach links drehen</source>
+        <translation>Rotate picture 90° to the left</translation>
+    </message>
+    <message>
+        <source>Bild um 90° nach rechts drehen</source>
+        <translation>Rotate picture 90° to the right</translation>
+    </message>
+    <message>
+        <source>Bild um 180° drehen</source>
+        <translation>Rotate picture 180°</translation>
+    </message>
+    <message>
+        <source>Foto löschen</source>
+        <translation>Delete photo</translation>
+    </message>
+    <message>
+        <source>Fotos löschen</source>
+        <translation>Delete photos</translation>
+    </message>
+    <message>
+        <source>Sie haben 1 Foto zum Löschen ausgewählt.
+Soll dieses Foto tatsächlich gelöscht werden?</source>
+        <translation>You have selected 1 photo for deletion.
+Do you really want to delete this photo?</translation>
+    </message>
+    <message>
+        <source>Sie haben %1 Fotos zum Löschen ausgewählt.
+Sollen diese Foto tatsächlich gelöscht werden?</source>
+        <translation>You have selected %1 photos for deletion.
+Do you really want to delete these photos?</translation>
+    </message>
+    <message>
+        <source>Bitte nehmen Sie nur dann Fotos im Hochformat auf, wenn das Motiv es nicht anders zulässt. Die beste Platzausnutzung im Bericht erreichen Sie mit Fotos im Querformat. Hochformate mit Seitenverhältnissen größer 4:3 können aus Platzgründen zugeschnitten werden.</source>
+        <translation>Please take photos in portrait format only when the subject allows nothing else. Photos in landscape format make the best use of space in the report. Portrait photos with aspect ratios above 4:3 may be cropped for lack of space.</translation>
+    </message>
+    <message>
+        <source>Fotos auswählen</source>
+        <translation>Select photos</translation>
+    </message>
+    <message>
+        <source>Fotos (*.png *.jpg  *.jpeg *.bmp *.gif *.tif *.tiff)</source>
+        <translation>Photos (*.png *.jpg  *.jpeg *.bmp *.gif *.tif *.tiff)</translation>
+    </message>
+    <message>
+        <source>Fotoimport</source>
+        <translation>Photo import</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Database error</translation>
+    </message>
+</context>
+<context>
+    <name>KalPhotos</name>
+    <message>
+        <source>Das Foto %1 existiert nicht.</source>
+        <translation>The photo %1 does not exist.</translation>
+    </message>
+    <message>
+        <source>Die Fotos werden importiert.</source>
+        <translation>The photos are being imported.</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Database error</translation>
+    </message>
+    <message>
+        <source>Fehler Fotoimport</source>
+        <translation>Photo import error</translation>
+    </message>
+    <message>
+        <source>Das Foto %1 konnte nicht importiert werden.</source>
+        <translation>The photo %1 could not be imported.</translation>
+    </message>
+    <message>
+        <source>Der Mangel %1 existiert nicht.</source>
+        <translation>The defect %1 does not exist.</translation>
+    </message>
+    <message>
+        <source>Fotos lassen sich nur um 90°, 180° oder 270° drehen.</source>
+        <translation>Photos can only be rotated by 90°, 180° or 270°.</translation>
+    </message>
+    <message>
+        <source>Das Bild ist leer.</source>
+        <translation>The picture is empty.</translation>
+    </message>
+</context>
+<context>
+    <name>KalPictureStore</name>
+    <message>
+        <source>Das Bild ist leer.</source>
+        <translation>The picture is empty.</translation>
+    </message>
+    <message>
+        <source>Das Bild konnte nicht als JPEG gespeichert werden.</source>
+        <translation>The picture could not be stored as JPEG.</translation>
+    </message>
+    <message>
+        <source>Unbekanntes Bildformat oder unbekannte Bildgröße.</source>
+        <translation>Unknown picture format or unknown picture size.</translation>
+    </message>
+    <message>
+        <source>Das Bild ist mit %1 × %2 Pixeln zu groß.</source>
+        <translation>At %1 × %2 pixels the picture is too large.</translation>
+    </message>
+    <message>
+        <source>Die JPEG-Datei ist unvollständig.</source>
+        <translation>The JPEG file is incomplete.</translation>
+    </message>
+    <message>
+        <source>Die neue Bildnummer ist unbekannt.</source>
+        <translation>The new picture number is unknown.</translation>
+    </message>
+    <message>
+        <source>Das Bild %1 existiert nicht.</source>
+        <translation>The picture %1 does not exist.</translation>
+    </message>
+    <message>
+        <source>Das Bild %1 ist leer.</source>
+        <translation>The picture %1 is empty.</translation>
+    </message>
+    <message>
+        <source>Die Änderung zum Bild %1 konnte nicht übernommen werden.</source>
+        <translation>The change to picture %1 could not be applied.</translation>
+    </message>
+    <message>
+        <source>Die Fotos werden bearbeitet.</source>
+        <translation>The photos are being processed.</translation>
+    </message>
+    <message>
+        <source>Die Pläne werden bearbeitet.</source>
+        <translation>The plans are being processed.</translation>
+    </message>
+    <message>
+        <source>%1 ist keine Datei.</source>
+        <translation>%1 is not a file.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 existiert nicht.</source>
+        <translation>The file %1 does not exist.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist zu groß.</source>
+        <translation>The file is too large.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist leer.</source>
+        <translation>The file is empty.</translation>
+>>>>>>> wt-photodialogs
     </message>
 </context>
 <context>
@@ -2002,6 +2337,10 @@ Double-click: assign a plan or locate the defect on the plan.</translation>
         <source>Bitte warten...</source>
         <translation>Please wait...</translation>
     </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
 </context>
 <context>
     <name>KalProject</name>
@@ -2044,16 +2383,6 @@ since %3 %4.</translation>
         <translation>Database in use</translation>
     </message>
     <message>
-        <source>Datei öffnen</source>
-        <translation>Open file</translation>
-    </message>
-    <message>
-        <source>Die letzte Bearbeitung der Mängel-Datei wurde nicht ordnungsgemäß abgeschlossen.
-Der letzte Bearbeitungsstand wird geöffnet. Speichern Sie die Datei, wenn Sie diesen Stand behalten wollen.</source>
-        <translation>The last editing of the defect file was not finished properly.
-The last state of editing is opened. Save the file if you want to keep this state.</translation>
-    </message>
-    <message>
         <source>Die Datei
 %1
 existiert nicht.</source>
@@ -2062,92 +2391,12 @@ existiert nicht.</source>
 does not exist.</translation>
     </message>
     <message>
-        <source>Die Datei kann nicht geöffnet werden, da sie mit einer neueren Programmversion erstellt wurde.</source>
-        <translation>The file cannot be opened because it was created with a newer version of the program.</translation>
-    </message>
-    <message>
         <source>Tabelle KAL fehlt</source>
         <translation>Table KAL is missing</translation>
     </message>
     <message>
-        <source>Die interne Struktur der Mängel-Datenbank ist beschädigt.
-Wenn Sie mit dieser Datenbank weiterarbeiten, drohen Datenverluste!
-</source>
-        <translation>The internal structure of the defect database is damaged.
-If you keep working with this database, data may be lost!
-</translation>
-    </message>
-    <message>
-        <source>Beschädigte Datenbank-Datei</source>
-        <translation>Damaged database file</translation>
-    </message>
-    <message>
-        <source>Backup wiederherstellen</source>
-        <translation>Restore backup</translation>
-    </message>
-    <message>
-        <source>Beschädigte Datei öffnen</source>
-        <translation>Open damaged file</translation>
-    </message>
-    <message>
-        <source>Das neueste unbeschädigte Backup stammt vom %1.
-Soll dieses Backup wiederhergestellt werden (empfohlen)?</source>
-        <translation>The newest undamaged backup dates from %1.
-Do you want to restore this backup (recommended)?</translation>
-    </message>
-    <message>
-        <source>Es existieren keine Backup-Dateien. Wenn sie über Sicherungskopien dieser Datei verfügen, stellen Sie diese wieder her.
-</source>
-        <translation>There are no backup files. If you have backup copies of this file, restore them.
-</translation>
-    </message>
-    <message>
-        <source>Die Backup-Dateien sind ebenfalls beschädigt. Wenn sie über Sicherungskopien dieser Datei verfügen, stellen Sie diese wieder her.
-</source>
-        <translation>The backup files are damaged as well. If you have backup copies of this file, restore them.
-</translation>
-    </message>
-    <message>
-        <source>Abbrechen</source>
-        <translation>Cancel</translation>
-    </message>
-    <message>
-        <source>Die Datei konnte nicht wiederhegestellt werden.
-</source>
-        <translation>The file could not be restored.
-</translation>
-    </message>
-    <message>
-        <source>Die Datei wurde erfolgreich wiederhergestellt und wird jetzt geöffnet.
-Die beschädigte Datei wurde umbenannt in %2.</source>
-        <translation>The file has been restored successfully and is now opened.
-The damaged file was renamed to %2.</translation>
-    </message>
-    <message>
         <source>Speicherplatz nicht ausreichend</source>
         <translation>Not enough disk space</translation>
-    </message>
-    <message>
-        <source>Auf dem Laufwerk %1 steht nicht genügend Speicherplatz zur Verfügung, um das Projekt zu öffnen.
-Geben Sie mindestens %2 MB Speicherplatz frei und versuchen Sie es erneut.</source>
-        <translation>There is not enough space on drive %1 to open the project.
-Free at least %2 MB and try again.</translation>
-    </message>
-    <message>
-        <source>Speicherplatz</source>
-        <translation>Disk space</translation>
-    </message>
-    <message>
-        <source>Sie sollten auf dem Laufwerk %1 Speicherplatz freigeben, da es sonst zu Problemen beim Speichern des Projekts kommen kann.</source>
-        <translation>You should free space on drive %1; otherwise saving the project may run into problems.</translation>
-    </message>
-    <message>
-        <source>Projekt wird geöffnet...</source>
-        <translation>Opening project...</translation>
-    </message>
-    <message>
-        <source>Die Working Copy Datei konnte nicht erstellt werden.</source>
-        <translation>The working copy file could not be created.</translation>
     </message>
     <message>
         <source>Datei-Warnung</source>
@@ -2285,6 +2534,34 @@ Die Dateigröße wurde von %1 auf %2 reduziert.</source>
         <translation>The database has been cleaned up successfully.
 The file size was reduced from %1 to %2.</translation>
     </message>
+    <message>
+        <source>keine gewöhnliche Datei</source>
+        <translation>not a regular file</translation>
+    </message>
+    <message>
+        <source>leere Datei</source>
+        <translation>empty file</translation>
+    </message>
+    <message>
+        <source>keine lesbare Datenbank: %1</source>
+        <translation>not a readable database: %1</translation>
+    </message>
+    <message>
+        <source>mit einer neueren Programmversion erstellt</source>
+        <translation>created with a newer program version</translation>
+    </message>
+    <message>
+        <source>beschädigt: %1</source>
+        <translation>damaged: %1</translation>
+    </message>
+    <message>
+        <source>Der Ordner
+%1
+existiert nicht.</source>
+        <translation>The folder
+%1
+does not exist.</translation>
+    </message>
 </context>
 <context>
     <name>KalProjectFileCommands</name>
@@ -2379,10 +2656,6 @@ existiert nicht.</source>
 does not exist.</translation>
     </message>
     <message>
-        <source>Beim Öffnen des gewählten Projekts ist ein Fehler aufgetreten!</source>
-        <translation>An error occurred while opening the chosen project!</translation>
-    </message>
-    <message>
         <source>Projekt öffnen</source>
         <translation>Open project</translation>
     </message>
@@ -2457,6 +2730,159 @@ The changes will be saved before the database is cleaned up.
     </message>
 </context>
 <context>
+    <name>KalSettingsImageSizeDialog</name>
+    <message>
+        <source>Bildgröße Fotos</source>
+        <translation>Picture size photos</translation>
+    </message>
+    <message>
+        <source>Fotos komprimieren auf:</source>
+        <translation>Compress photos to:</translation>
+    </message>
+    <message>
+        <source>Pixel</source>
+        <translation>pixels</translation>
+    </message>
+    <message>
+        <source>Standardeinstellung</source>
+        <translation>Default setting</translation>
+    </message>
+    <message>
+        <source>Fotos</source>
+        <translation>photos</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;br&gt;Sie haben die Größe für den Import von Fotos reduziert.&lt;/p&gt;%1 bestehende Fotos sind größer als die aktuelle Einstellung. Sollen diese Fotos verkleinert werden?&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Achtung: &lt;br&gt;Dieser Vorgang kann nicht rückgängig gemacht werden. &lt;/span&gt;Es wird daher empfohlen, ein Backup der Datei mit der bisherigen Auflösung zu erstellen.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;br&gt;You have reduced the size for importing photos.&lt;/p&gt;%1 existing photos are larger than the current setting. Do you want to shrink these photos?&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Attention: &lt;br&gt;This operation cannot be undone. &lt;/span&gt;It is therefore recommended to make a backup of the file with the previous resolution.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Fotogröße</source>
+        <translation>Photo size</translation>
+    </message>
+    <message>
+        <source>Bestehende Fotos verkleinern</source>
+        <translation>Shrink existing photos</translation>
+    </message>
+    <message>
+        <source>Die Fotos werden bearbeitet.</source>
+        <translation>The photos are being processed.</translation>
+    </message>
+    <message>
+        <source>Bildgröße Pläne</source>
+        <translation>Picture size plans</translation>
+    </message>
+    <message>
+        <source>Pläne komprimieren auf:</source>
+        <translation>Compress plans to:</translation>
+    </message>
+    <message>
+        <source>Pläne</source>
+        <translation>plans</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;br&gt;Sie haben die Größe für den Import von Plänen reduziert.&lt;/p&gt;%1 bestehende Pläne sind größer als die aktuelle Einstellung. Sollen diese Pläne verkleinert werden?&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Achtung: &lt;br&gt;Dieser Vorgang kann nicht rückgängig gemacht werden. &lt;/span&gt;Es wird daher empfohlen, ein Backup der Datei mit der bisherigen Auflösung zu erstellen.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;br&gt;You have reduced the size for importing plans.&lt;/p&gt;%1 existing plans are larger than the current setting. Do you want to shrink these plans?&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Attention: &lt;br&gt;This operation cannot be undone. &lt;/span&gt;It is therefore recommended to make a backup of the file with the previous resolution.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Plangröße</source>
+        <translation>Plan size</translation>
+    </message>
+    <message>
+        <source>Bestehende Pläne verkleinern</source>
+        <translation>Shrink existing plans</translation>
+    </message>
+    <message>
+        <source>Die Pläne werden bearbeitet.</source>
+        <translation>The plans are being processed.</translation>
+    </message>
+    <message>
+        <source>Es ist ein Fehler aufgetreten.
+Die Größe der bestehenden Fotos konnte nicht geändert werden.</source>
+        <translation>An error has occurred.
+The size of the existing photos could not be changed.</translation>
+    </message>
+    <message>
+        <source>Es ist sind Fehler aufgetreten.
+Die Größe von %1 bestehenden Fotos konnte nicht geändert werden.</source>
+        <translation>Errors have occurred.
+The size of %1 existing photos could not be changed.</translation>
+    </message>
+    <message>
+        <source>Die Größe der bestehenden Fotos wurde erfolgreich geändert.
+Die Backup-Datei %1 wurde erstellt.</source>
+        <translation>The size of the existing photos was changed successfully.
+The backup file %1 has been created.</translation>
+    </message>
+    <message>
+        <source>Die Größe der bestehenden Fotos wurde erfolgreich geändert.</source>
+        <translation>The size of the existing photos was changed successfully.</translation>
+    </message>
+    <message>
+        <source>Es ist ein Fehler aufgetreten.
+Die Größe der bestehenden Pläne konnte nicht geändert werden.</source>
+        <translation>An error has occurred.
+The size of the existing plans could not be changed.</translation>
+    </message>
+    <message>
+        <source>Es ist sind Fehler aufgetreten.
+Die Größe von %1 bestehenden Plänen konnte nicht geändert werden.</source>
+        <translation>Errors have occurred.
+The size of %1 existing plans could not be changed.</translation>
+    </message>
+    <message>
+        <source>Die Größe der bestehenden Pläne wurde erfolgreich geändert.
+Die Backup-Datei %1 wurde erstellt.</source>
+        <translation>The size of the existing plans was changed successfully.
+The backup file %1 has been created.</translation>
+    </message>
+    <message>
+        <source>Die Größe der bestehenden Pläne wurde erfolgreich geändert.</source>
+        <translation>The size of the existing plans was changed successfully.</translation>
+    </message>
+    <message>
+        <source>Hier können Sie festlegen auf welche Pixelanzahl große %1 komprimiert werden sollen.
+Mit höheren Werten steigt sowohl die Bildqualität als auch die Dateigröße.
+Die Komprimierung erfolgt nur für neu hinzugefügte %2.</source>
+        <translation>Here you can set the number of pixels to which large %1 are compressed.
+Higher values increase both the picture quality and the file size.
+The compression applies only to newly added %2.</translation>
+    </message>
+    <message>
+        <source>Backup der Datei mit bisheriger Auflösung erstellen</source>
+        <translation>Make a backup of the file with the previous resolution</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Database error</translation>
+    </message>
+    <message>
+        <source>Das Verkleinern wurde abgebrochen.
+%1 von %2 Bildern wurden verkleinert und bleiben es; die übrigen sind unverändert.</source>
+        <translation>Shrinking was cancelled.
+%1 of %2 pictures were shrunk and stay so; the others are unchanged.</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>
+
+Klicken Sie im Hauptfenster auf &apos;Datei-&gt;Datenbank bereinigen&apos;, um die Dateigröße zu reduzieren.</source>
+        <translation>
+
+Click &apos;File-&gt;Clean up database&apos; in the main window to reduce the file size.</translation>
+    </message>
+    <message>
+        <source>Dateifehler</source>
+        <translation>File error</translation>
+    </message>
+    <message>
+        <source>Die Backup-Datei %1 konnte nicht erstellt werden.</source>
+        <translation>The backup file %1 could not be created.</translation>
+    </message>
+</context>
+<context>
     <name>KalShortHelpDialog</name>
     <message>
         <source>Schließen</source>
@@ -2477,6 +2903,33 @@ The changes will be saved before the database is cleaned up.
     <message>
         <source>&lt;h3&gt;Datenimport von einem Mobilgerät&lt;/h3&gt;&lt;p&gt;Mängel, Mängelfotos und Firmen können Sie auf der Baustelle mit der Quellor App auf einem Smartphone oder Tablet erfassen und anschließend in das Pellwick-Projekt importieren.&lt;/p&gt;&lt;ol&gt;&lt;li&gt;Übertragen Sie die Datenbank der App auf Ihren Computer.&lt;/li&gt;&lt;li&gt;Wählen Sie im Menü &quot;Datenimport&quot; den Eintrag &quot;Mängel und Firmen aus der Quellor App importieren&quot; und wählen Sie die übertragene Datei aus.&lt;/li&gt;&lt;li&gt;Die Mängel werden mit ihren Fotos und Firmen in das geöffnete Projekt übernommen.&lt;/li&gt;&lt;/ol&gt;</source>
         <translation>&lt;h3&gt;Data import from a mobile device&lt;/h3&gt;&lt;p&gt;You can record defects, defect photos and companies on the building site with the Quellor app on a smartphone or tablet and then import them into the Pellwick project.&lt;/p&gt;&lt;ol&gt;&lt;li&gt;Transfer the database of the app to your computer.&lt;/li&gt;&lt;li&gt;In the &quot;Data import&quot; menu choose &quot;Import defects and companies from the Quellor app&quot; and select the transferred file.&lt;/li&gt;&lt;li&gt;The defects are taken over into the open project together with their photos and companies.&lt;/li&gt;&lt;/ol&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>KalShrinkBackup</name>
+    <message>
+        <source>Das Projekt wurde noch nicht gespeichert: Es gibt keine Projektdatei, die gesichert werden kann.</source>
+        <translation>The project has not been saved yet: there is no project file that could be backed up.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 existiert bereits und wird nicht überschrieben.</source>
+        <translation>The file %1 already exists and is not overwritten.</translation>
+    </message>
+    <message>
+        <source>Die Projektdatei %1 existiert nicht.</source>
+        <translation>The project file %1 does not exist.</translation>
+    </message>
+    <message>
+        <source>Auf dem Laufwerk %1 ist nicht genug Platz frei.</source>
+        <translation>There is not enough free space on the drive %1.</translation>
+    </message>
+    <message>
+        <source>Die Projektdatei konnte nicht kopiert werden.</source>
+        <translation>The project file could not be copied.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 konnte nicht angelegt werden.</source>
+        <translation>The file %1 could not be created.</translation>
     </message>
 </context>
 <context>
@@ -2779,6 +3232,25 @@ for storing the dictionaries could not be created!</translation>
     <message>
         <source>Mail-Addressen</source>
         <translation>Mail addresses</translation>
+    </message>
+</context>
+<context>
+    <name>KalSqliteCheck</name>
+    <message>
+        <source>unbekannt</source>
+        <translation>unknown</translation>
+    </message>
+    <message>
+        <source>Der SQLite-Treiber von Qt (QSQLITE) verwendet SQLite %1, das Programm aber SQLite %2.
+Projektdateien werden deshalb nicht geöffnet, damit sie nicht beschädigt werden.
+Bitte installieren Sie einen SQLite-Treiber für Qt, der die SQLite-Bibliothek des Systems verwendet, oder wenden Sie sich an den Softwarehersteller.</source>
+        <translation>The SQLite driver of Qt (QSQLITE) uses SQLite %1, but the program uses SQLite %2.
+Project files are therefore not opened, so that they are not damaged.
+Please install an SQLite driver for Qt that uses the SQLite library of the system, or contact the software publisher.</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Error</translation>
     </message>
 </context>
 <context>

@@ -53,10 +53,6 @@ no se puede importar:
         <translation>El archivo no existe.</translation>
     </message>
     <message>
-        <source>Die Datei ist zu groß für eine Adressdatei.</source>
-        <translation>El archivo es demasiado grande para ser un archivo de direcciones.</translation>
-    </message>
-    <message>
         <source>Die Datei ist keine Textdatei.</source>
         <translation>El archivo no es un archivo de texto.</translation>
     </message>
@@ -71,6 +67,73 @@ no se puede importar:
     <message>
         <source>Spalte %1</source>
         <translation>Columna %1</translation>
+    </message>
+    <message>
+        <source>Die Datei ist %1 MB groß; eine Adressdatei darf höchstens %2 MB groß sein.</source>
+        <translation>El archivo ocupa %1 MB; un archivo de direcciones puede ocupar como máximo %2 MB.</translation>
+    </message>
+    <message>
+        <source>Die Datei enthält nur Spaltenüberschriften, aber keine Adressen.</source>
+        <translation>El archivo solo contiene encabezados de columna, pero ninguna dirección.</translation>
+    </message>
+    <message>
+        <source>Das Anführungszeichen in Zeile %1 wird nie geschlossen; der Rest der Datei wäre ein einziges Feld. Bitte korrigieren Sie die Datei.</source>
+        <translation>Las comillas de la línea %1 nunca se cierran; el resto del archivo sería un único campo. Corrija el archivo.</translation>
+    </message>
+    <message>
+        <source>Vor- und Nachname</source>
+        <translation>Nombre y apellidos</translation>
+    </message>
+    <message>
+        <source>- ignorieren -</source>
+        <translation>- ignorar -</translation>
+    </message>
+    <message>
+        <source>Art der Angabe in „%1“</source>
+        <translation>Tipo de dato en «%1»</translation>
+    </message>
+    <message>
+        <source>wird nicht übernommen</source>
+        <translation>no se importa</translation>
+    </message>
+    <message>
+        <source>Feld und Vorrang je Zeile nach „%1“</source>
+        <translation>Campo y prioridad por línea según «%1»</translation>
+    </message>
+    <message>
+        <source>wird in Vor- und Nachname geteilt</source>
+        <translation>se divide en nombre y apellidos</translation>
+    </message>
+    <message>
+        <source>nur wenn „%1“ leer ist</source>
+        <translation>solo si «%1» está vacío</translation>
+    </message>
+    <message>
+        <source>wird angehängt</source>
+        <translation>se añade al final</translation>
+    </message>
+</context>
+<context>
+    <name>KalCli</name>
+    <message>
+        <source>Dateifehler</source>
+        <translation>Error de archivo</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+existiert nicht.</source>
+        <translation>El archivo
+%1
+no existe.</translation>
+    </message>
+    <message>
+        <source>Speicherfehler</source>
+        <translation>Error de memoria</translation>
+    </message>
+    <message>
+        <source>Für diesen Vorgang reicht der Arbeitsspeicher nicht; er wurde abgebrochen.</source>
+        <translation>No hay memoria suficiente para esta operación; se ha cancelado.</translation>
     </message>
 </context>
 <context>
@@ -116,6 +179,13 @@ El archivo del diario de obra %1 no existe.</translation>
     <message>
         <source>Info</source>
         <translation>Información</translation>
+    </message>
+</context>
+<context>
+    <name>KalCompanies</name>
+    <message>
+        <source>Es konnte keine neue Id vergeben werden.</source>
+        <translation>No se pudo asignar un nuevo id.</translation>
     </message>
 </context>
 <context>
@@ -326,10 +396,6 @@ no es un archivo de diario de obra.</translation>
         <translation>No se han podido importar las empresas:
 %1</translation>
     </message>
-    <message>
-        <source>Es konnte keine neue Id vergeben werden.</source>
-        <translation>No se ha podido asignar un nuevo identificador.</translation>
-    </message>
 </context>
 <context>
     <name>KalCompanyImportDialog</name>
@@ -418,10 +484,6 @@ no es un archivo de diario de obra.</translation>
         <translation>Campo</translation>
     </message>
     <message>
-        <source>- ignorieren -</source>
-        <translation>- ignorar -</translation>
-    </message>
-    <message>
         <source>bereits vorhanden</source>
         <translation>ya existe</translation>
     </message>
@@ -452,6 +514,21 @@ no es un archivo de diario de obra.</translation>
     <message>
         <source>%1 Firmen wurden importiert.</source>
         <translation>Se han importado %1 empresas.</translation>
+    </message>
+    <message>
+        <source>Alle Spalten mit Inhalt werden übernommen.</source>
+        <translation>Se importan todas las columnas con contenido.</translation>
+    </message>
+    <message>
+        <source>Nicht übernommen werden die Spalten: %1</source>
+        <translation>No se importan las columnas: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n Zeile(n) haben mehr Felder als die Überschriftenzeile; die zusätzlichen Felder stehen in eigenen Spalten.</source>
+        <translation>
+            <numerusform>%n línea tiene más campos que la línea de encabezado; los campos adicionales están en columnas propias.</numerusform>
+            <numerusform>%n líneas tienen más campos que la línea de encabezado; los campos adicionales están en columnas propias.</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -801,6 +878,10 @@ textos que se han introducido hasta ahora en este campo.</translation>
         <source>www.quellor.de</source>
         <translation>www.quellor.de</translation>
     </message>
+    <message>
+        <source>Für die Tabelle &quot;%1&quot; kann keine neue Id mehr vergeben werden.</source>
+        <translation>Ya no se pueden asignar nuevos id para la tabla &quot;%1&quot;.</translation>
+    </message>
 </context>
 <context>
     <name>KalDateEdit</name>
@@ -848,6 +929,16 @@ no se ha podido escribir:
     <message>
         <source>Dateifehler</source>
         <translation>Error de archivo</translation>
+    </message>
+    <message>
+        <source>Die Mängelliste kann nicht in die Projektdatei selbst oder eine ihrer Begleitdateien geschrieben werden:
+%1</source>
+        <translation>La lista de defectos no se puede escribir en el propio archivo del proyecto ni en uno de sus archivos asociados:
+%1</translation>
+    </message>
+    <message>
+        <source>Für die Mängelliste reicht der Arbeitsspeicher nicht.</source>
+        <translation>No hay memoria suficiente para la lista de defectos.</translation>
     </message>
 </context>
 <context>
@@ -991,6 +1082,41 @@ Las minúsculas se convierten automáticamente en mayúsculas.</translation>
     <message>
         <source>Fotos bearbeiten</source>
         <translation>Editar fotos</translation>
+    </message>
+    <message>
+        <source>Als Autor können Sie nur Initialen eingeben: höchstens zwei Buchstaben.</source>
+        <translation>Como autor solo puede introducir iniciales: como máximo dos letras.</translation>
+    </message>
+</context>
+<context>
+    <name>KalDefects</name>
+    <message>
+        <source>Eine Firma mit der Id %1 gibt es in diesem Projekt nicht.</source>
+        <translation>En este proyecto no existe ninguna empresa con el id %1.</translation>
+    </message>
+    <message>
+        <source>Einen Status mit der Id %1 gibt es in diesem Projekt nicht.</source>
+        <translation>En este proyecto no existe ningún estado con el id %1.</translation>
+    </message>
+    <message>
+        <source>Als Autor sind höchstens zwei Großbuchstaben (Initialen) erlaubt, nicht &quot;%1&quot;.</source>
+        <translation>Como autor se permiten como máximo dos mayúsculas (iniciales), no &quot;%1&quot;.</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Error de base de datos</translation>
+    </message>
+    <message>
+        <source>Der Mangel konnte nicht gespeichert werden.</source>
+        <translation>No se pudo guardar el defecto.</translation>
+    </message>
+    <message>
+        <source>Die Mängel konnten nicht kopiert werden.</source>
+        <translation>No se pudieron copiar los defectos.</translation>
     </message>
 </context>
 <context>
@@ -1713,6 +1839,38 @@ Los botones de abajo a la izquierda añaden, copian o eliminan defectos.</transl
         <source>Die Firmenliste konnte nicht gespeichert werden.</source>
         <translation>No se ha podido guardar la lista de empresas.</translation>
     </message>
+    <message>
+        <source>Soll der gewählte Eintrag tatsächlich entfernt werden?</source>
+        <translation>¿Desea eliminar realmente la entrada seleccionada?</translation>
+    </message>
+    <message>
+        <source>Eintrag entfernen</source>
+        <translation>Eliminar entrada</translation>
+    </message>
+    <message>
+        <source>Der gewählten Firma ist 1 Mangel zugeordnet. Er hat nach dem Löschen keine Firma mehr.</source>
+        <translation>La empresa seleccionada tiene asignado 1 defecto. Tras la eliminación ya no tendrá empresa.</translation>
+    </message>
+    <message>
+        <source>Der gewählten Firma sind %1 Mängel zugeordnet. Sie haben nach dem Löschen keine Firma mehr.</source>
+        <translation>La empresa seleccionada tiene asignados %1 defectos. Tras la eliminación ya no tendrán empresa.</translation>
+    </message>
+    <message>
+        <source>Den gewählten Firmen ist 1 Mangel zugeordnet. Er hat nach dem Löschen keine Firma mehr.</source>
+        <translation>Las empresas seleccionadas tienen asignado 1 defecto. Tras la eliminación ya no tendrá empresa.</translation>
+    </message>
+    <message>
+        <source>Den gewählten Firmen sind %1 Mängel zugeordnet. Sie haben nach dem Löschen keine Firma mehr.</source>
+        <translation>Las empresas seleccionadas tienen asignados %1 defectos. Tras la eliminación ya no tendrán empresa.</translation>
+    </message>
+    <message>
+        <source>Firma entfernen</source>
+        <translation>Eliminar empresa</translation>
+    </message>
+    <message>
+        <source>Die Stammdaten konnten nicht gespeichert werden.</source>
+        <translation>No se pudieron guardar los datos maestros.</translation>
+    </message>
 </context>
 <context>
     <name>KalMessageBoxPrompt</name>
@@ -1722,6 +1880,7 @@ Los botones de abajo a la izquierda añaden, copian o eliminan defectos.</transl
     </message>
 </context>
 <context>
+<<<<<<< HEAD
     <name>KalPhotoEditor</name>
     <message>
         <source>Foto bearbeiten</source>
@@ -1942,6 +2101,182 @@ Esta operación no se puede deshacer.</translation>
     <message>
         <source>senkrecht</source>
         <translation>vertical</translation>
+=======
+    <name>KalPhotoInfoDialog</name>
+    <message>
+        <source>Fotos</source>
+        <translation>Fotos</translation>
+    </message>
+    <message>
+        <source>Fotos hinzufügen</source>
+        <translation>Añadir fotos</translation>
+    </message>
+    <message>
+        <source>Fotos entfernen</source>
+        <translation>Eliminar fotos</translation>
+    </message>
+    <message>
+        <source>Fotogröße</source>
+        <translation>Tamaño de foto</translation>
+    </message>
+    <message>
+        <source>In das Foto zeichnen und schreiben</source>
+        <translation>Dibujar y escribir en la foto</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Bild um 90° nach links drehen</source>
+        <translation>Girar la imagen 90° a la izquierda</translation>
+    </message>
+    <message>
+        <source>Bild um 90° nach rechts drehen</source>
+        <translation>Girar la imagen 90° a la derecha</translation>
+    </message>
+    <message>
+        <source>Bild um 180° drehen</source>
+        <translation>Girar la imagen 180°</translation>
+    </message>
+    <message>
+        <source>Foto löschen</source>
+        <translation>Eliminar foto</translation>
+    </message>
+    <message>
+        <source>Fotos löschen</source>
+        <translation>Eliminar fotos</translation>
+    </message>
+    <message>
+        <source>Sie haben 1 Foto zum Löschen ausgewählt.
+Soll dieses Foto tatsächlich gelöscht werden?</source>
+        <translation>Ha seleccionado 1 foto para eliminar.
+¿Desea eliminar realmente esta foto?</translation>
+    </message>
+    <message>
+        <source>Sie haben %1 Fotos zum Löschen ausgewählt.
+Sollen diese Foto tatsächlich gelöscht werden?</source>
+        <translation>Ha seleccionado %1 fotos para eliminar.
+¿Desea eliminar realmente estas fotos?</translation>
+    </message>
+    <message>
+        <source>Bitte nehmen Sie nur dann Fotos im Hochformat auf, wenn das Motiv es nicht anders zulässt. Die beste Platzausnutzung im Bericht erreichen Sie mit Fotos im Querformat. Hochformate mit Seitenverhältnissen größer 4:3 können aus Platzgründen zugeschnitten werden.</source>
+        <translation>Tome fotos en formato vertical solo cuando el motivo no permita otra cosa. Las fotos en formato horizontal aprovechan mejor el espacio del informe. Las fotos verticales con una relación de aspecto superior a 4:3 pueden recortarse por falta de espacio.</translation>
+    </message>
+    <message>
+        <source>Fotos auswählen</source>
+        <translation>Seleccionar fotos</translation>
+    </message>
+    <message>
+        <source>Fotos (*.png *.jpg  *.jpeg *.bmp *.gif *.tif *.tiff)</source>
+        <translation>Fotos (*.png *.jpg  *.jpeg *.bmp *.gif *.tif *.tiff)</translation>
+    </message>
+    <message>
+        <source>Fotoimport</source>
+        <translation>Importación de fotos</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Error de base de datos</translation>
+    </message>
+</context>
+<context>
+    <name>KalPhotos</name>
+    <message>
+        <source>Das Foto %1 existiert nicht.</source>
+        <translation>La foto %1 no existe.</translation>
+    </message>
+    <message>
+        <source>Die Fotos werden importiert.</source>
+        <translation>Se están importando las fotos.</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Error de base de datos</translation>
+    </message>
+    <message>
+        <source>Fehler Fotoimport</source>
+        <translation>Error en la importación de fotos</translation>
+    </message>
+    <message>
+        <source>Das Foto %1 konnte nicht importiert werden.</source>
+        <translation>No se pudo importar la foto %1.</translation>
+    </message>
+    <message>
+        <source>Der Mangel %1 existiert nicht.</source>
+        <translation>El defecto %1 no existe.</translation>
+    </message>
+    <message>
+        <source>Fotos lassen sich nur um 90°, 180° oder 270° drehen.</source>
+        <translation>Las fotos solo se pueden girar 90°, 180° o 270°.</translation>
+    </message>
+    <message>
+        <source>Das Bild ist leer.</source>
+        <translation>La imagen está vacía.</translation>
+    </message>
+</context>
+<context>
+    <name>KalPictureStore</name>
+    <message>
+        <source>Das Bild ist leer.</source>
+        <translation>La imagen está vacía.</translation>
+    </message>
+    <message>
+        <source>Das Bild konnte nicht als JPEG gespeichert werden.</source>
+        <translation>No se pudo guardar la imagen como JPEG.</translation>
+    </message>
+    <message>
+        <source>Unbekanntes Bildformat oder unbekannte Bildgröße.</source>
+        <translation>Formato o tamaño de imagen desconocido.</translation>
+    </message>
+    <message>
+        <source>Das Bild ist mit %1 × %2 Pixeln zu groß.</source>
+        <translation>Con %1 × %2 píxeles la imagen es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>Die JPEG-Datei ist unvollständig.</source>
+        <translation>El archivo JPEG está incompleto.</translation>
+    </message>
+    <message>
+        <source>Die neue Bildnummer ist unbekannt.</source>
+        <translation>Se desconoce el número de la nueva imagen.</translation>
+    </message>
+    <message>
+        <source>Das Bild %1 existiert nicht.</source>
+        <translation>La imagen %1 no existe.</translation>
+    </message>
+    <message>
+        <source>Das Bild %1 ist leer.</source>
+        <translation>La imagen %1 está vacía.</translation>
+    </message>
+    <message>
+        <source>Die Änderung zum Bild %1 konnte nicht übernommen werden.</source>
+        <translation>No se pudo aplicar el cambio en la imagen %1.</translation>
+    </message>
+    <message>
+        <source>Die Fotos werden bearbeitet.</source>
+        <translation>Se están procesando las fotos.</translation>
+    </message>
+    <message>
+        <source>Die Pläne werden bearbeitet.</source>
+        <translation>Se están procesando los planos.</translation>
+    </message>
+    <message>
+        <source>%1 ist keine Datei.</source>
+        <translation>%1 no es un archivo.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 existiert nicht.</source>
+        <translation>El archivo %1 no existe.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist zu groß.</source>
+        <translation>El archivo es demasiado grande.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist leer.</source>
+        <translation>El archivo está vacío.</translation>
+>>>>>>> wt-photodialogs
     </message>
 </context>
 <context>
@@ -2002,6 +2337,10 @@ Doble clic: asignar un plano o ubicar el defecto en el plano.</translation>
         <source>Bitte warten...</source>
         <translation>Espere, por favor...</translation>
     </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancelar</translation>
+    </message>
 </context>
 <context>
     <name>KalProject</name>
@@ -2044,16 +2383,6 @@ desde el %3 a las %4.</translation>
         <translation>Base de datos en uso</translation>
     </message>
     <message>
-        <source>Datei öffnen</source>
-        <translation>Abrir archivo</translation>
-    </message>
-    <message>
-        <source>Die letzte Bearbeitung der Mängel-Datei wurde nicht ordnungsgemäß abgeschlossen.
-Der letzte Bearbeitungsstand wird geöffnet. Speichern Sie die Datei, wenn Sie diesen Stand behalten wollen.</source>
-        <translation>La última edición del archivo de defectos no se cerró correctamente.
-Se abre el último estado de edición. Guarde el archivo si desea conservar este estado.</translation>
-    </message>
-    <message>
         <source>Die Datei
 %1
 existiert nicht.</source>
@@ -2062,92 +2391,12 @@ existiert nicht.</source>
 no existe.</translation>
     </message>
     <message>
-        <source>Die Datei kann nicht geöffnet werden, da sie mit einer neueren Programmversion erstellt wurde.</source>
-        <translation>El archivo no se puede abrir porque se creó con una versión más reciente del programa.</translation>
-    </message>
-    <message>
         <source>Tabelle KAL fehlt</source>
         <translation>Falta la tabla KAL</translation>
     </message>
     <message>
-        <source>Die interne Struktur der Mängel-Datenbank ist beschädigt.
-Wenn Sie mit dieser Datenbank weiterarbeiten, drohen Datenverluste!
-</source>
-        <translation>La estructura interna de la base de datos de defectos está dañada.
-¡Si sigue trabajando con esta base de datos, puede perder datos!
-</translation>
-    </message>
-    <message>
-        <source>Beschädigte Datenbank-Datei</source>
-        <translation>Archivo de base de datos dañado</translation>
-    </message>
-    <message>
-        <source>Backup wiederherstellen</source>
-        <translation>Restaurar copia de seguridad</translation>
-    </message>
-    <message>
-        <source>Beschädigte Datei öffnen</source>
-        <translation>Abrir archivo dañado</translation>
-    </message>
-    <message>
-        <source>Das neueste unbeschädigte Backup stammt vom %1.
-Soll dieses Backup wiederhergestellt werden (empfohlen)?</source>
-        <translation>La copia de seguridad intacta más reciente es del %1.
-¿Desea restaurar esta copia de seguridad (recomendado)?</translation>
-    </message>
-    <message>
-        <source>Es existieren keine Backup-Dateien. Wenn sie über Sicherungskopien dieser Datei verfügen, stellen Sie diese wieder her.
-</source>
-        <translation>No existen archivos de copia de seguridad. Si dispone de copias de seguridad de este archivo, restáurelas.
-</translation>
-    </message>
-    <message>
-        <source>Die Backup-Dateien sind ebenfalls beschädigt. Wenn sie über Sicherungskopien dieser Datei verfügen, stellen Sie diese wieder her.
-</source>
-        <translation>Los archivos de copia de seguridad también están dañados. Si dispone de copias de seguridad de este archivo, restáurelas.
-</translation>
-    </message>
-    <message>
-        <source>Abbrechen</source>
-        <translation>Cancelar</translation>
-    </message>
-    <message>
-        <source>Die Datei konnte nicht wiederhegestellt werden.
-</source>
-        <translation>No se ha podido restaurar el archivo.
-</translation>
-    </message>
-    <message>
-        <source>Die Datei wurde erfolgreich wiederhergestellt und wird jetzt geöffnet.
-Die beschädigte Datei wurde umbenannt in %2.</source>
-        <translation>El archivo se ha restaurado correctamente y se abre ahora.
-El archivo dañado se ha renombrado a %2.</translation>
-    </message>
-    <message>
         <source>Speicherplatz nicht ausreichend</source>
         <translation>Espacio de almacenamiento insuficiente</translation>
-    </message>
-    <message>
-        <source>Auf dem Laufwerk %1 steht nicht genügend Speicherplatz zur Verfügung, um das Projekt zu öffnen.
-Geben Sie mindestens %2 MB Speicherplatz frei und versuchen Sie es erneut.</source>
-        <translation>No hay suficiente espacio en la unidad %1 para abrir el proyecto.
-Libere al menos %2 MB e inténtelo de nuevo.</translation>
-    </message>
-    <message>
-        <source>Speicherplatz</source>
-        <translation>Espacio de almacenamiento</translation>
-    </message>
-    <message>
-        <source>Sie sollten auf dem Laufwerk %1 Speicherplatz freigeben, da es sonst zu Problemen beim Speichern des Projekts kommen kann.</source>
-        <translation>Debería liberar espacio en la unidad %1; de lo contrario pueden surgir problemas al guardar el proyecto.</translation>
-    </message>
-    <message>
-        <source>Projekt wird geöffnet...</source>
-        <translation>Abriendo el proyecto...</translation>
-    </message>
-    <message>
-        <source>Die Working Copy Datei konnte nicht erstellt werden.</source>
-        <translation>No se ha podido crear el archivo de copia de trabajo.</translation>
     </message>
     <message>
         <source>Datei-Warnung</source>
@@ -2285,6 +2534,34 @@ Die Dateigröße wurde von %1 auf %2 reduziert.</source>
         <translation>La base de datos se ha depurado correctamente.
 El tamaño del archivo se ha reducido de %1 a %2.</translation>
     </message>
+    <message>
+        <source>keine gewöhnliche Datei</source>
+        <translation>no es un archivo normal</translation>
+    </message>
+    <message>
+        <source>leere Datei</source>
+        <translation>archivo vacío</translation>
+    </message>
+    <message>
+        <source>keine lesbare Datenbank: %1</source>
+        <translation>no es una base de datos legible: %1</translation>
+    </message>
+    <message>
+        <source>mit einer neueren Programmversion erstellt</source>
+        <translation>creado con una versión más reciente del programa</translation>
+    </message>
+    <message>
+        <source>beschädigt: %1</source>
+        <translation>dañado: %1</translation>
+    </message>
+    <message>
+        <source>Der Ordner
+%1
+existiert nicht.</source>
+        <translation>La carpeta
+%1
+no existe.</translation>
+    </message>
 </context>
 <context>
     <name>KalProjectFileCommands</name>
@@ -2379,10 +2656,6 @@ existiert nicht.</source>
 no existe.</translation>
     </message>
     <message>
-        <source>Beim Öffnen des gewählten Projekts ist ein Fehler aufgetreten!</source>
-        <translation>¡Se ha producido un error al abrir el proyecto elegido!</translation>
-    </message>
-    <message>
         <source>Projekt öffnen</source>
         <translation>Abrir proyecto</translation>
     </message>
@@ -2457,6 +2730,159 @@ Los cambios se guardarán antes de depurar la base de datos.
     </message>
 </context>
 <context>
+    <name>KalSettingsImageSizeDialog</name>
+    <message>
+        <source>Bildgröße Fotos</source>
+        <translation>Tamaño de imagen de fotos</translation>
+    </message>
+    <message>
+        <source>Fotos komprimieren auf:</source>
+        <translation>Comprimir fotos a:</translation>
+    </message>
+    <message>
+        <source>Pixel</source>
+        <translation>píxeles</translation>
+    </message>
+    <message>
+        <source>Standardeinstellung</source>
+        <translation>Valor predeterminado</translation>
+    </message>
+    <message>
+        <source>Fotos</source>
+        <translation>fotos</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;br&gt;Sie haben die Größe für den Import von Fotos reduziert.&lt;/p&gt;%1 bestehende Fotos sind größer als die aktuelle Einstellung. Sollen diese Fotos verkleinert werden?&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Achtung: &lt;br&gt;Dieser Vorgang kann nicht rückgängig gemacht werden. &lt;/span&gt;Es wird daher empfohlen, ein Backup der Datei mit der bisherigen Auflösung zu erstellen.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;br&gt;Ha reducido el tamaño para la importación de fotos.&lt;/p&gt;%1 fotos existentes son más grandes que el ajuste actual. ¿Desea reducir estas fotos?&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Atención: &lt;br&gt;Esta operación no se puede deshacer. &lt;/span&gt;Por ello se recomienda crear una copia de seguridad del archivo con la resolución anterior.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Fotogröße</source>
+        <translation>Tamaño de foto</translation>
+    </message>
+    <message>
+        <source>Bestehende Fotos verkleinern</source>
+        <translation>Reducir las fotos existentes</translation>
+    </message>
+    <message>
+        <source>Die Fotos werden bearbeitet.</source>
+        <translation>Se están procesando las fotos.</translation>
+    </message>
+    <message>
+        <source>Bildgröße Pläne</source>
+        <translation>Tamaño de imagen de planos</translation>
+    </message>
+    <message>
+        <source>Pläne komprimieren auf:</source>
+        <translation>Comprimir planos a:</translation>
+    </message>
+    <message>
+        <source>Pläne</source>
+        <translation>planos</translation>
+    </message>
+    <message>
+        <source>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;br&gt;Sie haben die Größe für den Import von Plänen reduziert.&lt;/p&gt;%1 bestehende Pläne sind größer als die aktuelle Einstellung. Sollen diese Pläne verkleinert werden?&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Achtung: &lt;br&gt;Dieser Vorgang kann nicht rückgängig gemacht werden. &lt;/span&gt;Es wird daher empfohlen, ein Backup der Datei mit der bisherigen Auflösung zu erstellen.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</source>
+        <translation>&lt;html&gt;&lt;head/&gt;&lt;body&gt;&lt;p&gt;&lt;br&gt;Ha reducido el tamaño para la importación de planos.&lt;/p&gt;%1 planos existentes son más grandes que el ajuste actual. ¿Desea reducir estos planos?&lt;p&gt;&lt;span style=&quot; font-weight:600;&quot;&gt;Atención: &lt;br&gt;Esta operación no se puede deshacer. &lt;/span&gt;Por ello se recomienda crear una copia de seguridad del archivo con la resolución anterior.&lt;/p&gt;&lt;/body&gt;&lt;/html&gt;</translation>
+    </message>
+    <message>
+        <source>Plangröße</source>
+        <translation>Tamaño de plano</translation>
+    </message>
+    <message>
+        <source>Bestehende Pläne verkleinern</source>
+        <translation>Reducir los planos existentes</translation>
+    </message>
+    <message>
+        <source>Die Pläne werden bearbeitet.</source>
+        <translation>Se están procesando los planos.</translation>
+    </message>
+    <message>
+        <source>Es ist ein Fehler aufgetreten.
+Die Größe der bestehenden Fotos konnte nicht geändert werden.</source>
+        <translation>Se ha producido un error.
+No se pudo cambiar el tamaño de las fotos existentes.</translation>
+    </message>
+    <message>
+        <source>Es ist sind Fehler aufgetreten.
+Die Größe von %1 bestehenden Fotos konnte nicht geändert werden.</source>
+        <translation>Se han producido errores.
+No se pudo cambiar el tamaño de %1 fotos existentes.</translation>
+    </message>
+    <message>
+        <source>Die Größe der bestehenden Fotos wurde erfolgreich geändert.
+Die Backup-Datei %1 wurde erstellt.</source>
+        <translation>El tamaño de las fotos existentes se ha cambiado correctamente.
+Se ha creado la copia de seguridad %1.</translation>
+    </message>
+    <message>
+        <source>Die Größe der bestehenden Fotos wurde erfolgreich geändert.</source>
+        <translation>El tamaño de las fotos existentes se ha cambiado correctamente.</translation>
+    </message>
+    <message>
+        <source>Es ist ein Fehler aufgetreten.
+Die Größe der bestehenden Pläne konnte nicht geändert werden.</source>
+        <translation>Se ha producido un error.
+No se pudo cambiar el tamaño de los planos existentes.</translation>
+    </message>
+    <message>
+        <source>Es ist sind Fehler aufgetreten.
+Die Größe von %1 bestehenden Plänen konnte nicht geändert werden.</source>
+        <translation>Se han producido errores.
+No se pudo cambiar el tamaño de %1 planos existentes.</translation>
+    </message>
+    <message>
+        <source>Die Größe der bestehenden Pläne wurde erfolgreich geändert.
+Die Backup-Datei %1 wurde erstellt.</source>
+        <translation>El tamaño de los planos existentes se ha cambiado correctamente.
+Se ha creado la copia de seguridad %1.</translation>
+    </message>
+    <message>
+        <source>Die Größe der bestehenden Pläne wurde erfolgreich geändert.</source>
+        <translation>El tamaño de los planos existentes se ha cambiado correctamente.</translation>
+    </message>
+    <message>
+        <source>Hier können Sie festlegen auf welche Pixelanzahl große %1 komprimiert werden sollen.
+Mit höheren Werten steigt sowohl die Bildqualität als auch die Dateigröße.
+Die Komprimierung erfolgt nur für neu hinzugefügte %2.</source>
+        <translation>Aquí puede establecer a qué número de píxeles se comprimen los %1 grandes.
+Con valores más altos aumentan tanto la calidad de imagen como el tamaño del archivo.
+La compresión solo se aplica a los %2 añadidos a partir de ahora.</translation>
+    </message>
+    <message>
+        <source>Backup der Datei mit bisheriger Auflösung erstellen</source>
+        <translation>Crear una copia de seguridad del archivo con la resolución anterior</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Error de base de datos</translation>
+    </message>
+    <message>
+        <source>Das Verkleinern wurde abgebrochen.
+%1 von %2 Bildern wurden verkleinert und bleiben es; die übrigen sind unverändert.</source>
+        <translation>Se ha cancelado la reducción.
+%1 de %2 imágenes se han reducido y se quedan así; las demás no se han modificado.</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>
+
+Klicken Sie im Hauptfenster auf &apos;Datei-&gt;Datenbank bereinigen&apos;, um die Dateigröße zu reduzieren.</source>
+        <translation>
+
+Haga clic en &apos;Archivo-&gt;Limpiar base de datos&apos; en la ventana principal para reducir el tamaño del archivo.</translation>
+    </message>
+    <message>
+        <source>Dateifehler</source>
+        <translation>Error de archivo</translation>
+    </message>
+    <message>
+        <source>Die Backup-Datei %1 konnte nicht erstellt werden.</source>
+        <translation>No se pudo crear la copia de seguridad %1.</translation>
+    </message>
+</context>
+<context>
     <name>KalShortHelpDialog</name>
     <message>
         <source>Schließen</source>
@@ -2477,6 +2903,33 @@ Los cambios se guardarán antes de depurar la base de datos.
     <message>
         <source>&lt;h3&gt;Datenimport von einem Mobilgerät&lt;/h3&gt;&lt;p&gt;Mängel, Mängelfotos und Firmen können Sie auf der Baustelle mit der Quellor App auf einem Smartphone oder Tablet erfassen und anschließend in das Pellwick-Projekt importieren.&lt;/p&gt;&lt;ol&gt;&lt;li&gt;Übertragen Sie die Datenbank der App auf Ihren Computer.&lt;/li&gt;&lt;li&gt;Wählen Sie im Menü &quot;Datenimport&quot; den Eintrag &quot;Mängel und Firmen aus der Quellor App importieren&quot; und wählen Sie die übertragene Datei aus.&lt;/li&gt;&lt;li&gt;Die Mängel werden mit ihren Fotos und Firmen in das geöffnete Projekt übernommen.&lt;/li&gt;&lt;/ol&gt;</source>
         <translation>&lt;h3&gt;Importación de datos desde un dispositivo móvil&lt;/h3&gt;&lt;p&gt;Puede registrar defectos, fotos de defectos y empresas en la obra con la app de Quellor en un smartphone o una tableta e importarlos después al proyecto de Pellwick.&lt;/p&gt;&lt;ol&gt;&lt;li&gt;Transfiera la base de datos de la app a su ordenador.&lt;/li&gt;&lt;li&gt;En el menú «Importación de datos» elija «Importar defectos y empresas de la app de Quellor» y seleccione el archivo transferido.&lt;/li&gt;&lt;li&gt;Los defectos se transfieren al proyecto abierto junto con sus fotos y empresas.&lt;/li&gt;&lt;/ol&gt;</translation>
+    </message>
+</context>
+<context>
+    <name>KalShrinkBackup</name>
+    <message>
+        <source>Das Projekt wurde noch nicht gespeichert: Es gibt keine Projektdatei, die gesichert werden kann.</source>
+        <translation>El proyecto aún no se ha guardado: no hay ningún archivo de proyecto del que hacer una copia de seguridad.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 existiert bereits und wird nicht überschrieben.</source>
+        <translation>El archivo %1 ya existe y no se sobrescribe.</translation>
+    </message>
+    <message>
+        <source>Die Projektdatei %1 existiert nicht.</source>
+        <translation>El archivo de proyecto %1 no existe.</translation>
+    </message>
+    <message>
+        <source>Auf dem Laufwerk %1 ist nicht genug Platz frei.</source>
+        <translation>No hay suficiente espacio libre en la unidad %1.</translation>
+    </message>
+    <message>
+        <source>Die Projektdatei konnte nicht kopiert werden.</source>
+        <translation>No se pudo copiar el archivo de proyecto.</translation>
+    </message>
+    <message>
+        <source>Die Datei %1 konnte nicht angelegt werden.</source>
+        <translation>No se pudo crear el archivo %1.</translation>
     </message>
 </context>
 <context>
@@ -2779,6 +3232,25 @@ para guardar los diccionarios!</translation>
     <message>
         <source>Mail-Addressen</source>
         <translation>Direcciones de correo</translation>
+    </message>
+</context>
+<context>
+    <name>KalSqliteCheck</name>
+    <message>
+        <source>unbekannt</source>
+        <translation>desconocido</translation>
+    </message>
+    <message>
+        <source>Der SQLite-Treiber von Qt (QSQLITE) verwendet SQLite %1, das Programm aber SQLite %2.
+Projektdateien werden deshalb nicht geöffnet, damit sie nicht beschädigt werden.
+Bitte installieren Sie einen SQLite-Treiber für Qt, der die SQLite-Bibliothek des Systems verwendet, oder wenden Sie sich an den Softwarehersteller.</source>
+        <translation>El controlador SQLite de Qt (QSQLITE) usa SQLite %1, pero el programa usa SQLite %2.
+Por eso no se abren archivos de proyecto, para que no se dañen.
+Instale un controlador SQLite para Qt que use la biblioteca SQLite del sistema o póngase en contacto con el fabricante del software.</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Error</translation>
     </message>
 </context>
 <context>

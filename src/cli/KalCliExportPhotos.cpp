@@ -13,6 +13,7 @@
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
+#include <QVariant>
 
 using namespace KalCli;
 
@@ -21,13 +22,6 @@ namespace {
 // Longest caption part of a name in UTF-8 bytes: far below the 255 bytes
 // file systems allow, with room for the number and the extension.
 constexpr int kCaptionBytes = 120;
-
-struct Photo
-{
-    QString caption;
-    QByteArray data;
-    bool hasPicture = false;
-};
 
 QString cleanCaption(const QString &caption)
 {
@@ -59,32 +53,42 @@ QString cleanCaption(const QString &caption)
     return capped.trimmed();
 }
 
-bool readPhotos(const QString &file, const QString &number, QList<Photo> *photos)
+struct Photo
 {
-    bool ok = false;
-    kalCliReadOnly(file, [&](QSqlDatabase &db) {
-        if (!db.isOpen()) {
-            KalPrompt::critical(tr("Dateifehler"), tr("Die Datei\n%1\nkonnte nicht geöffnet werden:\n%2")
-                                                       .arg(QDir::toNativeSeparators(file), db.lastError().text()));
-            return;
-        }
-        const qint64 defectId = kalCliFindDefect(db, number);
-        if (defectId < 0)
-            return;
-        QSqlQuery query(db);
-        query.setForwardOnly(true);
-        query.prepare(QStringLiteral("SELECT p.caption, i.image, i.id FROM photo_info p LEFT JOIN image i ON i.id = "
-                                     "p.image_id WHERE p.defect_id = :defect_id ORDER BY p.pos, p.id"));
-        query.bindValue(QStringLiteral(":defect_id"), defectId);
-        if (!query.exec()) {
-            KalPrompt::critical(tr("Datenbankfehler"), query.lastError().text());
-            return;
-        }
-        while (query.next())
-            photos->append({query.value(0).toString(), query.value(1).toByteArray(), !query.value(2).isNull()});
-        ok = true;
-    });
-    return ok;
+    QString caption;
+    QVariant imageId; // null: the photo's picture is missing
+};
+
+// The defect's photos in list order; false (reason shown) when they cannot be read.
+bool listPhotos(QSqlDatabase &db, const QString &file, const QString &number, QList<Photo> *photos)
+{
+    if (!db.isOpen()) {
+        KalPrompt::critical(tr("Dateifehler"), tr("Die Datei\n%1\nkonnte nicht geöffnet werden:\n%2")
+                                                   .arg(QDir::toNativeSeparators(file), db.lastError().text()));
+        return false;
+    }
+    const qint64 defectId = kalCliFindDefect(db, number);
+    if (defectId < 0)
+        return false;
+    QSqlQuery query(db);
+    query.prepare(QStringLiteral("SELECT p.caption, i.id FROM photo_info p LEFT JOIN image i ON i.id = p.image_id "
+                                 "WHERE p.defect_id = :defect_id ORDER BY p.pos, p.id"));
+    query.bindValue(QStringLiteral(":defect_id"), defectId);
+    if (!query.exec()) {
+        KalPrompt::critical(tr("Datenbankfehler"), query.lastError().text());
+        return false;
+    }
+    while (query.next())
+        photos->append({query.value(0).toString(), query.value(1)});
+    return true;
+}
+
+QByteArray pictureBytes(QSqlDatabase &db, const QVariant &imageId)
+{
+    QSqlQuery query(db);
+    query.prepare(QStringLiteral("SELECT image FROM image WHERE id = :id"));
+    query.bindValue(QStringLiteral(":id"), imageId);
+    return query.exec() && query.next() ? query.value(0).toByteArray() : QByteArray();
 }
 
 // Writes through a temporary file that only takes the name when no file has
@@ -134,30 +138,37 @@ int kalCliExportPhotos(const QString &file, const QStringList &options)
         return usageError(QStringLiteral("export-photos needs --output DIR"));
     if (fileMissing(file))
         return Failed;
-    QList<Photo> photos;
-    if (!readPhotos(file, parsed.values.value(QStringLiteral("--defect")), &photos))
-        return Failed;
     const QString dir = QFileInfo(output).absoluteFilePath();
-    if (!QDir().mkpath(dir) || !QFileInfo(dir).isDir()) {
-        KalPrompt::critical(tr("Dateifehler"),
-                            tr("Der Ordner %1 konnte nicht angelegt werden.").arg(QDir::toNativeSeparators(dir)));
-        return Failed;
-    }
+    bool listed = false;
     int failed = 0;
-    for (int i = 0; i < photos.size(); ++i) {
-        const Photo &photo = photos.at(i);
-        const bool png = photo.data.startsWith("\x89PNG");
-        const QString name =
-            kalCliPhotoFileName(i + 1, photo.caption, png ? QStringLiteral(".png") : QStringLiteral(".jpg"));
-        if (!photo.hasPicture || photo.data.isEmpty()) {
-            KalPrompt::critical(tr("Fehler"), tr("Zum Foto %1 ist kein Bild gespeichert.").arg(name));
-            ++failed;
-        } else if (writeNew(dir, name, photo.data)) {
-            out(QDir::toNativeSeparators(dir + QLatin1Char('/') + name));
-        } else {
-            ++failed;
+    // One picture in memory at a time, however many the defect has.
+    kalCliReadOnly(file, [&](QSqlDatabase &db) {
+        QList<Photo> photos;
+        if (!(listed = listPhotos(db, file, parsed.values.value(QStringLiteral("--defect")), &photos)))
+            return;
+        if (!QDir().mkpath(dir) || !QFileInfo(dir).isDir()) {
+            KalPrompt::critical(tr("Dateifehler"),
+                                tr("Der Ordner %1 konnte nicht angelegt werden.").arg(QDir::toNativeSeparators(dir)));
+            listed = false;
+            return;
         }
-    }
-    KalFileOps::syncDirectory(dir);
+        for (int i = 0; i < photos.size(); ++i) {
+            const QByteArray data =
+                photos.at(i).imageId.isNull() ? QByteArray() : pictureBytes(db, photos.at(i).imageId);
+            const QString extension = data.startsWith("\x89PNG") ? QStringLiteral(".png") : QStringLiteral(".jpg");
+            const QString name = kalCliPhotoFileName(i + 1, photos.at(i).caption, extension);
+            if (data.isEmpty()) {
+                KalPrompt::critical(tr("Fehler"), tr("Zum Foto %1 ist kein Bild gespeichert.").arg(name));
+                ++failed;
+            } else if (writeNew(dir, name, data)) {
+                out(QDir::toNativeSeparators(dir + QLatin1Char('/') + name));
+            } else {
+                ++failed;
+            }
+        }
+        KalFileOps::syncDirectory(dir);
+    });
+    if (!listed)
+        return Failed;
     return failed == 0 ? Success : Failed;
 }

@@ -6,6 +6,7 @@
 #include "core/textaids/KalSpellChecker.h"
 #include "gui/mainwindow/KalLanguageDialog.h"
 #include "gui/mainwindow/KalMainWindow.h"
+#include "gui/photos/KalSettingsImageSizeDialog.h"
 #include "gui/widgets/KalFileDialog.h"
 #include "gui/widgets/KalResources.h"
 #include "gui/widgets/KalTableView.h"
@@ -23,6 +24,11 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
+<<<<<<< HEAD
+=======
+#include <QMimeData>
+#include <QProcess>
+>>>>>>> wt-photodialogs
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
@@ -565,13 +571,19 @@ private slots:
     // has an icon.
     void actionsWithoutFeatureAreDisabled()
     {
-        const QStringList unbuilt{"actionEditPlanTable",        "actionEditLogos",
-                                  "actionPrintDefectListShort", "actionPrintDefectListLong",
-                                  "actionPrintPreview",         "actionInitialDataImport",
-                                  "actionImportFromApp",        "actionSettingsPlanSize",
-                                  "actionSettingsImageSize",    "actionStandardMarker",
-                                  "actionStandardMarkerText",   "actionUpdateTest",
-                                  "actionUpdateDataImport",     "actionAutomaticNewRecordsImport",
+        const QStringList unbuilt{"actionEditPlanTable",
+                                  "actionEditLogos",
+                                  "actionPrintDefectListShort",
+                                  "actionPrintDefectListLong",
+                                  "actionPrintPreview",
+                                  "actionInitialDataImport",
+                                  "actionImportFromApp",
+                                  "actionSettingsPlanSize",
+                                  "actionStandardMarker",
+                                  "actionStandardMarkerText",
+                                  "actionUpdateTest",
+                                  "actionUpdateDataImport",
+                                  "actionAutomaticNewRecordsImport",
                                   "actionAutomaticUpdateImport"};
         QStringList wrong;
         for (QAction *action : m_window->findChildren<QAction *>()) {
@@ -586,6 +598,47 @@ private slots:
                 wrong << action->objectName();
         }
         QVERIFY2(wrong.isEmpty(), qPrintable(wrong.join(' ')));
+    }
+
+    // Image files dropped on a defect row become that defect's photos; the
+    // camera column shows the count. A drop below the rows adds nothing.
+    void filesDroppedOnDefectRow()
+    {
+        addDefect();
+        addDefect();
+        const QString file = path("Decke Flur.jpg");
+        QVERIFY(QImage(QSize(640, 480), QImage::Format_RGB32).save(file, "JPG"));
+        KalTableView *grid = m_window->defectTable();
+        KalSqlTableModel *defects = m_window->defectModel();
+        const int countColumn = defects->fieldIndex("image_cnt");
+        auto countOfRow = [&](int viewRow) {
+            return grid->model()->index(viewRow, countColumn).data(Qt::EditRole).toInt();
+        };
+        auto drop = [&](const QPoint &at) {
+            QMimeData data;
+            data.setUrls({QUrl::fromLocalFile(file)});
+            QDragEnterEvent enter(at, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(grid->viewport(), &enter);
+            QDragMoveEvent move(at, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(grid->viewport(), &move);
+            QDropEvent dropped(at, Qt::CopyAction | Qt::MoveAction, &data, Qt::LeftButton, Qt::NoModifier);
+            QApplication::sendEvent(grid->viewport(), &dropped);
+            return move.isAccepted() && dropped.isAccepted();
+        };
+
+        QVERIFY(!drop(QPoint(20, grid->viewport()->height() - 5)));
+        QVERIFY(drop(grid->visualRect(grid->model()->index(1, 1)).center()));
+        QTRY_COMPARE(countOfRow(1), 1);
+        QCOMPARE(countOfRow(0), 0);
+        QCOMPARE(m_window->project()->model("photo_info")->rowCount(), 1);
+        QVERIFY(m_prompt->titles().isEmpty());
+
+        KalDialogAnswer<KalSettingsImageSizeDialog> size([](KalSettingsImageSizeDialog *dialog) {
+            QCOMPARE(dialog->windowTitle(), QStringLiteral("Bildgröße Fotos"));
+            kalPress(dialog, QDialogButtonBox::Cancel);
+        });
+        m_window->findChild<QAction *>("actionSettingsImageSize")->trigger();
+        QVERIFY(size.seen());
     }
 
     // Commands that work on the open project cannot be started while none is

@@ -6,7 +6,6 @@
 #include "core/project/KalPrompt.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -88,19 +87,16 @@ KalPhotoImport KalPhotos::addFiles(qint64 defectId, const QStringList &files)
 
 qint64 KalPhotos::addFile(qint64 defectId, const QString &file, bool *portrait)
 {
-    QFile in(file);
-    QByteArray data;
-    if (in.open(QIODevice::ReadOnly))
-        data = in.readAll();
     QString error;
     qint64 id = -1;
-    if (in.error() == QFileDevice::NoError && storePhoto(defectId, data, file, portrait, &id, &error))
+    const QByteArray data = KalPictureStore::readFile(file, &error);
+    if (!data.isEmpty() && storePhoto(defectId, data, file, portrait, &id, &error))
         return id;
     KalProgress::instance()->yieldToMessage();
     if (id == -2) {
         KalPrompt::critical(tr("Datenbankfehler"), error);
     } else {
-        qWarning("photo import %s: %s", qPrintable(file), qPrintable(error.isEmpty() ? in.errorString() : error));
+        qWarning("photo import %s: %s", qPrintable(file), qPrintable(error));
         KalPrompt::critical(tr("Fehler Fotoimport"),
                             tr("Das Foto %1 konnte nicht importiert werden.").arg(QDir::toNativeSeparators(file)));
     }
@@ -126,26 +122,12 @@ bool KalPhotos::storePhoto(qint64 defectId, const QByteArray &data, const QStrin
         return false;
     }
     KalPictureStore store(m_project->database(), KalPictureStore::Kind::Photo);
-    const qint64 imageId = store.insertPrepared(stored, error);
-    const qint64 id = imageId > 0 ? m_project->nextId(QStringLiteral("photo_info")) : -1;
-    bool ok = id > 0;
-    if (ok) {
-        // New rows go after the defect's last photo; `pos` has no default.
-        QSqlQuery query(m_project->database());
-        query.prepare(QStringLiteral(
-            "INSERT INTO photo_info (id, caption, comment, date, defect_id, image_id, pos, "
-            "site_journal_data_modified, site_journal_id, delete_on_import) VALUES (:id, '', '', :date, "
-            ":defect_id, :image_id, (SELECT COALESCE(MAX(pos), 0) + 1 FROM photo_info WHERE defect_id = :defect_id2), "
-            "0, -1, 1)"));
-        query.bindValue(QStringLiteral(":id"), id);
-        query.bindValue(QStringLiteral(":date"), taken.date());
-        query.bindValue(QStringLiteral(":defect_id"), defectId);
-        query.bindValue(QStringLiteral(":image_id"), imageId);
-        query.bindValue(QStringLiteral(":defect_id2"), defectId);
-        ok = run(query, error) && updateCount(defectId, error);
-    } else if (error->isEmpty()) {
-        *error = m_project->database().lastError().text();
-    }
+    KalPhotoInfo info;
+    info.imageId = store.insertPrepared(stored, error);
+    info.date = taken.date();
+    info.defectId = defectId;
+    const qint64 id = info.imageId > 0 ? insertInfo(info, error) : -1;
+    const bool ok = id > 0;
     if (!finish(ok)) {
         if (error->isEmpty())
             *error = m_project->database().lastError().text();
@@ -154,6 +136,45 @@ bool KalPhotos::storePhoto(qint64 defectId, const QByteArray &data, const QStrin
     *newId = id;
     *portrait = stored.size.height() > stored.size.width();
     return true;
+}
+
+qint64 KalPhotos::insertPhotoInfo(const KalPhotoInfo &info, QString *error)
+{
+    if (!m_project->beginTransaction()) {
+        *error = m_project->database().lastError().text();
+        return -1;
+    }
+    const qint64 id = insertInfo(info, error);
+    return finish(id > 0) ? id : -1;
+}
+
+// Inside the caller's transaction: the row after the defect's last, and the count.
+qint64 KalPhotos::insertInfo(const KalPhotoInfo &info, QString *error)
+{
+    const qint64 id = m_project->nextId(QStringLiteral("photo_info"));
+    if (id <= 0) {
+        *error = m_project->database().lastError().text();
+        return -1;
+    }
+    QSqlQuery query(m_project->database());
+    query.prepare(QStringLiteral(
+        "INSERT INTO photo_info (id, caption, comment, date, defect_id, image_id, pos, site_journal_data_modified, "
+        "site_journal_id, delete_on_import) VALUES (:id, :caption, :comment, :date, :defect_id, :image_id, (SELECT "
+        "COALESCE(MAX(pos), 0) + 1 FROM photo_info WHERE defect_id = :defect_id2), :modified, :site_journal_id, "
+        ":delete_on_import)"));
+    query.bindValue(QStringLiteral(":id"), id);
+    query.bindValue(QStringLiteral(":caption"), info.caption.isNull() ? QStringLiteral("") : info.caption);
+    query.bindValue(QStringLiteral(":comment"), info.comment.isNull() ? QStringLiteral("") : info.comment);
+    query.bindValue(QStringLiteral(":date"), info.date);
+    query.bindValue(QStringLiteral(":defect_id"), info.defectId);
+    query.bindValue(QStringLiteral(":image_id"), info.imageId);
+    query.bindValue(QStringLiteral(":defect_id2"), info.defectId);
+    query.bindValue(QStringLiteral(":modified"), info.siteJournalDataModified);
+    query.bindValue(QStringLiteral(":site_journal_id"), info.siteJournalId);
+    query.bindValue(QStringLiteral(":delete_on_import"), info.deleteOnImport);
+    if (!run(query, error) || !updateCount(info.defectId, error))
+        return -1;
+    return id;
 }
 
 bool KalPhotos::updateCount(qint64 defectId, QString *error)
@@ -231,6 +252,8 @@ bool KalPhotos::removeOne(qint64 photoInfoId, QList<qint64> *defects, QString *e
 
 bool KalPhotos::remove(const QList<qint64> &photoInfoIds, QString *error)
 {
+    if (photoInfoIds.isEmpty())
+        return true;
     if (!m_project->beginTransaction()) {
         *error = m_project->database().lastError().text();
         return false;
@@ -305,8 +328,11 @@ bool KalPhotos::move(qint64 photoInfoId, int newIndex, QString *error)
     QList<qint64> ids = photoIds(row.defectId, error);
     if (!error->isEmpty())
         return false;
+    const QList<qint64> before = ids;
     ids.removeOne(photoInfoId);
     ids.insert(qBound(0, newIndex, ids.size()), photoInfoId);
+    if (ids == before)
+        return true;
     if (!m_project->beginTransaction()) {
         *error = m_project->database().lastError().text();
         return false;

@@ -1,10 +1,13 @@
 #include "KalPictureStore.h"
 
+#include "core/project/KalFileOps.h"
 #include "core/project/KalProgress.h"
 #include "core/project/KalTransactions.h"
 
 #include <QBuffer>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QImageReader>
 #include <QSettings>
 #include <QSqlError>
@@ -59,17 +62,36 @@ QString KalPictureStore::table() const
 
 qint64 KalPictureStore::insertFromFile(const QString &path, QString *error)
 {
+    const QByteArray data = readFile(path, error);
+    if (data.isEmpty())
+        return -1;
+    return insertFromData(data, error);
+}
+
+QByteArray KalPictureStore::readFile(const QString &path, QString *error)
+{
+    if (!KalFileOps::isRegularFile(path)) {
+        *error = QFileInfo::exists(path) ? tr("%1 ist keine Datei.").arg(QDir::toNativeSeparators(path))
+                                         : tr("Die Datei %1 existiert nicht.").arg(QDir::toNativeSeparators(path));
+        return QByteArray();
+    }
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         *error = file.errorString();
-        return -1;
+        return QByteArray();
+    }
+    if (file.size() > maximumFileBytes) {
+        *error = tr("Die Datei ist zu groß.");
+        return QByteArray();
     }
     const QByteArray data = file.readAll();
     if (file.error() != QFileDevice::NoError) {
         *error = file.errorString();
-        return -1;
+        return QByteArray();
     }
-    return insertFromData(data, error);
+    if (data.isEmpty())
+        *error = tr("Die Datei ist leer.");
+    return data;
 }
 
 qint64 KalPictureStore::insertFromData(const QByteArray &data, QString *error)

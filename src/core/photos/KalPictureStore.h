@@ -109,6 +109,11 @@ public:
     // Picture and thumbnail encoded; false with `error` set when either is null.
     static bool prepare(const QImage &fittedPicture, KalStoredPicture *out, QString *error);
     static QByteArray encodeJpeg(const QImage &picture);
+    // The bytes of a picture file; empty with `error` set for what is no
+    // regular file (a folder, a pipe that would never end) or is larger
+    // than any picture this program takes.
+    static QByteArray readFile(const QString &path, QString *error);
+    static constexpr qint64 maximumFileBytes = 512LL * 1024 * 1024;
     // A JPEG whose last scan has no end marker after it.
     static bool isTruncatedJpeg(const QByteArray &data);
 

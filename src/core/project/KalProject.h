@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/photos/KalPhotos.h"
 #include "core/photos/KalPictureStore.h"
 #include "core/project/KalModelHost.h"
 #include "core/project/KalTransactions.h"
@@ -87,6 +88,8 @@ public:
     bool deleteImage(qint64 id, QString *error);
     // Stored photos wider or higher than `size`; -1 with `error` set.
     int countImagesLargerThan(int size, QString *error) const;
+    // A photo row for an image already stored (see KalPhotos).
+    qint64 insertPhotoInfo(const KalPhotoInfo &info, QString *error);
     // Fits the stored photos into `size` in the project's transactions;
     // marks the project modified when any changed.
     KalShrinkResult shrinkImages(int size);

@@ -50,3 +50,8 @@ KalShrinkResult KalProject::shrinkImages(int size)
         markModified();
     return result;
 }
+
+qint64 KalProject::insertPhotoInfo(const KalPhotoInfo &info, QString *error)
+{
+    return KalPhotos(this).insertPhotoInfo(info, error);
+}

@@ -6,6 +6,7 @@
 #include "core/project/KalPrompt.h"
 #include "core/project/KalSqlTableModel.h"
 #include "gui/editors/KalCompanyDialog.h"
+#include "gui/photos/KalPhotoInfoDialog.h"
 #include "gui/textaids/KalCompleter.h"
 #include "gui/textaids/KalCompleterLineEdit.h"
 #include "gui/textaids/KalCompleterTextEdit.h"
@@ -491,7 +492,19 @@ void KalDefectEditor::slotSelectedPlanChanged(int index)
 
 void KalDefectEditor::slotImageEditorButtonClicked()
 {
-    // The photo list is not part of the program yet (the button is disabled).
+    if (!m_defects || m_defectId < 0)
+        return;
+    int count;
+    {
+        KalPhotoInfoDialog dialog(m_project, m_defectId, this);
+        dialog.exec();
+        count = dialog.photoCount();
+    }
+    // The photos are stored already and image_cnt with them. The row keeps
+    // the new count too: OK compares and writes it (equal to the file), and
+    // Cancel's revert re-reads the file after submitting.
+    writeValue(QStringLiteral("image_cnt"), count);
+    m_ui->lePhotos->setText(QString::number(count));
     updatePhotoButton();
 }
 

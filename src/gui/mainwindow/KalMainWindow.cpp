@@ -127,7 +127,7 @@ const QVector<KalMainWindow::ActionSpec> &KalMainWindow::actionTable()
          "", nullptr},
         {"actionSettingsPlanSize", "icon-plangroesse.ico", {}, nullptr, A::NotBuilt,
          QT_TR_NOOP("Plangröße"), nullptr},
-        {"actionSettingsImageSize", "icon-fotogroesse.ico", {}, nullptr, A::NotBuilt,
+        {"actionSettingsImageSize", "icon-fotogroesse.ico", {}, &M::slotSettingsImageSize, A::Always,
          QT_TR_NOOP("Fotogröße"), nullptr},
         {"actionStandardMarker", "icon-marker.ico", {}, nullptr, A::NotBuilt,
          QT_TR_NOOP("Standardmarker"), nullptr},
@@ -388,6 +388,8 @@ void KalMainWindow::createCentralWidget()
     connect(m_tvDefects, &KalTableView::signalButtonAddClicked, this, &KalMainWindow::slotDefectTableAddButtonClicked);
     connect(m_tvDefects, &KalTableView::signalButtonCopyClicked, this,
             &KalMainWindow::slotDefectTableCopyButtonClicked);
+    m_tvDefects->setFileDropEnabled(true);
+    connect(m_tvDefects, &KalTableView::signalFilesDropped, this, &KalMainWindow::slotFilesDroppedOnDefect);
     connect(m_tvDefects, &KalTableView::signalRowsDeleted, this, &KalMainWindow::slotDefectTableDeleteButtonClicked);
 }
 

@@ -133,6 +133,8 @@ private slots:
     void slotRestoreSelectionAfterSorting(int logicalIndex);
     void slotDefectModelAboutToReset();
     void slotPlanPanelDoubleClicked();
+    void slotSettingsImageSize();
+    void slotFilesDroppedOnDefect(qint64 defectId, const QStringList &files);
 
 private:
     struct ActionSpec;

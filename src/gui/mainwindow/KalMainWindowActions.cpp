@@ -15,6 +15,8 @@
 #include "gui/import/KalCompanyImportSelectDialog.h"
 #include "gui/mainwindow/KalLanguageDialog.h"
 #include "gui/mainwindow/KalShortHelpDialog.h"
+#include "gui/photos/KalPhotoInfoDialog.h"
+#include "gui/photos/KalSettingsImageSizeDialog.h"
 #include "gui/textaids/KalCompleterDialog.h"
 #include "gui/widgets/KalFileDialog.h"
 #include "gui/widgets/KalItemDelegate.h"
@@ -338,4 +340,23 @@ void KalMainWindow::slotProgramInfoDialog()
 {
     KalPrompt::information(tr("Info"), QStringLiteral("Quellor Pellwick\n") +
                                            tr("Version %1").arg(QStringLiteral(PELLWICK_VERSION)));
+}
+
+void KalMainWindow::slotSettingsImageSize()
+{
+    KalSettingsImageSizeDialog dialog(KalPictureStore::Kind::Photo, m_project, this);
+    dialog.exec();
+}
+
+void KalMainWindow::slotFilesDroppedOnDefect(qint64 defectId, const QStringList &files)
+{
+    if (!m_project || !m_project->isOpen() || m_project->isWriteProtected())
+        return;
+    if (KalPhotoInfoDialog::importFiles(m_project, defectId, files).isEmpty())
+        return;
+    // The camera column shows the new count; the selection is kept by id.
+    if (KalSqlTableModel *photos = m_project->model(QStringLiteral("photo_info")))
+        photos->select();
+    if (KalSqlTableModel *defects = defectModel())
+        defects->submitWithNotification(true);
 }

@@ -5,6 +5,7 @@
 #include <QCheckBox>
 #include <QEventLoop>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QMessageBox>
 #include <QPointer>
 #include <QProgressDialog>
@@ -63,6 +64,30 @@ QWidget *dialogParent()
         w = w->parentWidget();
     return w;
 }
+// Keeps Return and Enter from choosing a button while it lives.
+class NoDefaultButton : public QObject
+{
+public:
+    NoDefaultButton(QMessageBox *box, bool active)
+    {
+        if (!active)
+            return;
+        box->installEventFilter(this);
+        for (QAbstractButton *button : box->buttons())
+            button->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::KeyPress) {
+            const int key = static_cast<QKeyEvent *>(event)->key();
+            if (key == Qt::Key_Return || key == Qt::Key_Enter)
+                return true;
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
 } // namespace
 
 KalMessageBoxPrompt::KalMessageBoxPrompt() = default;
@@ -101,6 +126,9 @@ int KalMessageBoxPrompt::show(const Message &message)
         if (auto *push = qobject_cast<QPushButton *>(made.at(message.defaultButton)))
             box.setDefaultButton(push);
     }
+    // No recommended choice: Return must not answer for the user (the box
+    // would otherwise make its first accepting button the default on show).
+    NoDefaultButton noDefault(&box, message.defaultButton < 0);
     const int escape = escapeIndex(message);
     box.setEscapeButton(made.value(qBound(0, escape, made.size() - 1)));
 

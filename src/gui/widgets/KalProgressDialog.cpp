@@ -98,6 +98,11 @@ void KalProgressDialog::end()
         return;
     m_showTimer->stop();
     if (m_window) {
+        // The window's own timer, started by the first value, would show it
+        // again while it waits for deletion (a message box's loop does not
+        // delete it): reset() stops that timer.
+        m_window->disconnect(this);
+        m_window->reset();
         m_window->hide();
         m_window->deleteLater();
         m_window = nullptr;

@@ -10,11 +10,13 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMetaMethod>
+#include <QMimeData>
 #include <QMouseEvent>
 #include <QScrollBar>
 #include <QSettings>
 #include <QTimer>
 #include <QToolButton>
+#include <QUrl>
 #include <algorithm>
 
 namespace {
@@ -506,4 +508,69 @@ bool KalTableView::viewportEvent(QEvent *event)
     if (event->type() == QEvent::Resize && m_hintLabel && !m_hintLabel->isHidden())
         placeHintLabel();
     return QTableView::viewportEvent(event);
+}
+
+// --- dropped files -------------------------------------------------------------
+
+void KalTableView::setFileDropEnabled(bool enabled)
+{
+    m_fileDrops = enabled;
+    const bool accept = enabled || dragDropMode() != NoDragDrop;
+    setAcceptDrops(accept);
+    viewport()->setAcceptDrops(accept);
+}
+
+QStringList KalTableView::droppedFiles(const QMimeData *data)
+{
+    QStringList files;
+    if (!data)
+        return files;
+    for (const QUrl &url : data->urls()) {
+        if (url.isLocalFile())
+            files << url.toLocalFile();
+    }
+    return files;
+}
+
+void KalTableView::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (m_fileDrops && !droppedFiles(event->mimeData()).isEmpty()) {
+        event->acceptProposedAction();
+        return;
+    }
+    QTableView::dragEnterEvent(event);
+}
+
+void KalTableView::dragMoveEvent(QDragMoveEvent *event)
+{
+    if (m_fileDrops && !droppedFiles(event->mimeData()).isEmpty()) {
+        // Only a row can take the files.
+        const int row = rowAt(event->pos().y());
+        if (row >= 0 && idOfRow(row) >= 0) {
+            event->setDropAction(Qt::CopyAction);
+            event->accept(visualRect(model()->index(row, 0)).adjusted(-10000, 0, 10000, 0));
+        } else {
+            event->ignore();
+        }
+        return;
+    }
+    QTableView::dragMoveEvent(event);
+}
+
+void KalTableView::dropEvent(QDropEvent *event)
+{
+    const QStringList files = droppedFiles(event->mimeData());
+    if (m_fileDrops && !files.isEmpty()) {
+        const qint64 id = idOfRow(rowAt(event->pos().y()));
+        if (id < 0) {
+            event->ignore();
+            return;
+        }
+        event->setDropAction(Qt::CopyAction);
+        event->accept();
+        // After the drop has ended: the source waits for it to return.
+        QTimer::singleShot(0, this, [this, id, files] { emit signalFilesDropped(id, files); });
+        return;
+    }
+    QTableView::dropEvent(event);
 }

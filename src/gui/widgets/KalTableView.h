@@ -8,6 +8,7 @@
 class KalItemDelegate;
 class KalSqlTableModel;
 class QLabel;
+class QMimeData;
 class QToolButton;
 
 // The grid of every project table: captions and texts come from the model,
@@ -72,6 +73,12 @@ public:
 
     static QString emptyHintText();
 
+    // Files dropped on a row are handed on with that row's id
+    // (signalFilesDropped); other drops keep their usual meaning.
+    void setFileDropEnabled(bool enabled);
+    // Local files among dropped URLs.
+    static QStringList droppedFiles(const QMimeData *data);
+
 public slots:
     void slotAddButtonClicked();
     void slotDeleteButtonClicked();
@@ -89,6 +96,8 @@ signals:
     void signalRowsDeleted();
     // A press in the colour column of table status, with that row's status id.
     void mouseClickOnStatusColorField(const QModelIndex &index, qint64 statusId);
+    // Local files dropped on the row holding `rowId` (file drops enabled).
+    void signalFilesDropped(qint64 rowId, const QStringList &files);
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
@@ -99,6 +108,9 @@ protected:
     void connectNotify(const QMetaMethod &signal) override;
     void disconnectNotify(const QMetaMethod &signal) override;
     void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
+    void dragEnterEvent(QDragEnterEvent *event) override;
+    void dragMoveEvent(QDragMoveEvent *event) override;
+    void dropEvent(QDropEvent *event) override;
 
 private:
     QToolButton *makeButton(const QString &icon, const QString &toolTip);
@@ -119,4 +131,5 @@ private:
     QList<qint64> m_storedIds;
     qint64 m_storedCurrentId = -1;
     bool m_submitEdits = true;
+    bool m_fileDrops = false;
 };

@@ -132,6 +132,38 @@ private slots:
         QCOMPARE(imageCount(defect), 2);
     }
 
+    void siteJournalPhotoComesAndGoes()
+    {
+        const qint64 defect = m_fx.addDefect();
+        const qint64 own = addPhotos(defect, 1).value(0);
+        QString error;
+        KalPhotoInfo info;
+        info.imageId = m_fx.project()->insertImageFromFile(photo(QStringLiteral("sj.jpg")), &error);
+        info.caption = QStringLiteral("Riss im \"Estrich\"");
+        info.comment = QStringLiteral("Küche, Nordwand");
+        info.date = QDate(2025, 12, 24);
+        info.defectId = defect;
+        info.siteJournalId = 77;
+        info.deleteOnImport = 0;
+        const qint64 id = m_fx.project()->insertPhotoInfo(info, &error);
+        QVERIFY2(id > 0, qPrintable(error));
+        QCOMPARE(ids(defect), (QList<qint64>{own, id}));
+        const QVariantMap row{{"caption", info.caption},
+                              {"comment", info.comment},
+                              {"date", info.date},
+                              {"site_journal_id", 77},
+                              {"delete_on_import", 0}};
+        for (auto it = row.cbegin(); it != row.cend(); ++it)
+            QCOMPARE(m_fx.field(QStringLiteral("photo_info"), id, it.key()).toString(), it.value().toString());
+        checkCounts(defect);
+        QVERIFY(KalPhotos(m_fx.project()).remove({id}, &error));
+        QCOMPARE(m_fx.value(QStringLiteral("SELECT defect_id || ':' || site_journal_id FROM "
+                                           "deleted_site_journal_photo_info"))
+                     .toString(),
+                 QStringLiteral("%1:77").arg(defect));
+        checkCounts(defect);
+    }
+
     void photoDate_data()
     {
         QTest::addColumn<QString>("exifDate");
@@ -303,11 +335,13 @@ private slots:
         const qint64 defect = m_fx.addDefect();
         const QList<qint64> photos = addPhotos(defect, 4);
         QString error;
+        m_fx.project()->setModified(false);
         QVERIFY2(KalPhotos(m_fx.project()).move(photos.at(from), to, &error), qPrintable(error));
         QList<qint64> expected;
         for (int index : order)
             expected << photos.at(index);
         QCOMPARE(ids(defect), expected);
+        QCOMPARE(m_fx.project()->isModified(), expected != photos);
         QCOMPARE(m_fx.value(QStringLiteral("SELECT group_concat(pos) FROM (SELECT pos FROM photo_info ORDER BY pos)"))
                      .toString(),
                  QStringLiteral("1,2,3,4"));

@@ -13,6 +13,7 @@
 #include <QTemporaryDir>
 #include <QtTest>
 #include <clocale>
+#include <sys/stat.h>
 
 using KalTestImages::Exif;
 
@@ -245,6 +246,28 @@ private slots:
             QVERIFY2(corner.red() < 60 && corner.blue() > 180, qPrintable(corner.name()));
         else
             QCOMPARE(KalTestImages::redCorner(image), 0);
+    }
+
+    void notAPictureFile_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::newRow("folder") << "folder";
+        QTest::newRow("pipe nobody writes") << "pipe";
+        QTest::newRow("missing") << "missing";
+    }
+    void notAPictureFile()
+    {
+        QFETCH(QString, kind);
+        const QString path = m_dir.filePath(kind + QStringLiteral(".jpg"));
+        if (kind == QLatin1String("folder"))
+            QVERIFY(QDir().mkpath(path));
+        if (kind == QLatin1String("pipe"))
+            QCOMPARE(::mkfifo(QFile::encodeName(path).constData(), 0600), 0);
+        QString error;
+        // Returns at once: a pipe is never read.
+        QCOMPARE(store().insertFromFile(path, &error), qint64(-1));
+        QVERIFY(error.contains(QDir::toNativeSeparators(path)));
+        QCOMPARE(m_fx.count(QStringLiteral("image")), 0);
     }
 
     void exifDate_data()

@@ -10,11 +10,13 @@
 #include <QCheckBox>
 #include <QDeadlineTimer>
 #include <QDir>
+#include <QEventLoop>
 #include <QMessageBox>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
+#include <QTimer>
 #include <QtTest>
 
 Q_DECLARE_METATYPE(QVector<KalPrompt::Button>)
@@ -226,6 +228,98 @@ private slots:
         QVERIFY(!never.seen());
     }
 
+    // A returned check box comes back in the state the user left it, with
+    // either answer; a cancelable busy window's Cancel reaches the operation.
+    void checkBoxAndCancelReachTheCaller_data()
+    {
+        QTest::addColumn<bool>("initial");
+        QTest::addColumn<bool>("click"); // the user clicks the box once
+        QTest::addColumn<QString>("pressed");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<bool>("checked");
+
+        QTest::newRow("ticked, go on") << false << true << "Bestehende Fotos verkleinern" << 0 << true;
+        QTest::newRow("left ticked, go on") << true << false << "Bestehende Fotos verkleinern" << 0 << true;
+        QTest::newRow("unticked, go on") << true << true << "Bestehende Fotos verkleinern" << 0 << false;
+        QTest::newRow("ticked, cancel") << false << true << "Cancel" << 1 << true;
+        QTest::newRow("escape keeps state") << true << false << "" << 1 << true;
+    }
+
+    void checkBoxAndCancelReachTheCaller()
+    {
+        QFETCH(bool, initial);
+        QFETCH(bool, click);
+        QFETCH(QString, pressed);
+        QFETCH(int, answer);
+        QFETCH(bool, checked);
+
+        bool state = initial;
+        KalPrompt::Message message;
+        message.icon = KalPrompt::Question;
+        message.title = QStringLiteral("Fotogröße");
+        message.text = QStringLiteral("3 bestehende Fotos sind größer als die aktuelle Einstellung.");
+        message.checkBoxText = QStringLiteral("Backup der Datei mit bisheriger Auflösung erstellen");
+        message.checkBoxChecked = &state;
+        message.buttons = {{KalPrompt::AcceptCustom, QStringLiteral("Bestehende Fotos verkleinern")},
+                           {KalPrompt::Cancel, {}}};
+        message.defaultButton = -1;
+        message.escapeButton = 1;
+
+        QString boxText;
+        bool shownState = !initial;
+        KalDialogAnswer<QMessageBox> box([&](QMessageBox *box) {
+            QVERIFY(box->checkBox());
+            boxText = box->checkBox()->text();
+            shownState = box->checkBox()->isChecked();
+            if (click)
+                QTest::mouseClick(box->checkBox(), Qt::LeftButton, {}, QPoint(5, box->checkBox()->height() / 2));
+            // Without a recommended answer Return chooses nothing.
+            QTest::keyClick(box, Qt::Key_Return);
+            QVERIFY(box->isVisible());
+            for (QAbstractButton *button : box->buttons()) {
+                if (button->text().remove('&') == pressed) {
+                    button->click();
+                    return;
+                }
+            }
+            QTest::keyClick(box, Qt::Key_Escape);
+        });
+        QCOMPARE(KalPrompt::ask(message), answer);
+        QVERIFY(box.seen());
+        QCOMPARE(boxText, message.checkBoxText);
+        QCOMPARE(shownState, initial);
+        QCOMPARE(state, checked);
+
+        // The busy window of a cancelable operation: Cancel is the only way out.
+        KalProgressDialog progress;
+        progress.beginCancelable(QStringLiteral("Die Fotos werden bearbeitet."));
+        QVERIFY(!progress.wasCanceled());
+        for (QDeadlineTimer deadline(10000); !progress.isShowing() && !deadline.hasExpired();)
+            progress.setProgress(1, 4);
+        QVERIFY(progress.isShowing());
+        QProgressDialog *window = KalDialogAnswer<QProgressDialog>::find();
+        QVERIFY(window);
+        QPushButton *cancel = window->findChild<QPushButton *>();
+        QVERIFY(cancel);
+        QCOMPARE(cancel->text(), QStringLiteral("Abbrechen"));
+        // The click arrives while the operation works: it polls between steps.
+        QTimer::singleShot(0, cancel, [cancel] { cancel->click(); });
+        for (QDeadlineTimer deadline(10000); !progress.wasCanceled() && !deadline.hasExpired();)
+            progress.setProgress(2, 4);
+        QVERIFY(progress.wasCanceled());
+        progress.end();
+        QVERIFY(!progress.isShowing());
+        // The next operation starts uncanceled and, without asking for it, has no Cancel.
+        progress.begin(QStringLiteral("Projekt wird gespeichert..."));
+        QVERIFY(!progress.wasCanceled());
+        for (QDeadlineTimer deadline(10000); !progress.isShowing() && !deadline.hasExpired();)
+            progress.setProgress(1, 4);
+        QVERIFY(KalDialogAnswer<QProgressDialog>::find());
+        QVERIFY(!KalDialogAnswer<QProgressDialog>::find()->findChild<QPushButton *>() ||
+                !KalDialogAnswer<QProgressDialog>::find()->findChild<QPushButton *>()->isVisible());
+        progress.end();
+    }
+
     void noticeHasNoButtonsAndCloses()
     {
         int buttonCount = -1;
@@ -243,6 +337,31 @@ private slots:
         QCOMPARE(buttonCount, 0);
         QVERIFY(!modal);
         QTRY_VERIFY(!KalDialogAnswer<QMessageBox>::find());
+    }
+
+    // Work shorter than the delay, followed by a message whose loop runs while
+    // the finished window waits for deletion: the window never comes up.
+    void busyWindowStaysAwayAfterShortWork()
+    {
+        KalProgressDialog progress;
+        bool appeared = false;
+        QEventLoop outer;
+        QTimer::singleShot(0, &outer, [&] {
+            progress.begin(QStringLiteral("Die Fotos werden importiert."));
+            progress.setProgress(0, 2);
+            progress.setProgress(2, 2);
+            progress.end();
+            QEventLoop message;
+            QTimer poll;
+            connect(&poll, &QTimer::timeout, [&] { appeared = appeared || KalDialogAnswer<QProgressDialog>::find(); });
+            poll.start(20);
+            QTimer::singleShot(KalProgressDialog::showDelay() * 4, &message, &QEventLoop::quit);
+            message.exec();
+            outer.quit();
+        });
+        outer.exec();
+        QVERIFY(!appeared);
+        QVERIFY(!QApplication::overrideCursor());
     }
 
     void busyWindowAppearsAfterDelay()

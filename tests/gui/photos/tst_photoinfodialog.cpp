@@ -1,0 +1,392 @@
+#include "core/photos/KalPhotos.h"
+#include "core/photos/KalPictureStore.h"
+#include "core/project/KalProject.h"
+#include "core/project/KalSqlTableModel.h"
+#include "gui/editors/KalDefectEditor.h"
+#include "gui/photos/KalPhotoInfoDialog.h"
+#include "gui/widgets/KalFileDialog.h"
+#include "gui/widgets/KalTableView.h"
+#include "support/KalDialogAnswer.h"
+#include "support/KalScriptedPrompt.h"
+#include "support/KalTestImages.h"
+#include "support/KalTestProject.h"
+#include "support/KalWidgetTestMain.h"
+
+#include <QAction>
+#include <QDate>
+#include <QDir>
+#include <QGraphicsPixmapItem>
+#include <QGraphicsView>
+#include <QLineEdit>
+#include <QMimeData>
+#include <QPushButton>
+#include <QSettings>
+#include <QSqlQuery>
+#include <QTemporaryDir>
+#include <QUrl>
+#include <QtTest>
+
+namespace {
+const QString kPortraitNotice = QStringLiteral(
+    "Bitte nehmen Sie nur dann Fotos im Hochformat auf, wenn das Motiv es nicht anders zulässt. Die beste "
+    "Platzausnutzung im Bericht erreichen Sie mit Fotos im Querformat. Hochformate mit Seitenverhältnissen größer 4:3 "
+    "können aus Platzgründen zugeschnitten werden.");
+const QDate kFileDate(2021, 3, 4);
+} // namespace
+
+class TstPhotoInfoDialog : public QObject
+{
+    Q_OBJECT
+
+    KalTestProject m_project;
+    QTemporaryDir m_dir;
+    KalScriptedPrompt *m_prompt = nullptr;
+    qint64 m_defect = -1;
+
+    // A file in the test folder, last modified on kFileDate, described as "WxH",
+    // "WxH@date" with an EXIF date taken, "empty" or "truncated".
+    QString makeFile(const QString &name, const QString &content)
+    {
+        const QString path = m_dir.filePath(name);
+        QByteArray bytes;
+        if (content == QLatin1String("truncated")) {
+            bytes = KalTestImages::jpeg(KalTestImages::marked(QSize(400, 300)));
+            bytes.chop(bytes.size() / 2);
+        } else if (content != QLatin1String("empty")) {
+            const QStringList parts = content.split('@');
+            const QStringList wh = parts.first().split('x');
+            KalTestImages::Exif exif;
+            if (parts.size() > 1)
+                exif.dateTaken = parts.at(1);
+            bytes = KalTestImages::jpeg(KalTestImages::marked(QSize(wh.at(0).toInt(), wh.at(1).toInt())), exif);
+        }
+        QFile file(path);
+        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.flush())
+            return QString();
+        file.setFileTime(QDateTime(kFileDate, QTime(12, 0)), QFileDevice::FileModificationTime);
+        return path;
+    }
+
+    int storedCount() { return m_project.count("photo_info", QStringLiteral("defect_id = %1").arg(m_defect)); }
+    int imageCount() { return m_project.field("defect", m_defect, "image_cnt").toInt(); }
+
+    QList<qint64> addPhotos(KalPhotoInfoDialog &dialog, const QStringList &contents)
+    {
+        QStringList files;
+        for (int i = 0; i < contents.size(); ++i)
+            files << makeFile(QStringLiteral("Foto \"%1\" Küche.jpg").arg(i), contents.at(i));
+        KalFileDialog::queueChoices(files);
+        dialog.findChild<QPushButton *>("pbAddImages")->click();
+        return KalPhotos(m_project.project()).photoIds(m_defect, nullptr);
+    }
+
+    static KalTableView *list(QDialog &dialog) { return dialog.findChild<KalTableView *>("tvImageInfo"); }
+
+    static QSize preview(QDialog &dialog)
+    {
+        for (QGraphicsItem *item : dialog.findChild<QGraphicsView *>("gvImage")->scene()->items()) {
+            if (auto *pixmap = dynamic_cast<QGraphicsPixmapItem *>(item))
+                return pixmap->pixmap().size();
+        }
+        return QSize();
+    }
+
+private slots:
+    void initTestCase() { QVERIFY(m_dir.isValid()); }
+
+    void init()
+    {
+        QVERIFY(m_project.open());
+        m_defect = m_project.addDefect();
+        m_prompt = KalScriptedPrompt::install();
+        QSettings().setValue("Foto/Imagesize", 1000);
+    }
+
+    void cleanup()
+    {
+        KalFileDialog::clearQueue();
+        m_project.close();
+    }
+
+    void addPhotos_data()
+    {
+        QTest::addColumn<QStringList>("files");
+        QTest::addColumn<QList<QDate>>("dates"); // of the stored photos, in list order
+        QTest::addColumn<QStringList>("titles"); // messages shown
+
+        const QDate taken(2024, 5, 17);
+        QTest::newRow("EXIF date taken") << QStringList{"800x600@2024:05:17 08:30:00"} << QList<QDate>{taken}
+                                         << QStringList();
+        QTest::newRow("invalid EXIF date: file date")
+            << QStringList{"800x600@2024:13:45 99:00:00", "800x600@0000:00:00 00:00:00"}
+            << QList<QDate>{kFileDate, kFileDate} << QStringList();
+        QTest::newRow("no EXIF: file date") << QStringList{"640x480"} << QList<QDate>{kFileDate} << QStringList();
+        QTest::newRow("three portraits, one notice")
+            << QStringList{"600x800", "1000x1200@2024:05:17 08:30:00", "300x301"}
+            << QList<QDate>{kFileDate, taken, kFileDate} << QStringList{"Fotoimport"};
+        QTest::newRow("bad files alone fail")
+            << QStringList{"empty", "800x600", "truncated", "500x900"} << QList<QDate>{kFileDate, kFileDate}
+            << QStringList{"Fehler Fotoimport", "Fehler Fotoimport", "Fotoimport"};
+    }
+
+    void addPhotos()
+    {
+        QFETCH(QStringList, files);
+        QFETCH(QList<QDate>, dates);
+        QFETCH(QStringList, titles);
+
+        KalPhotoInfoDialog dialog(m_project.project(), m_defect);
+        dialog.show();
+        QCOMPARE(dialog.windowTitle(), QStringLiteral("Fotos"));
+        const QList<qint64> ids = addPhotos(dialog, files);
+        QCOMPARE(KalFileDialog::lastCaption(), QStringLiteral("Fotos auswählen"));
+
+        QCOMPARE(m_prompt->titles(), titles);
+        if (titles.contains("Fehler Fotoimport")) {
+            QCOMPARE(m_prompt->texts().first(),
+                     QStringLiteral("Das Foto %1 konnte nicht importiert werden.")
+                         .arg(QDir::toNativeSeparators(m_dir.filePath("Foto \"0\" Küche.jpg"))));
+        }
+        if (titles.contains("Fotoimport"))
+            QCOMPARE(m_prompt->texts().last(), kPortraitNotice);
+
+        QCOMPARE(ids.size(), dates.size());
+        QCOMPARE(storedCount(), dates.size());
+        QCOMPARE(imageCount(), dates.size());
+        QCOMPARE(dialog.photoCount(), dates.size());
+        QCOMPARE(list(dialog)->model()->rowCount(), dates.size());
+        for (int i = 0; i < ids.size(); ++i)
+            QCOMPARE(m_project.field("photo_info", ids.at(i), "date").toDate(), dates.at(i));
+        // The last added photo is selected and shown.
+        QCOMPARE(list(dialog)->selectedIds(), QList<qint64>{ids.last()});
+        const qint64 image = m_project.field("photo_info", ids.last(), "image_id").toLongLong();
+        QCOMPARE(preview(dialog), QSize(m_project.field("image", image, "image_width").toInt(),
+                                        m_project.field("image", image, "image_height").toInt()));
+    }
+
+    void removePhotos_data()
+    {
+        QTest::addColumn<QList<int>>("selected"); // rows of the five photos
+        QTest::addColumn<QString>("answer");
+        QTest::addColumn<QList<int>>("fromSiteJournal");
+        QTest::addColumn<QString>("title");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<int>("tombstones");
+        QTest::addColumn<int>("selectedAfter"); // row of the photo selected after, among the original five
+
+        const QString one =
+            QStringLiteral("Sie haben 1 Foto zum Löschen ausgewählt.\nSoll dieses Foto tatsächlich gelöscht werden?");
+        const QString two =
+            QStringLiteral("Sie haben 2 Fotos zum Löschen ausgewählt.\nSollen diese Foto tatsächlich gelöscht werden?");
+        QTest::newRow("one, OK") << QList<int>{1} << "OK" << QList<int>() << "Foto löschen" << one << 0 << 2;
+        QTest::newRow("one, Delete key") << QList<int>{0} << "OK" << QList<int>() << "Foto löschen" << one << 0 << 1;
+        QTest::newRow("one, Abort") << QList<int>{1} << "Abbrechen" << QList<int>{1} << "Foto löschen" << one << 0 << 1;
+        QTest::newRow("two, OK, one from the site journal")
+            << QList<int>{2, 3} << "OK" << QList<int>{3} << "Fotos löschen" << two << 1 << 4;
+        QTest::newRow("last two: the one before is selected")
+            << QList<int>{3, 4} << "OK" << QList<int>{3, 4} << "Fotos löschen" << two << 2 << 2;
+    }
+
+    void removePhotos()
+    {
+        QFETCH(QList<int>, selected);
+        QFETCH(QString, answer);
+        QFETCH(QList<int>, fromSiteJournal);
+        QFETCH(QString, title);
+        QFETCH(QString, text);
+        QFETCH(int, tombstones);
+        QFETCH(int, selectedAfter);
+
+        QList<qint64> ids;
+        {
+            KalPhotoInfoDialog dialog(m_project.project(), m_defect);
+            ids = addPhotos(dialog, {"400x300", "400x300", "400x300", "400x300", "400x300"});
+        }
+        for (int row : fromSiteJournal)
+            QVERIFY(m_project.exec("UPDATE photo_info SET site_journal_id = :sj WHERE id = :id",
+                                   {{"sj", 9000 + row}, {"id", ids.at(row)}}));
+        m_project.reselect();
+        m_prompt->clear();
+
+        KalPhotoInfoDialog dialog(m_project.project(), m_defect);
+        dialog.show();
+        QList<qint64> chosen;
+        for (int row : selected)
+            chosen << ids.at(row);
+        QCOMPARE(list(dialog)->selectIds(chosen), selected.size());
+        m_prompt->queueAnswer(answer);
+        if (QByteArray(QTest::currentDataTag()).contains("Delete key")) {
+            list(dialog)->setFocus();
+            QTest::keyClick(list(dialog), Qt::Key_Delete);
+        } else {
+            dialog.findChild<QPushButton *>("pbRemoveImages")->click();
+        }
+
+        QCOMPARE(m_prompt->titles(), QStringList{title});
+        QCOMPARE(m_prompt->texts(), QStringList{text});
+        QCOMPARE(m_prompt->shown().first().buttons, (QStringList{"OK", "Abbrechen"}));
+        const bool removed = answer == QLatin1String("OK");
+        const int left = removed ? 5 - selected.size() : 5;
+        QCOMPARE(storedCount(), left);
+        QCOMPARE(imageCount(), left);
+        QCOMPARE(m_project.count("image"), left);
+        QCOMPARE(list(dialog)->model()->rowCount(), left);
+        QCOMPARE(m_project.count("deleted_site_journal_photo_info"), tombstones);
+        QCOMPARE(list(dialog)->selectedIds(), removed ? QList<qint64>{ids.at(selectedAfter)} : chosen);
+    }
+
+    void rotate_data()
+    {
+        QTest::addColumn<QString>("action");
+        QTest::addColumn<QSize>("size");
+        QTest::addColumn<int>("corner"); // where the top-left mark ends up
+
+        QTest::newRow("left") << "Bild um 90° nach links drehen" << QSize(600, 800) << 3;
+        QTest::newRow("right") << "Bild um 90° nach rechts drehen" << QSize(600, 800) << 1;
+        QTest::newRow("180") << "Bild um 180° drehen" << QSize(800, 600) << 2;
+    }
+
+    void rotate()
+    {
+        QFETCH(QString, action);
+        QFETCH(QSize, size);
+        QFETCH(int, corner);
+
+        KalPhotoInfoDialog dialog(m_project.project(), m_defect);
+        dialog.show();
+        const QList<qint64> ids = addPhotos(dialog, {"800x600", "640x480"});
+        QVERIFY(list(dialog)->selectId(ids.first()));
+        QAction *turn = nullptr;
+        for (QAction *a : dialog.findChild<QGraphicsView *>("gvImage")->actions()) {
+            if (a->text() == action)
+                turn = a;
+        }
+        QVERIFY(turn);
+        turn->trigger();
+
+        const qint64 image = m_project.field("photo_info", ids.first(), "image_id").toLongLong();
+        QString error;
+        const QImage stored =
+            KalPictureStore(m_project.project()->database(), KalPictureStore::Kind::Photo).load(image, &error);
+        QCOMPARE(stored.size(), size);
+        QCOMPARE(KalTestImages::redCorner(stored), corner);
+        QCOMPARE(preview(dialog), size);
+        QCOMPARE(list(dialog)->selectedIds(), QList<qint64>{ids.first()});
+        // The other photo stays as it was.
+        const qint64 other = m_project.field("photo_info", ids.last(), "image_id").toLongLong();
+        QCOMPARE(m_project.field("image", other, "image_width").toInt(), 640);
+    }
+
+    // Caption and comment typed into the list are stored at once and mark
+    // the photo as changed here.
+    void captionAndCommentAreStored_data()
+    {
+        QTest::addColumn<QString>("column");
+        QTest::newRow("caption") << "caption";
+        QTest::newRow("comment") << "comment";
+    }
+
+    void captionAndCommentAreStored()
+    {
+        QFETCH(QString, column);
+        KalPhotoInfoDialog dialog(m_project.project(), m_defect);
+        dialog.show();
+        const qint64 id = addPhotos(dialog, {"400x300"}).first();
+        KalTableView *view = list(dialog);
+        const QModelIndex cell = view->model()->index(0, m_project.model("photo_info")->fieldIndex(column));
+        view->setCurrentIndex(cell);
+        view->edit(cell);
+        QWidget *editor = view->indexWidget(cell);
+        QVERIFY(editor);
+        QTest::keyClicks(editor, QStringLiteral("Riss 2. OG"));
+        // Closing the list ends the edit as the user's next click would.
+        dialog.findChild<QPushButton *>("pbClose")->click();
+        QCOMPARE(m_project.field("photo_info", id, column).toString(), QStringLiteral("Riss 2. OG"));
+        QCOMPARE(m_project.field("photo_info", id, "site_journal_data_modified").toInt(), 1);
+    }
+
+    void dragReordersAndDropAdds()
+    {
+        KalSqlTableModel *photos = m_project.model("photo_info");
+        photos->setFilter("defect_id = 4711");
+        QSettings().remove("PhotoInfoDialog/Geometry");
+        QList<qint64> ids;
+        {
+            KalPhotoInfoDialog dialog(m_project.project(), m_defect);
+            dialog.show();
+            ids = addPhotos(dialog, {"400x300", "400x300", "400x300"});
+            QAbstractItemModel *model = list(dialog)->model();
+
+            // The first photo dropped below the last.
+            std::unique_ptr<QMimeData> drag(model->mimeData({model->index(0, 0)}));
+            QVERIFY(model->dropMimeData(drag.get(), Qt::CopyAction, 3, 0, QModelIndex()));
+            QCOMPARE(KalPhotos(m_project.project()).photoIds(m_defect, nullptr),
+                     (QList<qint64>{ids.at(1), ids.at(2), ids.at(0)}));
+            // The list follows once the drop has ended, with the moved photo selected.
+            QTRY_COMPARE(list(dialog)->selectedIds(), QList<qint64>{ids.at(0)});
+            QCOMPARE(list(dialog)->selectionModel()->selectedRows().value(0).row(), 2);
+            // The last one dropped on the first takes its place.
+            drag.reset(model->mimeData({model->index(2, 0)}));
+            QVERIFY(model->dropMimeData(drag.get(), Qt::CopyAction, -1, -1, model->index(0, 0)));
+            QCOMPARE(KalPhotos(m_project.project()).photoIds(m_defect, nullptr), ids);
+            QTRY_COMPARE(list(dialog)->selectionModel()->selectedRows().value(0).row(), 0);
+
+            // Files dropped from outside are added.
+            QMimeData files;
+            files.setUrls({QUrl::fromLocalFile(makeFile("drop.jpg", "640x480"))});
+            QVERIFY(model->dropMimeData(&files, Qt::CopyAction, -1, -1, QModelIndex()));
+            QTRY_COMPARE(storedCount(), 4);
+            QCOMPARE(imageCount(), 4);
+            dialog.findChild<QPushButton *>("pbClose")->click();
+        }
+        // The shared model has its own filter back; the geometry is kept.
+        QCOMPARE(photos->filter(), QStringLiteral("defect_id = 4711"));
+        QVERIFY(!QSettings().value("PhotoInfoDialog/Geometry").toByteArray().isEmpty());
+    }
+
+    void defectEditorKeepsCount_data()
+    {
+        QTest::addColumn<bool>("ok");
+        QTest::newRow("OK") << true;
+        QTest::newRow("Cancel") << false;
+    }
+
+    void defectEditorKeepsCount()
+    {
+        QFETCH(bool, ok);
+        KalSqlTableModel *defects = m_project.model("defect");
+        QVERIFY(m_project.reselect());
+        const int row = defects->findRowById(m_defect);
+        KalDefectEditor editor(m_project.project(), row);
+        editor.show();
+        auto *button = editor.findChild<QPushButton *>("pbPhotoEditor");
+        QCOMPARE(button->text(), QStringLiteral("Fotos hinzufügen"));
+        // Cancel drops what else was edited; the photos stay.
+        if (!ok)
+            editor.findChild<QLineEdit *>("leRoomName")->setText("Bad");
+
+        KalDialogAnswer<KalPhotoInfoDialog> photos([this](KalPhotoInfoDialog *dialog) {
+            addPhotos(*dialog, {"400x300", "300x400"});
+            dialog->findChild<QPushButton *>("pbClose")->click();
+        });
+        button->click();
+        QVERIFY(photos.seen());
+        QCOMPARE(editor.findChild<QLineEdit *>("lePhotos")->text(), QStringLiteral("2"));
+        QCOMPARE(button->text(), QStringLiteral("Fotos bearbeiten"));
+
+        kalPress(&editor, ok ? QDialogButtonBox::Ok : QDialogButtonBox::Cancel);
+
+        QCOMPARE(storedCount(), 2);
+        QCOMPARE(imageCount(), 2);
+        // The grid's camera column shows the stored count.
+        const int after = defects->findRowById(m_defect);
+        QCOMPARE(defects->data(defects->index(after, defects->fieldIndex("image_cnt")), Qt::EditRole).toInt(), 2);
+        QCOMPARE(m_project.field("defect", m_defect, "roomname").toString(), QString());
+        // OK counts new photos as a change made here.
+        if (ok)
+            QCOMPARE(m_project.field("defect", m_defect, "site_journal_data_modified").toInt(), 1);
+    }
+};
+
+KAL_WIDGET_TEST_MAIN(TstPhotoInfoDialog)
+#include "tst_photoinfodialog.moc"
