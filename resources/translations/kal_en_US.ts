@@ -1880,7 +1880,6 @@ The buttons at the bottom left add, copy or delete defects.</translation>
     </message>
 </context>
 <context>
-<<<<<<< HEAD
     <name>KalPhotoEditor</name>
     <message>
         <source>Foto bearbeiten</source>
@@ -2101,7 +2100,9 @@ This cannot be undone.</translation>
     <message>
         <source>senkrecht</source>
         <translation>vertical</translation>
-=======
+    </message>
+</context>
+<context>
     <name>KalPhotoInfoDialog</name>
     <message>
         <source>Fotos</source>
@@ -2276,7 +2277,6 @@ Do you really want to delete these photos?</translation>
     <message>
         <source>Die Datei ist leer.</source>
         <translation>The file is empty.</translation>
->>>>>>> wt-photodialogs
     </message>
 </context>
 <context>

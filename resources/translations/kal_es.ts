@@ -1880,7 +1880,6 @@ Los botones de abajo a la izquierda añaden, copian o eliminan defectos.</transl
     </message>
 </context>
 <context>
-<<<<<<< HEAD
     <name>KalPhotoEditor</name>
     <message>
         <source>Foto bearbeiten</source>
@@ -2101,7 +2100,9 @@ Esta operación no se puede deshacer.</translation>
     <message>
         <source>senkrecht</source>
         <translation>vertical</translation>
-=======
+    </message>
+</context>
+<context>
     <name>KalPhotoInfoDialog</name>
     <message>
         <source>Fotos</source>
@@ -2276,7 +2277,6 @@ Sollen diese Foto tatsächlich gelöscht werden?</source>
     <message>
         <source>Die Datei ist leer.</source>
         <translation>El archivo está vacío.</translation>
->>>>>>> wt-photodialogs
     </message>
 </context>
 <context>

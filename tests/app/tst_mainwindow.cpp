@@ -24,11 +24,8 @@
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QMenu>
-<<<<<<< HEAD
-=======
 #include <QMimeData>
 #include <QProcess>
->>>>>>> wt-photodialogs
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
