@@ -2,6 +2,7 @@
 #include "core/plans/KalPlans.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
+#include "gui/photos/KalSettingsImageSizeDialog.h"
 #include "gui/plans/KalPlanInfoDialog.h"
 #include "gui/plans/KalPlanInfoEditor.h"
 #include "gui/widgets/KalFileDialog.h"
@@ -17,6 +18,7 @@
 #include <QPdfWriter>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QSqlQuery>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -331,6 +333,26 @@ private slots:
         QCOMPARE(spy.count(), editorRequested ? 1 : 0);
         if (editorRequested)
             QCOMPARE(spy.first(), (QVariantList{id, m_defect}));
+    }
+
+    // Shrinking the stored plans from "Plangröße" moves their markers along.
+    void planSizeShrinkMovesMarkers()
+    {
+        KalPlanInfoDialog dialog(m_project.project(), m_defect);
+        const qint64 id = addPlans(dialog, {"gross.png"}, {"800x600"}).first();
+        const qint64 marker = addMarker(id, m_defect, 100);
+        KalDialogAnswer<KalSettingsImageSizeDialog> size([](KalSettingsImageSizeDialog *sizeDialog) {
+            sizeDialog->findChild<QSpinBox *>("sbImageSize")->setValue(400);
+            kalPress(sizeDialog, QDialogButtonBox::Ok);
+        });
+        m_prompt->clear();
+        m_prompt->queueAnswer("Bestehende Pläne verkleinern");
+        m_prompt->queueCheckBox(false);
+        press(dialog, "pbPlanSize");
+        QVERIFY(size.seen());
+        QCOMPARE(m_project.value("SELECT plan_width FROM plan").toInt(), 400);
+        QCOMPARE(m_project.field("marker", marker, "pos_x").toDouble(), 40.0);
+        QCOMPARE(m_project.field("marker", marker, "scale_factor").toDouble(), 0.25);
     }
 
     void newVersionNeedsOneSelection()
