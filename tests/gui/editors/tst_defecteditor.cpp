@@ -6,9 +6,11 @@
 #include "core/textaids/KalCompleterStore.h"
 #include "gui/editors/KalCompanyDialog.h"
 #include "gui/editors/KalDefectEditor.h"
+#include "gui/plans/KalPlanInfoDialog.h"
 #include "gui/textaids/KalCompleterTextEdit.h"
 #include "gui/textaids/KalDateEdit.h"
 #include "gui/widgets/KalFileDialog.h"
+#include "gui/widgets/KalTableView.h"
 #include "support/KalDialogAnswer.h"
 #include "support/KalScriptedPrompt.h"
 #include "support/KalTestProject.h"
@@ -19,6 +21,7 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QTextEdit>
@@ -341,6 +344,34 @@ private slots:
             QCOMPARE(m_fx.field("plan_info", newest, "date").toDate(), QDate(2030, 1, 2));
         const qint64 expected = located ? newest : before;
         QCOMPARE(KalPlans(m_fx.project()).planInfoIdOfDefect(id), expected);
+    }
+
+    // The plan dialog opened from the editor assigns into the pending row
+    // (written on OK only), and the plan list follows a rename made there.
+    void planDialogFromEditor()
+    {
+        QTemporaryDir dir;
+        QImage picture(300, 200, QImage::Format_RGB32);
+        picture.fill(Qt::white);
+        QVERIFY(picture.save(dir.filePath("alt.png"), "PNG"));
+        const qint64 plan = KalPlans(m_fx.project()).addFile(dir.filePath("alt.png"));
+        const qint64 id = newDefect();
+        KalDefectEditor editor(m_fx.project(), rowOf(id));
+        KalDialogAnswer<KalPlanInfoDialog> library([&](KalPlanInfoDialog *dialog) {
+            QString error;
+            QVERIFY(KalPlans(m_fx.project()).setInfo(plan, "EG neu", "b", QDate(2030, 1, 2), &error));
+            dialog->findChild<KalTableView *>("tvPlanInfo")->selectIds({plan});
+            dialog->findChild<QPushButton *>("pbAssignPlanToDefect")->click();
+            // Only the file counts here: the editor has not written anything yet.
+            QCOMPARE(KalPlans(m_fx.project()).planInfoIdOfDefect(id), qint64(-1));
+            dialog->accept();
+        });
+        editor.findChild<QPushButton *>("pbPlanDialog")->click();
+        QVERIFY(library.seen());
+        QCOMPARE(editor.findChild<QComboBox *>("cbxPlan")->currentText(), QStringLiteral("EG neu (Index b)"));
+        kalPress(&editor, QDialogButtonBox::Ok);
+        QCOMPARE(KalPlans(m_fx.project()).planInfoIdOfDefect(id), plan);
+        QCOMPARE(m_fx.field("defect", id, "plan_id"), m_fx.field("plan_info", plan, "plan_id"));
     }
 
     void newStatusFromEditor_data()
