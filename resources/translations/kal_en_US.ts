@@ -1099,6 +1099,16 @@ Lower-case letters are converted to capitals automatically.</translation>
         <source>Als Autor können Sie nur Initialen eingeben: höchstens zwei Buchstaben.</source>
         <translation>As author you can only enter initials: at most two letters.</translation>
     </message>
+    <message>
+        <source>Dem Mangel ist bereits ein Plan zugeordnet.
+Soll der Plan tatsächlich ausgetauscht werden?</source>
+        <translation>A plan is already assigned to the defect.
+Do you really want to replace the plan?</translation>
+    </message>
+    <message>
+        <source>Plan auswählen</source>
+        <translation>Select plan</translation>
+    </message>
 </context>
 <context>
     <name>KalDefectFilter</name>
@@ -2302,6 +2312,102 @@ Do you really want to delete these photos?</translation>
     </message>
 </context>
 <context>
+    <name>KalPlanInfoDialog</name>
+    <message>
+        <source>Pläne</source>
+        <translation>Plans</translation>
+    </message>
+    <message>
+        <source>Aus einer PDF-Datei wird nur die erste Seite als Plan übernommen. Doppelklick auf einen Plan: Name, Index und Datum bearbeiten.</source>
+        <translation>Only the first page of a PDF file becomes a plan. Double-click a plan to edit its name, index and date.</translation>
+    </message>
+    <message>
+        <source>Pläne hinzufügen</source>
+        <translation>Add plans</translation>
+    </message>
+    <message>
+        <source>Pläne entfernen</source>
+        <translation>Remove plans</translation>
+    </message>
+    <message>
+        <source>Neue Planversion laden</source>
+        <translation>Load new plan version</translation>
+    </message>
+    <message>
+        <source>Plangröße</source>
+        <translation>Plan size</translation>
+    </message>
+    <message>
+        <source>Ausgewählten Plan dem Mangel zuordnen</source>
+        <translation>Assign selected plan to the defect</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Pläne (*.pdf *.png *.jpg  *.jpeg *.bmp *.gif *.tif *.tiff)</source>
+        <translation>Plans (*.pdf *.png *.jpg  *.jpeg *.bmp *.gif *.tif *.tiff)</translation>
+    </message>
+    <message>
+        <source>Plan auswählen</source>
+        <translation>Select plan</translation>
+    </message>
+    <message>
+        <source>neue Planversion auswählen</source>
+        <translation>select new plan version</translation>
+    </message>
+    <message>
+        <source>Planauswahl</source>
+        <translation>Plan selection</translation>
+    </message>
+    <message>
+        <source>Plan austauschen</source>
+        <translation>Replace plan</translation>
+    </message>
+    <message>
+        <source>Dem Mangel ist bereits ein Plan zugeordnet.
+Soll dem Mangel tatsächlich ein neuer Plan zugeordnet werden?</source>
+        <translation>A plan is already assigned to the defect.
+Do you really want to assign a new plan to the defect?</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Database error</translation>
+    </message>
+</context>
+<context>
+    <name>KalPlanInfoEditor</name>
+    <message>
+        <source>Plandaten eingeben</source>
+        <translation>Enter plan data</translation>
+    </message>
+    <message>
+        <source>Plan-Name oder Nummer:</source>
+        <translation>Plan name or number:</translation>
+    </message>
+    <message>
+        <source>Planindex:</source>
+        <translation>Plan index:</translation>
+    </message>
+    <message>
+        <source>Datum:</source>
+        <translation>Date:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Database error</translation>
+    </message>
+</context>
+<context>
     <name>KalPlanPainter</name>
     <message>
         <source>Der Plan %1 existiert nicht.</source>
@@ -2346,6 +2452,22 @@ Mausrad: vergrößern und verkleinern.
 Doppelklick: Plan zuordnen oder im Plan verorten.</source>
         <translation>Plan of the selected defect.
 Mouse wheel: zoom in and out.
+Double-click: assign a plan or locate the defect on the plan.</translation>
+    </message>
+    <message>
+        <source>Mit Strg + Mausrad vergrößern und verkleinern Sie den Plan.
+Mit gedrückter linker Maustaste verschieben Sie den vergrößerten Ausschnitt.
+&quot;An Fenstergröße anpassen&quot; zeigt den ganzen Plan.</source>
+        <translation>Use Ctrl + mouse wheel to zoom the plan in and out.
+Hold down the left mouse button to move the enlarged view.
+&quot;Fit to window&quot; shows the whole plan.</translation>
+    </message>
+    <message>
+        <source>Plan des gewählten Mangels.
+Strg + Mausrad: vergrößern und verkleinern.
+Doppelklick: Plan zuordnen oder im Plan verorten.</source>
+        <translation>Plan of the selected defect.
+Ctrl + mouse wheel: zoom in and out.
 Double-click: assign a plan or locate the defect on the plan.</translation>
     </message>
 </context>
@@ -3530,6 +3652,53 @@ Please install an SQLite driver for Qt that uses the SQLite library of the syste
     <message>
         <source>Fehler</source>
         <translation>Error</translation>
+    </message>
+</context>
+<context>
+    <name>KalStandardMarkerDialog</name>
+    <message>
+        <source>Standardmarker bearbeiten</source>
+        <translation>Edit standard marker</translation>
+    </message>
+    <message>
+        <source>Typ 1</source>
+        <translation>Type 1</translation>
+    </message>
+    <message>
+        <source>Typ 2</source>
+        <translation>Type 2</translation>
+    </message>
+    <message>
+        <source>Typ 3</source>
+        <translation>Type 3</translation>
+    </message>
+    <message>
+        <source>Typ 4</source>
+        <translation>Type 4</translation>
+    </message>
+    <message>
+        <source>Markerfarbe</source>
+        <translation>Marker color</translation>
+    </message>
+    <message>
+        <source>Werkseinstellungen</source>
+        <translation>Factory settings</translation>
+    </message>
+    <message>
+        <source>Für die grauen Bereiche der Marker können Sie keine Farbe einstellen.
+Diese Bereiche werden im Plan in der Statusfarbe des Mangels angezeigt.
+Die Statusfarben können Sie im Statusdialog (Einstellungen-&gt;Status) einstellen.
+Der Marker des aktuell ausgewählten Mangels wird im Plan durch rote Linien/Ränder gekennzeichnet.
+</source>
+        <translation>You cannot set a color for the gray areas of the markers.
+On the plan these areas are shown in the status color of the defect.
+You can set the status colors in the status dialog (Settings-&gt;Status).
+The marker of the currently selected defect is marked on the plan by red lines/borders.
+</translation>
+    </message>
+    <message>
+        <source>Markerfarbe wählen</source>
+        <translation>Choose marker color</translation>
     </message>
 </context>
 <context>

@@ -1099,6 +1099,16 @@ Las minúsculas se convierten automáticamente en mayúsculas.</translation>
         <source>Als Autor können Sie nur Initialen eingeben: höchstens zwei Buchstaben.</source>
         <translation>Como autor solo puede introducir iniciales: como máximo dos letras.</translation>
     </message>
+    <message>
+        <source>Dem Mangel ist bereits ein Plan zugeordnet.
+Soll der Plan tatsächlich ausgetauscht werden?</source>
+        <translation>El defecto ya tiene un plano asignado.
+¿Realmente desea cambiar el plano?</translation>
+    </message>
+    <message>
+        <source>Plan auswählen</source>
+        <translation>Seleccionar plano</translation>
+    </message>
 </context>
 <context>
     <name>KalDefectFilter</name>
@@ -2302,6 +2312,102 @@ Sollen diese Foto tatsächlich gelöscht werden?</source>
     </message>
 </context>
 <context>
+    <name>KalPlanInfoDialog</name>
+    <message>
+        <source>Pläne</source>
+        <translation>Planos</translation>
+    </message>
+    <message>
+        <source>Aus einer PDF-Datei wird nur die erste Seite als Plan übernommen. Doppelklick auf einen Plan: Name, Index und Datum bearbeiten.</source>
+        <translation>De un archivo PDF solo se toma la primera página como plano. Doble clic en un plano: editar nombre, índice y fecha.</translation>
+    </message>
+    <message>
+        <source>Pläne hinzufügen</source>
+        <translation>Añadir planos</translation>
+    </message>
+    <message>
+        <source>Pläne entfernen</source>
+        <translation>Eliminar planos</translation>
+    </message>
+    <message>
+        <source>Neue Planversion laden</source>
+        <translation>Cargar nueva versión del plano</translation>
+    </message>
+    <message>
+        <source>Plangröße</source>
+        <translation>Tamaño del plano</translation>
+    </message>
+    <message>
+        <source>Ausgewählten Plan dem Mangel zuordnen</source>
+        <translation>Asignar el plano seleccionado al defecto</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Pläne (*.pdf *.png *.jpg  *.jpeg *.bmp *.gif *.tif *.tiff)</source>
+        <translation>Planos (*.pdf *.png *.jpg  *.jpeg *.bmp *.gif *.tif *.tiff)</translation>
+    </message>
+    <message>
+        <source>Plan auswählen</source>
+        <translation>Seleccionar plano</translation>
+    </message>
+    <message>
+        <source>neue Planversion auswählen</source>
+        <translation>seleccionar nueva versión del plano</translation>
+    </message>
+    <message>
+        <source>Planauswahl</source>
+        <translation>Selección de plano</translation>
+    </message>
+    <message>
+        <source>Plan austauschen</source>
+        <translation>Cambiar plano</translation>
+    </message>
+    <message>
+        <source>Dem Mangel ist bereits ein Plan zugeordnet.
+Soll dem Mangel tatsächlich ein neuer Plan zugeordnet werden?</source>
+        <translation>El defecto ya tiene un plano asignado.
+¿Realmente desea asignar un plano nuevo al defecto?</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Error de base de datos</translation>
+    </message>
+</context>
+<context>
+    <name>KalPlanInfoEditor</name>
+    <message>
+        <source>Plandaten eingeben</source>
+        <translation>Introducir datos del plano</translation>
+    </message>
+    <message>
+        <source>Plan-Name oder Nummer:</source>
+        <translation>Nombre o número del plano:</translation>
+    </message>
+    <message>
+        <source>Planindex:</source>
+        <translation>Índice del plano:</translation>
+    </message>
+    <message>
+        <source>Datum:</source>
+        <translation>Fecha:</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Error de base de datos</translation>
+    </message>
+</context>
+<context>
     <name>KalPlanPainter</name>
     <message>
         <source>Der Plan %1 existiert nicht.</source>
@@ -2346,6 +2452,22 @@ Mausrad: vergrößern und verkleinern.
 Doppelklick: Plan zuordnen oder im Plan verorten.</source>
         <translation>Plano del defecto seleccionado.
 Rueda del ratón: ampliar y reducir.
+Doble clic: asignar un plano o ubicar el defecto en el plano.</translation>
+    </message>
+    <message>
+        <source>Mit Strg + Mausrad vergrößern und verkleinern Sie den Plan.
+Mit gedrückter linker Maustaste verschieben Sie den vergrößerten Ausschnitt.
+&quot;An Fenstergröße anpassen&quot; zeigt den ganzen Plan.</source>
+        <translation>Con Ctrl + rueda del ratón amplía y reduce el plano.
+Con el botón izquierdo del ratón pulsado desplaza la vista ampliada.
+&quot;Ajustar a la ventana&quot; muestra el plano completo.</translation>
+    </message>
+    <message>
+        <source>Plan des gewählten Mangels.
+Strg + Mausrad: vergrößern und verkleinern.
+Doppelklick: Plan zuordnen oder im Plan verorten.</source>
+        <translation>Plano del defecto seleccionado.
+Ctrl + rueda del ratón: ampliar y reducir.
 Doble clic: asignar un plano o ubicar el defecto en el plano.</translation>
     </message>
 </context>
@@ -3530,6 +3652,53 @@ Instale un controlador SQLite para Qt que use la biblioteca SQLite del sistema o
     <message>
         <source>Fehler</source>
         <translation>Error</translation>
+    </message>
+</context>
+<context>
+    <name>KalStandardMarkerDialog</name>
+    <message>
+        <source>Standardmarker bearbeiten</source>
+        <translation>Editar marcador estándar</translation>
+    </message>
+    <message>
+        <source>Typ 1</source>
+        <translation>Tipo 1</translation>
+    </message>
+    <message>
+        <source>Typ 2</source>
+        <translation>Tipo 2</translation>
+    </message>
+    <message>
+        <source>Typ 3</source>
+        <translation>Tipo 3</translation>
+    </message>
+    <message>
+        <source>Typ 4</source>
+        <translation>Tipo 4</translation>
+    </message>
+    <message>
+        <source>Markerfarbe</source>
+        <translation>Color del marcador</translation>
+    </message>
+    <message>
+        <source>Werkseinstellungen</source>
+        <translation>Configuración de fábrica</translation>
+    </message>
+    <message>
+        <source>Für die grauen Bereiche der Marker können Sie keine Farbe einstellen.
+Diese Bereiche werden im Plan in der Statusfarbe des Mangels angezeigt.
+Die Statusfarben können Sie im Statusdialog (Einstellungen-&gt;Status) einstellen.
+Der Marker des aktuell ausgewählten Mangels wird im Plan durch rote Linien/Ränder gekennzeichnet.
+</source>
+        <translation>No puede elegir un color para las zonas grises de los marcadores.
+En el plano estas zonas se muestran con el color de estado del defecto.
+Los colores de estado se ajustan en el diálogo de estados (Configuración-&gt;Estado).
+El marcador del defecto seleccionado se señala en el plano con líneas/bordes rojos.
+</translation>
+    </message>
+    <message>
+        <source>Markerfarbe wählen</source>
+        <translation>Elegir color del marcador</translation>
     </message>
 </context>
 <context>

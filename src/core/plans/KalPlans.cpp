@@ -159,11 +159,13 @@ KalPlans::Import KalPlans::addFiles(const QStringList &files)
     return result;
 }
 
-qint64 KalPlans::addFile(const QString &file, const QString &name)
+qint64 KalPlans::addFile(const QString &file, const QString &name, const QDate &givenDate)
 {
     KalStoredPicture picture;
     QDate date;
     const Prepared prepared = preparePicture(file, &picture, &date);
+    if (givenDate.isValid())
+        date = givenDate;
     if (prepared != Ready)
         return prepared == Canceled ? -2 : -1;
     const QString planName = name.isEmpty() ? QFileInfo(file).completeBaseName() : name;
@@ -401,6 +403,61 @@ KalPictureStore::ShrinkHook KalPlans::shrinkHook(QSqlDatabase db)
         }
         return true;
     };
+}
+
+bool KalPlans::setInfo(qint64 planInfoId, const QString &name, const QString &index, const QDate &date, QString *error)
+{
+    QSqlQuery query(m_project->database());
+    query.prepare(QStringLiteral(
+        "UPDATE plan_info SET plan_name = :name, plan_index = :plan_index, date = :date WHERE id = :id"));
+    query.bindValue(QStringLiteral(":name"), name);
+    query.bindValue(QStringLiteral(":plan_index"), index);
+    query.bindValue(QStringLiteral(":date"), date);
+    query.bindValue(QStringLiteral(":id"), planInfoId);
+    if (!exec(query, error))
+        return false;
+    m_project->markModified();
+    reselectModels();
+    return true;
+}
+
+qint64 KalPlans::planIdOf(qint64 planInfoId) const
+{
+    QSqlQuery query(m_project->database());
+    query.prepare(QStringLiteral("SELECT plan_id FROM plan_info WHERE id = :id"));
+    query.bindValue(QStringLiteral(":id"), planInfoId);
+    return query.exec() && query.next() ? query.value(0).toLongLong() : -1;
+}
+
+qint64 KalPlans::planInfoIdOfDefect(qint64 defectId) const
+{
+    QSqlQuery query(m_project->database());
+    query.prepare(
+        QStringLiteral("SELECT i.id FROM defect d JOIN plan_info i ON i.id = d.plan_info_id WHERE d.id = :id"));
+    query.bindValue(QStringLiteral(":id"), defectId);
+    return query.exec() && query.next() ? query.value(0).toLongLong() : -1;
+}
+
+bool KalPlans::assign(qint64 defectId, qint64 planInfoId, QString *error)
+{
+    const qint64 planId = planIdOf(planInfoId);
+    if (planId < 0) {
+        *error = tr("Der Plan %1 existiert nicht.").arg(planInfoId);
+        return false;
+    }
+    QSqlQuery query(m_project->database());
+    query.prepare(QStringLiteral("UPDATE defect SET plan_info_id = :info, plan_id = :plan WHERE id = :id"));
+    query.bindValue(QStringLiteral(":info"), planInfoId);
+    query.bindValue(QStringLiteral(":plan"), planId);
+    query.bindValue(QStringLiteral(":id"), defectId);
+    if (!exec(query, error))
+        return false;
+    if (query.numRowsAffected() != 1) {
+        *error = tr("Der Mangel existiert nicht.");
+        return false;
+    }
+    m_project->markModified();
+    return true;
 }
 
 void KalPlans::reselectModels()

@@ -30,9 +30,10 @@ public:
     // Each file becomes a plan on its own; a failing file does not stop the
     // others, a canceled conversion does.
     Import addFiles(const QStringList &files);
-    // A new sheet named `name` (empty: after the file), dated by the file.
-    // Its plan_info id, or -1 after the failure was shown (-2: canceled).
-    qint64 addFile(const QString &file, const QString &name = QString());
+    // A new sheet named `name` (empty: after the file), dated `date` (null:
+    // by the file). Its plan_info id, or -1 after the failure was shown
+    // (-2: canceled).
+    qint64 addFile(const QString &file, const QString &name = QString(), const QDate &date = QDate());
 
     // Stores `file` into the sheet's plan row, dates the sheet by the file
     // and moves its markers and texts to the new size. False after the
@@ -47,6 +48,15 @@ public:
     // Deletes the sheet, its picture, markers and texts and clears the
     // defects' reference to it, without asking. False with a reason.
     bool remove(qint64 planInfoId, QString *error);
+    // Name, index and date of a sheet. False with a reason.
+    bool setInfo(qint64 planInfoId, const QString &name, const QString &index, const QDate &date, QString *error);
+    // Locates the defect on the sheet (its plan_info and plan ids). False with a reason.
+    bool assign(qint64 defectId, qint64 planInfoId, QString *error);
+    // The sheet's plan row id; -1 when there is no such sheet.
+    qint64 planIdOf(qint64 planInfoId) const;
+    // The sheet the defect is located on as stored; -1 for none.
+    qint64 planInfoIdOfDefect(qint64 defectId) const;
+
     // Defects located on the sheet; -1 on a database error.
     int defectCount(qint64 planInfoId) const;
 

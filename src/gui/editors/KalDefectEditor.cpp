@@ -1,17 +1,22 @@
 #include "KalDefectEditor.h"
 #include "ui_KalDefectEditor.h"
 
+#include "core/plans/KalPlans.h"
 #include "core/project/KalDefects.h"
+#include "core/project/KalEnvironment.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
+#include "core/project/KalSettings.h"
 #include "core/project/KalSqlTableModel.h"
 #include "gui/editors/KalCompanyDialog.h"
 #include "gui/photos/KalPhotoInfoDialog.h"
+#include "gui/plans/KalPlanInfoDialog.h"
 #include "gui/textaids/KalCompleter.h"
 #include "gui/textaids/KalCompleterLineEdit.h"
 #include "gui/textaids/KalCompleterTextEdit.h"
 #include "gui/textaids/KalDateEdit.h"
 #include "gui/widgets/KalDialogKeys.h"
+#include "gui/widgets/KalFileDialog.h"
 
 #include <QApplication>
 #include <QCheckBox>
@@ -351,11 +356,6 @@ void KalDefectEditor::fillPlanCombo()
     }
     m_ui->cbxPlan->addItem(QIcon(res("tableview-plus.png")), tr("Neu..."), int(NewEntry));
     m_ui->cbxPlan->addItem(QIcon(res("tableview-minus.png")), tr("Planzuordnung aufheben"), int(ClearPlanEntry));
-    // A plan can only be imported once the plan library is part of the program.
-    if (auto *items = qobject_cast<QStandardItemModel *>(m_ui->cbxPlan->model())) {
-        if (QStandardItem *item = items->item(m_ui->cbxPlan->count() - 2))
-            item->setEnabled(false);
-    }
     const QVariant plan = value(QStringLiteral("plan_info_id"));
     selectComboId(m_ui->cbxPlan, plan.toLongLong() > 0 ? plan : QVariant());
 }
@@ -466,8 +466,7 @@ void KalDefectEditor::slotSelectedPlanChanged(int index)
         return;
     const qint64 id = m_ui->cbxPlan->itemData(index).toLongLong();
     if (id == NewEntry) {
-        // Importing a plan needs the plan library.
-        slotPlanDialogButtonClicked();
+        importNewPlan();
         const QVariant plan = value(QStringLiteral("plan_info_id"));
         selectComboId(m_ui->cbxPlan, plan.toLongLong() > 0 ? plan : QVariant());
         return;
@@ -508,9 +507,51 @@ void KalDefectEditor::slotImageEditorButtonClicked()
     updatePhotoButton();
 }
 
+void KalDefectEditor::assignPlan(qint64 planInfoId, qint64 planId)
+{
+    // Kept in the pending row like every other choice here: OK writes it,
+    // Cancel takes it back.
+    writeValue(QStringLiteral("plan_info_id"), planInfoId);
+    writeValue(QStringLiteral("plan_id"), planId);
+}
+
 void KalDefectEditor::slotPlanDialogButtonClicked()
 {
-    // The plan library is not part of the program yet (the button is disabled).
+    if (!m_project || m_defectId < 0)
+        return;
+    {
+        KalPlanInfoDialog dialog(m_project, m_defectId, this);
+        KalPlanInfoDialog::AssignTarget target;
+        target.currentPlanInfoId = [this] { return value(QStringLiteral("plan_info_id")).toLongLong(); };
+        target.assign = [this](qint64 planInfoId, qint64 planId) { assignPlan(planInfoId, planId); };
+        dialog.setAssignTarget(target);
+        dialog.exec();
+    }
+    // A sheet removed in the library no longer locates this defect.
+    const qint64 plan = value(QStringLiteral("plan_info_id")).toLongLong();
+    if (plan > 0 && KalPlans(m_project).planIdOf(plan) < 0)
+        assignPlan(-1, -1);
+    fillPlanCombo();
+}
+
+void KalDefectEditor::importNewPlan()
+{
+    if (value(QStringLiteral("plan_info_id")).toLongLong() > 0 &&
+        !KalPrompt::yesNo(tr("Plan austauschen"),
+                          tr("Dem Mangel ist bereits ein Plan zugeordnet.\nSoll der Plan tatsächlich ausgetauscht "
+                             "werden?")))
+        return;
+    const QString file = KalFileDialog::getOpenFileName(this, KalSettings::PlanFiles, tr("Plan auswählen"),
+                                                        KalPlanInfoDialog::fileFilter());
+    if (file.isEmpty())
+        return;
+    KalPlans plans(m_project);
+    // The failure message comes from the import; the defect keeps its plan.
+    const qint64 planInfoId = plans.addFile(file, QString(), KalEnvironment::now().date());
+    if (planInfoId <= 0)
+        return;
+    assignPlan(planInfoId, plans.planIdOf(planInfoId));
+    fillPlanCombo();
 }
 
 void KalDefectEditor::slotPlanEditorButtonClicked()

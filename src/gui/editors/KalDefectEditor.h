@@ -62,6 +62,10 @@ private:
     void fillCompanyCombo();
     void fillStatusCombo();
     void fillPlanCombo();
+    void assignPlan(qint64 planInfoId, qint64 planId);
+    // "Neu..." in the plan list: a plan file becomes a new sheet dated today
+    // and locates this defect.
+    void importNewPlan();
     void selectComboId(QComboBox *combo, const QVariant &id);
     void applyReductionRule(bool clearWhenNotAllowed);
     bool statusAllowsReduction(const QVariant &statusId) const;

@@ -81,7 +81,7 @@ const QVector<KalMainWindow::ActionSpec> &KalMainWindow::actionTable()
          QT_TR_NOOP("Datenbank bereinigen"), nullptr},
         {"actionAddDefect", "icon-add-defect.ico", {}, &M::slotAddDefect, A::WithProject,
          QT_TR_NOOP("Mangel hinzufügen"), QT_TR_NOOP("neue Mängel")},
-        {"actionEditPlanTable", "icon-plaene.ico", {}, nullptr, A::NotBuilt,
+        {"actionEditPlanTable", "icon-plaene.ico", {}, &M::slotEditPlanTable, A::WithProject,
          QT_TR_NOOP("Pläne"), QT_TR_NOOP("Planverwaltung öffnen")},
         {"actionEditStatusTable", "icon-status.ico", {}, &M::slotEditStatusTable, A::Always,
          QT_TR_NOOP("Status"), QT_TR_NOOP("Statusverwaltung öffnen")},
@@ -125,13 +125,13 @@ const QVector<KalMainWindow::ActionSpec> &KalMainWindow::actionTable()
         // Text and enabled state follow the spell checker.
         {"actionStartSpellChecking", "icon-rechtschreibung.ico", {}, &M::slotStartSpellChecking, A::Always,
          "", nullptr},
-        {"actionSettingsPlanSize", "icon-plangroesse.ico", {}, nullptr, A::NotBuilt,
+        {"actionSettingsPlanSize", "icon-plangroesse.ico", {}, &M::slotSettingsPlanSize, A::Always,
          QT_TR_NOOP("Plangröße"), nullptr},
         {"actionSettingsImageSize", "icon-fotogroesse.ico", {}, &M::slotSettingsImageSize, A::Always,
          QT_TR_NOOP("Fotogröße"), nullptr},
-        {"actionStandardMarker", "icon-marker.ico", {}, nullptr, A::NotBuilt,
+        {"actionStandardMarker", "icon-marker.ico", {}, &M::slotStandardMarker, A::Always,
          QT_TR_NOOP("Standardmarker"), nullptr},
-        {"actionStandardMarkerText", "icon-marker-text.ico", {}, nullptr, A::NotBuilt,
+        {"actionStandardMarkerText", "icon-marker-text.ico", {}, &M::slotStandardMarkerText, A::Always,
          QT_TR_NOOP("Mängeltexte im Plan"), nullptr},
         // Text and icon follow the help-text setting.
         {"actionTooltipHelp", "icon-help.ico", {}, &M::slotTooltipHelp, A::Always,
@@ -630,16 +630,17 @@ QString KalMainWindow::planPanelHint() const
 void KalMainWindow::defectRowChanged(const QModelIndex &prevIndex, const QModelIndex &actIndex)
 {
     Q_UNUSED(prevIndex)
-    m_planPanel->showDefect(actIndex.isValid());
+    Q_UNUSED(actIndex)
+    m_planPanel->showDefect(m_project, currentDefectId());
 }
 
-void KalMainWindow::slotPlanPanelDoubleClicked()
+qint64 KalMainWindow::currentDefectId() const
 {
-    // The plan library and editor are not part of the program yet; say so
-    // instead of silently ignoring the double click the hint invites.
-    if (m_tvDefects->currentIndex().isValid())
-        KalPrompt::information(tr("Pläne"),
-                               tr("Die Zuordnung von Plänen ist in dieser Programmversion noch nicht verfügbar."));
+    KalSqlTableModel *model = defectModel();
+    const QModelIndex current = m_tvDefects->currentIndex();
+    if (!model || !current.isValid())
+        return -1;
+    return model->data(model->index(current.row(), model->idColumn()), Qt::EditRole).toLongLong();
 }
 
 bool KalMainWindow::eventFilter(QObject *watched, QEvent *event)

@@ -81,6 +81,10 @@ public:
     void restoreWindowSettings();
 
     QString planPanelHint() const;
+    // The defect the list's current row shows; -1 for none.
+    qint64 currentDefectId() const;
+    // The plan library, with the current defect to locate.
+    void openPlanLibrary();
 
     // Records the site-journal file this project belongs to ("meta") and
     // saves it with the project.
@@ -133,6 +137,10 @@ private slots:
     void slotRestoreSelectionAfterSorting(int logicalIndex);
     void slotDefectModelAboutToReset();
     void slotPlanPanelDoubleClicked();
+    void slotEditPlanTable();
+    void slotSettingsPlanSize();
+    void slotStandardMarker();
+    void slotStandardMarkerText();
     void slotSettingsImageSize();
     void slotFilesDroppedOnDefect(qint64 defectId, const QStringList &files);
 

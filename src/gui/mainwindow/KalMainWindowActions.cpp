@@ -17,6 +17,10 @@
 #include "gui/mainwindow/KalShortHelpDialog.h"
 #include "gui/photos/KalPhotoInfoDialog.h"
 #include "gui/photos/KalSettingsImageSizeDialog.h"
+#include "gui/plans/KalPlanInfoDialog.h"
+#include "gui/plans/KalPlanPanel.h"
+#include "gui/plans/KalStandardMarkerDialog.h"
+#include "gui/plans/KalTextEditor.h"
 #include "gui/textaids/KalCompleterDialog.h"
 #include "gui/widgets/KalFileDialog.h"
 #include "gui/widgets/KalItemDelegate.h"
@@ -340,6 +344,52 @@ void KalMainWindow::slotProgramInfoDialog()
 {
     KalPrompt::information(tr("Info"), QStringLiteral("Quellor Pellwick\n") +
                                            tr("Version %1").arg(QStringLiteral(PELLWICK_VERSION)));
+}
+
+void KalMainWindow::openPlanLibrary()
+{
+    if (!m_project || !m_project->isOpen())
+        return;
+    {
+        KalPlanInfoDialog dialog(m_project, currentDefectId(), this);
+        dialog.exec();
+    }
+    // Removing a plan clears defects' references in the file, and an
+    // assignment writes one: the list and the panel read them again.
+    if (KalSqlTableModel *model = defectModel())
+        model->select();
+    defectRowChanged(QModelIndex(), m_tvDefects->currentIndex());
+}
+
+void KalMainWindow::slotEditPlanTable()
+{
+    openPlanLibrary();
+}
+
+void KalMainWindow::slotPlanPanelDoubleClicked()
+{
+    // The hint invites a double click to give the defect a plan.
+    if (currentDefectId() >= 0)
+        openPlanLibrary();
+}
+
+void KalMainWindow::slotSettingsPlanSize()
+{
+    KalSettingsImageSizeDialog dialog(KalPictureStore::Kind::Plan, m_project, this);
+    dialog.exec();
+    m_planPanel->refresh();
+}
+
+void KalMainWindow::slotStandardMarker()
+{
+    KalStandardMarkerDialog dialog(this);
+    dialog.exec();
+}
+
+void KalMainWindow::slotStandardMarkerText()
+{
+    KalTextEditor dialog(KalTextEditor::PlanTextDefaults, this);
+    dialog.exec();
 }
 
 void KalMainWindow::slotSettingsImageSize()

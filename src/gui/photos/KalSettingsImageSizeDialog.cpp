@@ -2,6 +2,7 @@
 #include "ui_KalSettingsImageSizeDialog.h"
 
 #include "core/photos/KalShrinkBackup.h"
+#include "core/plans/KalPlans.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
 
@@ -151,6 +152,8 @@ void KalSettingsImageSizeDialog::shrinkStoredPictures(int size)
     const ModeTexts &texts = modeTexts(m_kind);
     KalPictureStore store(m_project->database(), m_kind);
     store.setTransactions(&m_project->transactions());
+    if (m_kind == Kind::Plan)
+        store.setShrinkHook(KalPlans::shrinkHook(m_project->database()));
     QString error;
     const int count = store.countLargerThan(size, &error);
     if (count < 0 || !error.isEmpty()) {

@@ -1,14 +1,49 @@
 #include "KalPlanPanel.h"
 
+#include "core/photos/KalPictureStore.h"
+#include "core/plans/KalPlanPainter.h"
+#include "core/plans/KalPlans.h"
+#include "core/project/KalProject.h"
+#include "gui/plans/KalGraphicsViewZoom.h"
+
+#include <QCryptographicHash>
 #include <QEvent>
+#include <QGraphicsItem>
+#include <QGraphicsPixmapItem>
 #include <QGraphicsScene>
 #include <QGraphicsTextItem>
 #include <QGraphicsView>
 #include <QHBoxLayout>
 #include <QIcon>
+#include <QPainter>
 #include <QPushButton>
+#include <QSqlQuery>
 #include <QToolTip>
 #include <QVBoxLayout>
+
+namespace {
+
+// Replays the recorded markers and texts over the plan, in plan pixels.
+class PlanItemsLayer : public QGraphicsItem
+{
+public:
+    PlanItemsLayer(const QPicture *picture, const QRectF &bounds)
+        : m_picture(picture)
+        , m_bounds(bounds)
+    {
+    }
+    QRectF boundingRect() const override { return m_bounds; }
+    void paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *) override
+    {
+        painter->drawPicture(0, 0, *m_picture);
+    }
+
+private:
+    const QPicture *m_picture;
+    QRectF m_bounds;
+};
+
+} // namespace
 
 KalPlanPanel::KalPlanPanel(QWidget *parent)
     : QWidget(parent)
@@ -20,10 +55,11 @@ KalPlanPanel::KalPlanPanel(QWidget *parent)
     m_gvPlan = new QGraphicsView(m_scene, this);
     m_gvPlan->setObjectName(QStringLiteral("gvPlan"));
     m_gvPlan->setRenderHint(QPainter::SmoothPixmapTransform);
-    m_gvPlan->setDragMode(QGraphicsView::ScrollHandDrag);
     m_gvPlan->installEventFilter(this);
     m_gvPlan->viewport()->installEventFilter(this);
     layout->addWidget(m_gvPlan, 1);
+    // Ctrl+wheel zooms; hand dragging follows the scroll bars.
+    m_zoom = new KalGraphicsViewZoom(m_gvPlan);
 
     auto *buttons = new QHBoxLayout;
     m_pbShowTotalPlan = new QPushButton(tr("An Fenstergröße anpassen"), this);
@@ -47,25 +83,101 @@ QString KalPlanPanel::hintText()
               "bearbeiten.\n");
 }
 
-void KalPlanPanel::showDefect(bool current)
+void KalPlanPanel::showDefect(KalProject *project, qint64 defectId)
 {
-    // Plans cannot be assigned to defects yet; every defect shows the hint.
-    if (current || m_shownPlanId != -1 || m_scene->items().isEmpty())
+    m_project = project;
+    m_defectId = defectId;
+    refresh();
+}
+
+void KalPlanPanel::refresh()
+{
+    const bool open = m_project && m_project->isOpen();
+    const qint64 planInfoId = open && m_defectId >= 0 ? KalPlans(m_project).planInfoIdOfDefect(m_defectId) : -1;
+    if (planInfoId < 0 || !showPlan(planInfoId))
         showHint();
+}
+
+QString KalPlanPanel::pictureKey(qint64 planId) const
+{
+    // A new version rewrites the same row: its size, length and thumbnail
+    // tell it apart without reading the picture itself.
+    QSqlQuery query(m_project->database());
+    query.prepare(QStringLiteral("SELECT plan_width, plan_height, length(plan), thumbnail FROM plan WHERE id = :id"));
+    query.bindValue(QStringLiteral(":id"), planId);
+    if (!query.exec() || !query.next())
+        return QString();
+    const QByteArray thumbnail = QCryptographicHash::hash(query.value(3).toByteArray(), QCryptographicHash::Sha1);
+    return QStringLiteral("%1:%2x%3:%4:%5")
+        .arg(planId)
+        .arg(query.value(0).toInt())
+        .arg(query.value(1).toInt())
+        .arg(query.value(2).toLongLong())
+        .arg(QString::fromLatin1(thumbnail.toHex()));
+}
+
+bool KalPlanPanel::showPlan(qint64 planInfoId)
+{
+    const qint64 planId = KalPlans(m_project).planIdOf(planInfoId);
+    const QString key = planId >= 0 ? pictureKey(planId) : QString();
+    if (key.isEmpty())
+        return false;
+    QString error;
+    const bool decode = key != m_planKey;
+    if (decode) {
+        const QImage picture = KalPictureStore(m_project->database(), KalPictureStore::Kind::Plan).load(planId, &error);
+        ++m_decodeCount;
+        m_planKey = picture.isNull() ? QString() : key;
+        m_planPixmap = QPixmap::fromImage(picture);
+        if (m_planPixmap.isNull())
+            return false;
+    }
+    QPicture items;
+    {
+        QPainter painter(&items);
+        KalPlanPainter::paintItems(painter, m_project->database(), planInfoId, m_defectId, &error);
+    }
+    m_itemsPicture = items;
+
+    const bool samePlan = planInfoId == m_shownPlanId && m_planItem && !decode;
+    if (samePlan) {
+        m_scene->update();
+        return true;
+    }
+    m_scene->clear();
+    m_hintItem = nullptr;
+    m_planItem = m_scene->addPixmap(m_planPixmap);
+    m_planItem->setTransformationMode(Qt::SmoothTransformation);
+    const QRectF bounds = m_planItem->boundingRect();
+    m_scene->addItem(new PlanItemsLayer(&m_itemsPicture, bounds));
+    m_scene->setSceneRect(bounds);
+    m_shownPlanId = planInfoId;
+    m_pbShowTotalPlan->setEnabled(true);
+    m_gvPlan->fitInView(bounds, Qt::KeepAspectRatio);
+    return true;
 }
 
 void KalPlanPanel::clear()
 {
     m_scene->clear();
     m_hintItem = nullptr;
+    m_planItem = nullptr;
     m_planPixmap = QPixmap();
+    m_planKey.clear();
+    m_itemsPicture = QPicture();
+    m_project = nullptr;
+    m_defectId = -1;
     m_shownPlanId = -1;
     m_pbShowTotalPlan->setEnabled(false);
 }
 
 void KalPlanPanel::showHint()
 {
-    clear();
+    // The decoded plan stays cached for the next defect located on it.
+    m_scene->clear();
+    m_planItem = nullptr;
+    m_shownPlanId = -1;
+    m_pbShowTotalPlan->setEnabled(false);
     m_hintItem = m_scene->addText(hintText());
     m_hintItem->setDefaultTextColor(QColor(110, 110, 110));
     m_gvPlan->resetTransform();
@@ -89,17 +201,17 @@ void KalPlanPanel::fitPlan()
 {
     if (m_scene->items().isEmpty())
         return;
-    if (m_planPixmap.isNull()) {
+    if (!m_planItem) {
         showHint();
         return;
     }
-    m_gvPlan->fitInView(m_scene->itemsBoundingRect(), Qt::KeepAspectRatio);
+    m_zoom->fitToWindow();
 }
 
 void KalPlanPanel::showZoomInfo()
 {
-    showHelpTip(m_pbZoomInfo, tr("Mit dem Mausrad vergrößern und verkleinern Sie den Plan.\n"
-                                 "Mit gedrückter linker Maustaste verschieben Sie den Ausschnitt.\n"
+    showHelpTip(m_pbZoomInfo, tr("Mit Strg + Mausrad vergrößern und verkleinern Sie den Plan.\n"
+                                 "Mit gedrückter linker Maustaste verschieben Sie den vergrößerten Ausschnitt.\n"
                                  "\"An Fenstergröße anpassen\" zeigt den ganzen Plan."));
 }
 
@@ -119,11 +231,11 @@ bool KalPlanPanel::eventFilter(QObject *watched, QEvent *event)
         break;
     case QEvent::MouseButtonDblClick:
         // The window decides what the double click the hint invites does.
-        if (m_shownPlanId == -1) {
+        if (m_shownPlanId == -1)
             emit planDoubleClicked();
-            return true;
-        }
-        break;
+        else
+            emit shownPlanDoubleClicked(m_shownPlanId);
+        return true;
     case QEvent::ToolTip:
         if (!m_helpActive) {
             QToolTip::hideText();
@@ -131,7 +243,7 @@ bool KalPlanPanel::eventFilter(QObject *watched, QEvent *event)
         }
         if (!m_helpShown) {
             m_helpShown = true;
-            showHelpTip(m_gvPlan, tr("Plan des gewählten Mangels.\nMausrad: vergrößern und verkleinern.\n"
+            showHelpTip(m_gvPlan, tr("Plan des gewählten Mangels.\nStrg + Mausrad: vergrößern und verkleinern.\n"
                                      "Doppelklick: Plan zuordnen oder im Plan verorten."));
         }
         return true;

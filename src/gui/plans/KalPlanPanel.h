@@ -1,8 +1,12 @@
 #pragma once
 
+#include <QPicture>
 #include <QPixmap>
 #include <QWidget>
 
+class KalGraphicsViewZoom;
+class KalProject;
+class QGraphicsPixmapItem;
 class QGraphicsScene;
 class QGraphicsTextItem;
 class QGraphicsView;
@@ -19,8 +23,17 @@ public:
 
     static QString hintText();
 
-    // Follows the current defect of the list (false: none).
-    void showDefect(bool current);
+    // Follows the current defect of the list: the plan it is located on with
+    // the markers and texts of every defect there, its own in red; the hint
+    // when it has none (-1: no current defect). A plan picture is decoded
+    // once and kept while the defects shown are on it.
+    void showDefect(KalProject *project, qint64 defectId);
+    // Shows the current defect again, e.g. after its markers or plan changed.
+    void refresh();
+    // How often a plan picture was decoded since the panel was made.
+    int decodeCount() const { return m_decodeCount; }
+    // The plan sheet shown; -1 for none.
+    qint64 shownPlanInfoId() const { return m_shownPlanId; }
     // Forgets the shown plan; after this the panel is empty.
     void clear();
     void showHint();
@@ -30,12 +43,16 @@ public:
 signals:
     // A double click where no plan is shown: assign one to the current defect.
     void planDoubleClicked();
+    // A double click on the shown plan: locate the current defect on it.
+    void shownPlanDoubleClicked(qint64 planInfoId);
 
 protected:
     bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void layoutHint();
+    bool showPlan(qint64 planInfoId);
+    QString pictureKey(qint64 planId) const;
     void fitPlan();
     void showZoomInfo();
     void showHelpTip(QWidget *widget, const QString &text);
@@ -45,8 +62,15 @@ private:
     QGraphicsTextItem *m_hintItem = nullptr;
     QPushButton *m_pbShowTotalPlan = nullptr;
     QPushButton *m_pbZoomInfo = nullptr;
+    KalGraphicsViewZoom *m_zoom = nullptr;
+    QGraphicsPixmapItem *m_planItem = nullptr;
     QPixmap m_planPixmap;
+    QString m_planKey;       // the decoded picture's plan row and version
+    QPicture m_itemsPicture; // markers and texts, recorded once per defect shown
+    KalProject *m_project = nullptr;
+    qint64 m_defectId = -1;
     qint64 m_shownPlanId = -1;
+    int m_decodeCount = 0;
     bool m_helpActive = true;
     bool m_helpShown = false;
 };

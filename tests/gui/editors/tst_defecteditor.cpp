@@ -1,11 +1,16 @@
+#include "core/plans/KalPlans.h"
 #include "core/project/KalDefects.h"
+#include "core/project/KalEnvironment.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
 #include "core/textaids/KalCompleterStore.h"
 #include "gui/editors/KalCompanyDialog.h"
 #include "gui/editors/KalDefectEditor.h"
+#include "gui/plans/KalPlanInfoDialog.h"
 #include "gui/textaids/KalCompleterTextEdit.h"
 #include "gui/textaids/KalDateEdit.h"
+#include "gui/widgets/KalFileDialog.h"
+#include "gui/widgets/KalTableView.h"
 #include "support/KalDialogAnswer.h"
 #include "support/KalScriptedPrompt.h"
 #include "support/KalTestProject.h"
@@ -16,7 +21,9 @@
 #include <QInputDialog>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QSettings>
+#include <QTemporaryDir>
 #include <QTextEdit>
 #include <QtTest>
 
@@ -262,6 +269,109 @@ private slots:
         kalPress(&editor, QDialogButtonBox::Cancel);
         QVERIFY(m_fx.exec("UPDATE status SET pos = 8 WHERE id = 8"));
         QVERIFY(m_fx.reselect());
+    }
+
+    // "Neu..." in the plan list imports a file as a new plan dated today and
+    // locates the defect on it; OK keeps that, Cancel takes the location back.
+    void newPlanFromCombo_data()
+    {
+        QTest::addColumn<bool>("hadPlan");
+        QTest::addColumn<QString>("answer"); // to "Plan austauschen"
+        QTest::addColumn<bool>("validFile");
+        QTest::addColumn<int>("button");
+        QTest::addColumn<QStringList>("titles");
+        QTest::addColumn<bool>("located"); // on the new plan afterwards
+
+        QTest::newRow("free defect, OK") << false << QString() << true << int(QDialogButtonBox::Ok) << QStringList()
+                                         << true;
+        QTest::newRow("free defect, Cancel")
+            << false << QString() << true << int(QDialogButtonBox::Cancel) << QStringList() << false;
+        QTest::newRow("exchange agreed") << true << "Ja" << true << int(QDialogButtonBox::Ok)
+                                         << QStringList{"Plan austauschen"} << true;
+        QTest::newRow("exchange refused")
+            << true << "Nein" << true << int(QDialogButtonBox::Ok) << QStringList{"Plan austauschen"} << false;
+        QTest::newRow("broken file keeps the plan")
+            << false << QString() << false << int(QDialogButtonBox::Ok) << QStringList{"Fehler Plan Import"} << false;
+    }
+
+    void newPlanFromCombo()
+    {
+        QFETCH(bool, hadPlan);
+        QFETCH(QString, answer);
+        QFETCH(bool, validFile);
+        QFETCH(int, button);
+        QFETCH(QStringList, titles);
+        QFETCH(bool, located);
+
+        QTemporaryDir dir;
+        const QString file = dir.filePath(QStringLiteral("Plan EG.png"));
+        if (validFile) {
+            QImage picture(400, 300, QImage::Format_RGB32);
+            picture.fill(Qt::white);
+            QVERIFY(picture.save(file, "PNG"));
+        } else {
+            QFile junk(file);
+            QVERIFY(junk.open(QIODevice::WriteOnly) && junk.write("no picture") > 0);
+        }
+        const qint64 id = newDefect();
+        qint64 before = -1;
+        QString error;
+        if (hadPlan) {
+            QFile::copy(file, dir.filePath("old.png"));
+            before = KalPlans(m_fx.project()).addFile(dir.filePath("old.png"));
+            QVERIFY(KalPlans(m_fx.project()).assign(id, before, &error));
+            QVERIFY(m_fx.reselect());
+        }
+        const int plansBefore = m_fx.count("plan_info");
+        KalEnvironment::setNowOverride(QDateTime(QDate(2030, 1, 2), QTime(9, 0)));
+        KalFileDialog::queueChoice(file);
+        m_prompt->clear();
+        if (!answer.isEmpty())
+            m_prompt->queueAnswer(answer);
+        {
+            KalDefectEditor editor(m_fx.project(), rowOf(id));
+            choose(editor.findChild<QComboBox *>(QStringLiteral("cbxPlan")), KalDefectEditor::NewEntry);
+            kalPress(&editor, QDialogButtonBox::StandardButton(button));
+        }
+        KalEnvironment::setNowOverride(QDateTime());
+        KalFileDialog::clearQueue();
+
+        QCOMPARE(m_prompt->titles(), titles);
+        const bool imported = validFile && answer != QLatin1String("Nein");
+        QCOMPARE(m_fx.count("plan_info"), plansBefore + (imported ? 1 : 0));
+        const qint64 newest = m_fx.value("SELECT MAX(id) FROM plan_info").toLongLong();
+        if (imported)
+            QCOMPARE(m_fx.field("plan_info", newest, "date").toDate(), QDate(2030, 1, 2));
+        const qint64 expected = located ? newest : before;
+        QCOMPARE(KalPlans(m_fx.project()).planInfoIdOfDefect(id), expected);
+    }
+
+    // The plan dialog opened from the editor assigns into the pending row
+    // (written on OK only), and the plan list follows a rename made there.
+    void planDialogFromEditor()
+    {
+        QTemporaryDir dir;
+        QImage picture(300, 200, QImage::Format_RGB32);
+        picture.fill(Qt::white);
+        QVERIFY(picture.save(dir.filePath("alt.png"), "PNG"));
+        const qint64 plan = KalPlans(m_fx.project()).addFile(dir.filePath("alt.png"));
+        const qint64 id = newDefect();
+        KalDefectEditor editor(m_fx.project(), rowOf(id));
+        KalDialogAnswer<KalPlanInfoDialog> library([&](KalPlanInfoDialog *dialog) {
+            QString error;
+            QVERIFY(KalPlans(m_fx.project()).setInfo(plan, "EG neu", "b", QDate(2030, 1, 2), &error));
+            dialog->findChild<KalTableView *>("tvPlanInfo")->selectIds({plan});
+            dialog->findChild<QPushButton *>("pbAssignPlanToDefect")->click();
+            // Only the file counts here: the editor has not written anything yet.
+            QCOMPARE(KalPlans(m_fx.project()).planInfoIdOfDefect(id), qint64(-1));
+            dialog->accept();
+        });
+        editor.findChild<QPushButton *>("pbPlanDialog")->click();
+        QVERIFY(library.seen());
+        QCOMPARE(editor.findChild<QComboBox *>("cbxPlan")->currentText(), QStringLiteral("EG neu (Index b)"));
+        kalPress(&editor, QDialogButtonBox::Ok);
+        QCOMPARE(KalPlans(m_fx.project()).planInfoIdOfDefect(id), plan);
+        QCOMPARE(m_fx.field("defect", id, "plan_id"), m_fx.field("plan_info", plan, "plan_id"));
     }
 
     void newStatusFromEditor_data()
