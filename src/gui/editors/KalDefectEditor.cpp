@@ -6,6 +6,7 @@
 #include "core/project/KalPrompt.h"
 #include "core/project/KalSqlTableModel.h"
 #include "gui/editors/KalCompanyDialog.h"
+#include "gui/plans/KalPlanEditor.h"
 #include "gui/textaids/KalCompleter.h"
 #include "gui/textaids/KalCompleterLineEdit.h"
 #include "gui/textaids/KalCompleterTextEdit.h"
@@ -502,7 +503,16 @@ void KalDefectEditor::slotPlanDialogButtonClicked()
 
 void KalDefectEditor::slotPlanEditorButtonClicked()
 {
-    // The plan editor is not part of the program yet (the button is disabled).
+    const qint64 plan = value(QStringLiteral("plan_info_id")).toLongLong();
+    if (plan <= 0) {
+        KalPrompt::information(tr("Marker bearbeiten"),
+                               tr("Diesem Mangel ist noch kein Plan zugeordnet.\nWählen Sie zuerst im Feld \"Plan\" "
+                                  "einen Plan aus."));
+        return;
+    }
+    // The markers stay pending in the models until this dialog's OK or Cancel.
+    KalPlanEditor editor(m_project, plan, m_defectId, this, KalPlanEditor::WriteModels);
+    editor.exec();
 }
 
 void KalDefectEditor::updatePhotoButton()

@@ -5,6 +5,7 @@
 #include "core/project/KalRecentFiles.h"
 #include "core/project/KalSqlTableModel.h"
 #include "gui/mainwindow/KalDefectTableLayout.h"
+#include "gui/plans/KalPlanEditor.h"
 #include "gui/plans/KalPlanPanel.h"
 #include "gui/widgets/KalItemDelegate.h"
 #include "gui/widgets/KalTableView.h"
@@ -633,11 +634,23 @@ void KalMainWindow::defectRowChanged(const QModelIndex &prevIndex, const QModelI
 
 void KalMainWindow::slotPlanPanelDoubleClicked()
 {
-    // The plan library and editor are not part of the program yet; say so
-    // instead of silently ignoring the double click the hint invites.
-    if (m_tvDefects->currentIndex().isValid())
-        KalPrompt::information(tr("Pläne"),
-                               tr("Die Zuordnung von Plänen ist in dieser Programmversion noch nicht verfügbar."));
+    KalSqlTableModel *model = defectModel();
+    const QModelIndex current = m_tvDefects->currentIndex();
+    if (!model || !current.isValid())
+        return;
+    auto field = [&](const char *name) {
+        return model->data(model->index(current.row(), model->fieldIndex(QLatin1String(name))), Qt::EditRole);
+    };
+    const qint64 plan = field("plan_info_id").toLongLong();
+    if (plan > 0) {
+        KalPlanEditor(m_project, plan, field("id").toLongLong(), this).exec();
+        m_planPanel->showDefect(true);
+        return;
+    }
+    // Assigning a plan needs the plan library, which is not part of the
+    // program yet; say so instead of ignoring the double click.
+    KalPrompt::information(tr("Pläne"),
+                           tr("Die Zuordnung von Plänen ist in dieser Programmversion noch nicht verfügbar."));
 }
 
 bool KalMainWindow::eventFilter(QObject *watched, QEvent *event)

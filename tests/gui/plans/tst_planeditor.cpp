@@ -5,10 +5,12 @@
 #include "core/plans/KalPlans.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
+#include "gui/editors/KalDefectEditor.h"
 #include "gui/plans/KalMarkerItem.h"
 #include "gui/plans/KalMarkerTextItem.h"
 #include "gui/plans/KalPlanEditor.h"
 #include "gui/plans/KalPlanGraphicsScene.h"
+#include "support/KalDialogAnswer.h"
 #include "support/KalScriptedPrompt.h"
 #include "support/KalTestProject.h"
 #include "support/KalWidgetTestMain.h"
@@ -46,7 +48,9 @@ private:
     void click(KalPlanEditor *e, const char *tool) { e->findChild<QToolButton *>(tool)->click(); }
     qint64 onlyId(const char *table)
     {
-        return m_project.value(QStringLiteral("SELECT id FROM %1 WHERE defect_id = :d").arg(QLatin1String(table)), {{"d", m_defect}})
+        return m_project
+            .value(QStringLiteral("SELECT id FROM %1 WHERE defect_id = :d").arg(QLatin1String(table)),
+                   {{"d", m_defect}})
             .toLongLong();
     }
     QList<KalMarkerItem *> markers(KalPlanEditor *e)
@@ -219,21 +223,34 @@ private slots:
     void defectEditorOwnsTheModels()
     {
         QFETCH(bool, defectEditorOk);
-        auto e = editor(KalPlanEditor::WriteModels);
-        e->addMarker(QPointF(100, 100));
-        e->accept();
+        KalSqlTableModel *defects = m_project.model("defect");
+        KalDefectEditor defectEditor(m_project.project(), defects->findRowById(m_defect));
+        defectEditor.show();
+        KalDialogAnswer<KalPlanEditor> answer([](KalPlanEditor *e) {
+            e->addMarker(QPointF(100, 100));
+            e->accept();
+        });
+        defectEditor.findChild<QPushButton *>("pbPlanEditor")->click();
+        QVERIFY(answer.seen());
         // Nothing reaches the file before the defect editor decides.
         QCOMPARE(m_project.count("marker"), 0);
         QCOMPARE(m_project.count("marker_text"), 0);
-        for (const char *table : {"marker", "marker_text"}) {
-            KalSqlTableModel *model = m_project.model(table);
-            if (defectEditorOk)
-                QVERIFY(model->submitWithNotification(true));
-            else
-                model->revertAll();
-        }
+        if (defectEditorOk)
+            defectEditor.findChild<QDialogButtonBox *>()->button(QDialogButtonBox::Ok)->click();
+        else
+            defectEditor.reject();
         QCOMPARE(m_project.count("marker"), defectEditorOk ? 1 : 0);
         QCOMPARE(m_project.count("marker_text"), defectEditorOk ? 1 : 0);
+    }
+
+    void defectEditorWithoutPlanAsksForOne()
+    {
+        QVERIFY(m_project.exec("UPDATE defect SET plan_info_id = -1"));
+        QVERIFY(m_project.reselect());
+        KalDefectEditor defectEditor(m_project.project(), m_project.model("defect")->findRowById(m_defect));
+        defectEditor.findChild<QPushButton *>("pbPlanEditor")->click();
+        QCOMPARE(m_prompt->titles(), QStringList{"Marker bearbeiten"});
+        QVERIFY(KalDialogAnswer<KalPlanEditor>::find() == nullptr);
     }
 
     void defectTextComesBackAfterDeletion()
