@@ -4,6 +4,7 @@
 
 #include "KalMarkerItem.h"
 #include "KalMarkerTextItem.h"
+#include "KalPlanGraphicsPicture.h"
 #include "KalPlanGraphicsScene.h"
 #include "core/photos/KalPictureStore.h"
 #include "core/plans/KalMarkerShapes.h"
@@ -12,7 +13,6 @@
 #include "core/project/KalPrompt.h"
 #include "core/project/KalSqlTableModel.h"
 
-#include <QGraphicsPixmapItem>
 #include <QSettings>
 #include <QSqlError>
 #include <QSqlQuery>
@@ -93,10 +93,8 @@ bool KalPlanEditor::loadPlan()
         return false;
     }
     m_planSize = picture.size();
-    // The one decoded copy becomes the pixmap (on the raster back end the
-    // buffer is taken over); zooming paints scaled views of it.
-    auto *background = new QGraphicsPixmapItem(QPixmap::fromImage(std::move(picture)));
-    background->setTransformationMode(Qt::SmoothTransformation);
+    // The one decoded copy; zooming paints reduced copies made from it.
+    auto *background = new KalPlanGraphicsPicture(std::move(picture));
     background->setZValue(-1);
     m_scene->addItem(background);
     m_scene->setSceneRect(QRectF(QPointF(0, 0), m_planSize));
