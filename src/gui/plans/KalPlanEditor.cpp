@@ -113,7 +113,6 @@ int KalPlanEditor::exec()
         s_fontsChecked = true;
         QTimer::singleShot(0, this, [] { KalFontCheck::warnAboutMissing(); });
     }
-    QTimer::singleShot(0, m_ui->gvPlan, &KalPlanGraphicsView::fitToWindow);
     return QDialog::exec();
 }
 

@@ -211,7 +211,7 @@ void KalPlanEditor::addDefectTextIfMissing()
     text->setPos(at);
     // Point sizes are small on a plan of thousands of pixels: texts grow
     // with the plan as markers do.
-    text->setScale(markerScaleFor(m_planSize) * 4);
+    text->setScale(markerScaleFor(m_planSize) * 8);
     pushAdd(text, tr("Mängeltext"));
 }
 
@@ -254,5 +254,11 @@ bool KalPlanEditor::writeRows()
     }
     if (m_saving == WriteModels)
         return true;
-    return markers->submitWithNotification(true) && texts->submitWithNotification(true);
+    if (markers->submitWithNotification(true) && texts->submitWithNotification(true))
+        return true;
+    // Nothing half-written stays pending; the items keep the user's work
+    // for another try.
+    markers->revertAll();
+    texts->revertAll();
+    return false;
 }

@@ -12,11 +12,20 @@ KalPlanGraphicsView::KalPlanGraphicsView(QWidget *parent)
     setTransformationAnchor(QGraphicsView::NoAnchor);
     setResizeAnchor(QGraphicsView::NoAnchor);
     setViewportUpdateMode(QGraphicsView::SmartViewportUpdate);
+    connect(m_zoom, &KalGraphicsViewZoom::zoomed, this, [this] { m_fitted = false; });
 }
 
 void KalPlanGraphicsView::fitToWindow()
 {
     m_zoom->fitToWindow();
+    m_fitted = true;
+}
+
+void KalPlanGraphicsView::resizeEvent(QResizeEvent *event)
+{
+    QGraphicsView::resizeEvent(event);
+    if (m_fitted)
+        fitToWindow();
 }
 
 void KalPlanGraphicsView::keyPressEvent(QKeyEvent *event)

@@ -15,6 +15,8 @@ public:
     explicit KalPlanGraphicsView(QWidget *parent = nullptr);
 
     KalGraphicsViewZoom *zoom() const { return m_zoom; }
+    // Shows the whole plan and keeps doing so when the window changes size,
+    // until the next zoom.
     void fitToWindow();
 
 signals:
@@ -24,7 +26,9 @@ signals:
 protected:
     void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
     KalGraphicsViewZoom *m_zoom;
+    bool m_fitted = true;
 };
