@@ -5,6 +5,37 @@
 
 #include <QPainter>
 
+namespace {
+
+// The shapes of each type, built once: scenes ask for bounds and shapes of
+// thousands of markers on every paint.
+struct TypeShapes
+{
+    KalMarkerPaths paths;
+    QRectF bounds;
+    QPainterPath outline;
+};
+
+const TypeShapes &shapesOf(int markerType)
+{
+    static TypeShapes shapes[5];
+    static bool built[5] = {};
+    const int index = KalMarkerShapes::isKnownType(markerType) ? markerType : 0;
+    if (!built[index]) {
+        TypeShapes &s = shapes[index];
+        s.paths = KalMarkerShapes::paths(markerType);
+        s.bounds =
+            s.paths.body.boundingRect().united(s.paths.status.boundingRect()).united(s.paths.cross.boundingRect());
+        s.outline = s.paths.body;
+        s.outline.addPath(s.paths.status);
+        s.outline.setFillRule(Qt::WindingFill);
+        built[index] = true;
+    }
+    return shapes[index];
+}
+
+} // namespace
+
 KalMarkerItem::KalMarkerItem(int markerType, QGraphicsItem *parent)
     : QGraphicsItem(parent)
     , m_markerType(KalMarkerShapes::isKnownType(markerType) ? markerType : 1)
@@ -14,7 +45,7 @@ KalMarkerItem::KalMarkerItem(int markerType, QGraphicsItem *parent)
 
 QPointF KalMarkerItem::anchor(int markerType)
 {
-    const KalMarkerPaths paths = KalMarkerShapes::paths(markerType);
+    const KalMarkerPaths &paths = shapesOf(markerType).paths;
     if (markerType == 4)
         return paths.body.boundingRect().center();
     // Only end points lie on the outline; the control points of a curve may not.
@@ -72,21 +103,13 @@ void KalMarkerItem::setHighlighted(bool on)
 
 QRectF KalMarkerItem::boundingRect() const
 {
-    const KalMarkerPaths paths = KalMarkerShapes::paths(m_markerType);
     const double margin = m_lineWidth / 2 + 20;
-    return paths.body.boundingRect()
-        .united(paths.status.boundingRect())
-        .united(paths.cross.boundingRect())
-        .adjusted(-margin, -margin, margin, margin);
+    return shapesOf(m_markerType).bounds.adjusted(-margin, -margin, margin, margin);
 }
 
 QPainterPath KalMarkerItem::shape() const
 {
-    const KalMarkerPaths paths = KalMarkerShapes::paths(m_markerType);
-    QPainterPath all = paths.body;
-    all.addPath(paths.status);
-    all.setFillRule(Qt::WindingFill);
-    return all;
+    return shapesOf(m_markerType).outline;
 }
 
 void KalMarkerItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *)
@@ -103,7 +126,7 @@ void KalMarkerItem::paint(QPainter *painter, const QStyleOptionGraphicsItem *, Q
     KalMarkerShapes::paintMarker(*painter, row, options);
     painter->restore();
     if (isSelected()) {
-        const KalMarkerPaths paths = KalMarkerShapes::paths(m_markerType);
+        const KalMarkerPaths &paths = shapesOf(m_markerType).paths;
         KalGraphicsTextItem::paintHandles(painter, paths.body.boundingRect().united(paths.status.boundingRect()));
     }
 }
