@@ -1109,6 +1109,12 @@ Do you really want to replace the plan?</translation>
         <source>Plan auswählen</source>
         <translation>Select plan</translation>
     </message>
+    <message>
+        <source>Diesem Mangel ist noch kein Plan zugeordnet.
+Wählen Sie zuerst im Feld &quot;Plan&quot; einen Plan aus.</source>
+        <translation>No plan has been assigned to this defect yet.
+First choose a plan in the &quot;Plan&quot; field.</translation>
+    </message>
 </context>
 <context>
     <name>KalDefectFilter</name>
@@ -2312,6 +2318,187 @@ Do you really want to delete these photos?</translation>
     </message>
 </context>
 <context>
+    <name>KalPlanEditor</name>
+    <message>
+        <source>Planeditor</source>
+        <translation>Plan editor</translation>
+    </message>
+    <message>
+        <source>Marker 1 (Stecknadel)</source>
+        <translation>Marker 1 (pin)</translation>
+    </message>
+    <message>
+        <source>Marker 2 (Nadel)</source>
+        <translation>Marker 2 (needle)</translation>
+    </message>
+    <message>
+        <source>Marker 3 (Fahne)</source>
+        <translation>Marker 3 (flag)</translation>
+    </message>
+    <message>
+        <source>Marker 4 (Zielscheibe)</source>
+        <translation>Marker 4 (target)</translation>
+    </message>
+    <message>
+        <source>Selektierte Objekte nach links drehen</source>
+        <translation>Rotate selected objects to the left</translation>
+    </message>
+    <message>
+        <source>Selektierte Objekte nach rechts drehen</source>
+        <translation>Rotate selected objects to the right</translation>
+    </message>
+    <message>
+        <source>Selektierte Objekte vergrößern</source>
+        <translation>Enlarge selected objects</translation>
+    </message>
+    <message>
+        <source>Selektierte Objekte verkleinern</source>
+        <translation>Shrink selected objects</translation>
+    </message>
+    <message>
+        <source>Farbe ändern</source>
+        <translation>Change colour</translation>
+    </message>
+    <message>
+        <source>F</source>
+        <translation>B</translation>
+    </message>
+    <message>
+        <source>Text fett</source>
+        <translation>Bold text</translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation>I</translation>
+    </message>
+    <message>
+        <source>Text kursiv</source>
+        <translation>Italic text</translation>
+    </message>
+    <message>
+        <source>U</source>
+        <translation>U</translation>
+    </message>
+    <message>
+        <source>Text unterstrichen</source>
+        <translation>Underlined text</translation>
+    </message>
+    <message>
+        <source>An Fenstergröße anpassen</source>
+        <translation>Fit to window</translation>
+    </message>
+    <message>
+        <source>Doppelklick auf den Plan: Marker setzen. Doppelklick auf einen Text: Text bearbeiten. Strg+Mausrad: zoomen.</source>
+        <translation>Double-click on the plan: place a marker. Double-click on a text: edit the text. Ctrl+mouse wheel: zoom.</translation>
+    </message>
+    <message>
+        <source>Verschieben</source>
+        <translation>Move</translation>
+    </message>
+    <message>
+        <source>Rückgängig</source>
+        <translation>Undo</translation>
+    </message>
+    <message>
+        <source>Wiederherstellen</source>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>Marker setzen</source>
+        <translation>Place marker</translation>
+    </message>
+    <message>
+        <source>Sie haben kein Objekt ausgewählt.
+Sie wählen ein Objekt aus, indem Sie es anklicken.
+Sie wählen mehrere Objekte aus, indem Sie sie bei gedrückter Strg-Taste anklicken.
+</source>
+        <translation>You have not selected an object.
+You select an object by clicking on it.
+You select several objects by clicking on them while holding down the Ctrl key.
+</translation>
+    </message>
+    <message>
+        <source>Objekte drehen</source>
+        <translation>Rotate objects</translation>
+    </message>
+    <message>
+        <source>Objekt vergrößern</source>
+        <translation>Enlarge object</translation>
+    </message>
+    <message>
+        <source>Objekt verkleinern</source>
+        <translation>Shrink object</translation>
+    </message>
+    <message>
+        <source>Objektfarbe wählen</source>
+        <translation>Choose object colour</translation>
+    </message>
+    <message>
+        <source>Marker austauschen</source>
+        <translation>Exchange markers</translation>
+    </message>
+    <message>
+        <source>Sie haben keinen Marker ausgewählt.
+Sie wählen einen Marker aus, indem Sie ihn anklicken.
+Sie wählen mehrere Marker aus, indem Sie sie bei gedrückter Strg-Taste anklicken.
+</source>
+        <translation>You have not selected a marker.
+You select a marker by clicking on it.
+You select several markers by clicking on them while holding down the Ctrl key.
+</translation>
+    </message>
+    <message>
+        <source>Sie haben mehrere Marker ausgewählt.
+Sollen diese Marker wirklich alle ausgetauscht werden?</source>
+        <translation>You have selected several markers.
+Do you really want to exchange all of these markers?</translation>
+    </message>
+    <message>
+        <source>Marker/Texte löschen</source>
+        <translation>Delete markers/texts</translation>
+    </message>
+    <message>
+        <source>Sollen die selektierten Elemente wirklich gelöscht werden?</source>
+        <translation>Do you really want to delete the selected elements?</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Text bearbeiten</source>
+        <translation>Edit text</translation>
+    </message>
+    <message>
+        <source>Text formatieren</source>
+        <translation>Format text</translation>
+    </message>
+    <message>
+        <source>Die Marker und Texte konnten nicht gespeichert werden.</source>
+        <translation>The markers and texts could not be saved.</translation>
+    </message>
+    <message>
+        <source>Änderungen verwerfen</source>
+        <translation>Discard changes</translation>
+    </message>
+    <message>
+        <source>Sollen die Änderungen verworfen werden?</source>
+        <translation>Do you want to discard the changes?</translation>
+    </message>
+    <message>
+        <source>Der Plan %1 existiert nicht.</source>
+        <translation>The plan %1 does not exist.</translation>
+    </message>
+    <message>
+        <source>Der Plan kann nicht angezeigt werden.</source>
+        <translation>The plan cannot be shown.</translation>
+    </message>
+    <message>
+        <source>Mängeltext</source>
+        <translation>Defect text</translation>
+    </message>
+</context>
+<context>
     <name>KalPlanInfoDialog</name>
     <message>
         <source>Pläne</source>
@@ -2504,6 +2691,52 @@ Double-click: assign a plan or locate the defect on the plan.</translation>
     <message>
         <source>Der PDF-Konverter hat keine Seite geschrieben.</source>
         <translation>The PDF converter wrote no page.</translation>
+    </message>
+</context>
+<context>
+    <name>KalPlanReference</name>
+    <message>
+        <source>Wählen Sie auf dem alten und dem neuen Plan je zwei oder je drei Referenzpunkte.</source>
+        <translation>Choose two or three reference points on both the old and the new plan.</translation>
+    </message>
+    <message>
+        <source>Zwei Referenzpunkte liegen aufeinander. Wählen Sie weiter auseinanderliegende Punkte.</source>
+        <translation>Two reference points lie on top of each other. Choose points further apart.</translation>
+    </message>
+    <message>
+        <source>Die drei Referenzpunkte liegen auf einer Linie. Wählen Sie Punkte, die ein Dreieck bilden.</source>
+        <translation>The three reference points lie on one line. Choose points that form a triangle.</translation>
+    </message>
+</context>
+<context>
+    <name>KalPlanReferenceDialog</name>
+    <message>
+        <source>Neue Planversion mit Referenzpunkten laden</source>
+        <translation>Load new plan version with reference points</translation>
+    </message>
+    <message>
+        <source>Klicken Sie nacheinander auf zwei oder drei markante Punkte im alten Plan (links) und auf dieselben Punkte in derselben Reihenfolge im neuen Plan (rechts). Zwei Punktpaare verschieben, drehen und skalieren die Marker, drei Punktpaare gleichen auch Verzerrungen aus. Strg+Mausrad zoomt.</source>
+        <translation>Click on two or three distinctive points of the old plan (left), one after another, and on the same points in the same order on the new plan (right). Two pairs of points move, rotate and scale the markers; three pairs also even out distortions. Ctrl+mouse wheel zooms.</translation>
+    </message>
+    <message>
+        <source>Punkte zurücksetzen</source>
+        <translation>Reset points</translation>
+    </message>
+    <message>
+        <source>Plan auswählen</source>
+        <translation>Select plan</translation>
+    </message>
+    <message>
+        <source>Pläne (*.pdf *.png *.jpg  *.jpeg *.bmp *.gif *.tif *.tiff)</source>
+        <translation>Plans (*.pdf *.png *.jpg  *.jpeg *.bmp *.gif *.tif *.tiff)</translation>
+    </message>
+    <message>
+        <source>Die Vorschau zeigt die Marker an ihrer neuen Stelle. OK speichert den neuen Plan und die Marker.</source>
+        <translation>The preview shows the markers at their new place. OK saves the new plan and the markers.</translation>
+    </message>
+    <message>
+        <source>Punkte im alten Plan: %1, im neuen Plan: %2.</source>
+        <translation>Points on the old plan: %1, on the new plan: %2.</translation>
     </message>
 </context>
 <context>

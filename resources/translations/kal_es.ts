@@ -1109,6 +1109,12 @@ Soll der Plan tatsächlich ausgetauscht werden?</source>
         <source>Plan auswählen</source>
         <translation>Seleccionar plano</translation>
     </message>
+    <message>
+        <source>Diesem Mangel ist noch kein Plan zugeordnet.
+Wählen Sie zuerst im Feld &quot;Plan&quot; einen Plan aus.</source>
+        <translation>Este defecto aún no tiene ningún plano asignado.
+Elija primero un plano en el campo &quot;Plano&quot;.</translation>
+    </message>
 </context>
 <context>
     <name>KalDefectFilter</name>
@@ -2312,6 +2318,187 @@ Sollen diese Foto tatsächlich gelöscht werden?</source>
     </message>
 </context>
 <context>
+    <name>KalPlanEditor</name>
+    <message>
+        <source>Planeditor</source>
+        <translation>Editor de planos</translation>
+    </message>
+    <message>
+        <source>Marker 1 (Stecknadel)</source>
+        <translation>Marcador 1 (chincheta)</translation>
+    </message>
+    <message>
+        <source>Marker 2 (Nadel)</source>
+        <translation>Marcador 2 (aguja)</translation>
+    </message>
+    <message>
+        <source>Marker 3 (Fahne)</source>
+        <translation>Marcador 3 (bandera)</translation>
+    </message>
+    <message>
+        <source>Marker 4 (Zielscheibe)</source>
+        <translation>Marcador 4 (diana)</translation>
+    </message>
+    <message>
+        <source>Selektierte Objekte nach links drehen</source>
+        <translation>Girar los objetos seleccionados a la izquierda</translation>
+    </message>
+    <message>
+        <source>Selektierte Objekte nach rechts drehen</source>
+        <translation>Girar los objetos seleccionados a la derecha</translation>
+    </message>
+    <message>
+        <source>Selektierte Objekte vergrößern</source>
+        <translation>Ampliar los objetos seleccionados</translation>
+    </message>
+    <message>
+        <source>Selektierte Objekte verkleinern</source>
+        <translation>Reducir los objetos seleccionados</translation>
+    </message>
+    <message>
+        <source>Farbe ändern</source>
+        <translation>Cambiar color</translation>
+    </message>
+    <message>
+        <source>F</source>
+        <translation>N</translation>
+    </message>
+    <message>
+        <source>Text fett</source>
+        <translation>Texto en negrita</translation>
+    </message>
+    <message>
+        <source>K</source>
+        <translation>C</translation>
+    </message>
+    <message>
+        <source>Text kursiv</source>
+        <translation>Texto en cursiva</translation>
+    </message>
+    <message>
+        <source>U</source>
+        <translation>S</translation>
+    </message>
+    <message>
+        <source>Text unterstrichen</source>
+        <translation>Texto subrayado</translation>
+    </message>
+    <message>
+        <source>An Fenstergröße anpassen</source>
+        <translation>Ajustar a la ventana</translation>
+    </message>
+    <message>
+        <source>Doppelklick auf den Plan: Marker setzen. Doppelklick auf einen Text: Text bearbeiten. Strg+Mausrad: zoomen.</source>
+        <translation>Doble clic en el plano: colocar un marcador. Doble clic en un texto: editar el texto. Ctrl+rueda del ratón: zoom.</translation>
+    </message>
+    <message>
+        <source>Verschieben</source>
+        <translation>Mover</translation>
+    </message>
+    <message>
+        <source>Rückgängig</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Wiederherstellen</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Marker setzen</source>
+        <translation>Colocar marcador</translation>
+    </message>
+    <message>
+        <source>Sie haben kein Objekt ausgewählt.
+Sie wählen ein Objekt aus, indem Sie es anklicken.
+Sie wählen mehrere Objekte aus, indem Sie sie bei gedrückter Strg-Taste anklicken.
+</source>
+        <translation>No ha seleccionado ningún objeto.
+Seleccione un objeto haciendo clic en él.
+Seleccione varios objetos haciendo clic en ellos mientras mantiene pulsada la tecla Ctrl.
+</translation>
+    </message>
+    <message>
+        <source>Objekte drehen</source>
+        <translation>Girar objetos</translation>
+    </message>
+    <message>
+        <source>Objekt vergrößern</source>
+        <translation>Ampliar objeto</translation>
+    </message>
+    <message>
+        <source>Objekt verkleinern</source>
+        <translation>Reducir objeto</translation>
+    </message>
+    <message>
+        <source>Objektfarbe wählen</source>
+        <translation>Elegir el color del objeto</translation>
+    </message>
+    <message>
+        <source>Marker austauschen</source>
+        <translation>Cambiar marcadores</translation>
+    </message>
+    <message>
+        <source>Sie haben keinen Marker ausgewählt.
+Sie wählen einen Marker aus, indem Sie ihn anklicken.
+Sie wählen mehrere Marker aus, indem Sie sie bei gedrückter Strg-Taste anklicken.
+</source>
+        <translation>No ha seleccionado ningún marcador.
+Seleccione un marcador haciendo clic en él.
+Seleccione varios marcadores haciendo clic en ellos mientras mantiene pulsada la tecla Ctrl.
+</translation>
+    </message>
+    <message>
+        <source>Sie haben mehrere Marker ausgewählt.
+Sollen diese Marker wirklich alle ausgetauscht werden?</source>
+        <translation>Ha seleccionado varios marcadores.
+¿Desea realmente cambiar todos estos marcadores?</translation>
+    </message>
+    <message>
+        <source>Marker/Texte löschen</source>
+        <translation>Eliminar marcadores/textos</translation>
+    </message>
+    <message>
+        <source>Sollen die selektierten Elemente wirklich gelöscht werden?</source>
+        <translation>¿Desea realmente eliminar los elementos seleccionados?</translation>
+    </message>
+    <message>
+        <source>Löschen</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Text bearbeiten</source>
+        <translation>Editar texto</translation>
+    </message>
+    <message>
+        <source>Text formatieren</source>
+        <translation>Dar formato al texto</translation>
+    </message>
+    <message>
+        <source>Die Marker und Texte konnten nicht gespeichert werden.</source>
+        <translation>No se pudieron guardar los marcadores y textos.</translation>
+    </message>
+    <message>
+        <source>Änderungen verwerfen</source>
+        <translation>Descartar cambios</translation>
+    </message>
+    <message>
+        <source>Sollen die Änderungen verworfen werden?</source>
+        <translation>¿Desea descartar los cambios?</translation>
+    </message>
+    <message>
+        <source>Der Plan %1 existiert nicht.</source>
+        <translation>El plano %1 no existe.</translation>
+    </message>
+    <message>
+        <source>Der Plan kann nicht angezeigt werden.</source>
+        <translation>No se puede mostrar el plano.</translation>
+    </message>
+    <message>
+        <source>Mängeltext</source>
+        <translation>Texto del defecto</translation>
+    </message>
+</context>
+<context>
     <name>KalPlanInfoDialog</name>
     <message>
         <source>Pläne</source>
@@ -2504,6 +2691,52 @@ Doble clic: asignar un plano o ubicar el defecto en el plano.</translation>
     <message>
         <source>Der PDF-Konverter hat keine Seite geschrieben.</source>
         <translation>El convertidor de PDF no escribió ninguna página.</translation>
+    </message>
+</context>
+<context>
+    <name>KalPlanReference</name>
+    <message>
+        <source>Wählen Sie auf dem alten und dem neuen Plan je zwei oder je drei Referenzpunkte.</source>
+        <translation>Elija dos o tres puntos de referencia en el plano antiguo y en el nuevo.</translation>
+    </message>
+    <message>
+        <source>Zwei Referenzpunkte liegen aufeinander. Wählen Sie weiter auseinanderliegende Punkte.</source>
+        <translation>Dos puntos de referencia coinciden. Elija puntos más separados.</translation>
+    </message>
+    <message>
+        <source>Die drei Referenzpunkte liegen auf einer Linie. Wählen Sie Punkte, die ein Dreieck bilden.</source>
+        <translation>Los tres puntos de referencia están en una línea. Elija puntos que formen un triángulo.</translation>
+    </message>
+</context>
+<context>
+    <name>KalPlanReferenceDialog</name>
+    <message>
+        <source>Neue Planversion mit Referenzpunkten laden</source>
+        <translation>Cargar una nueva versión del plano con puntos de referencia</translation>
+    </message>
+    <message>
+        <source>Klicken Sie nacheinander auf zwei oder drei markante Punkte im alten Plan (links) und auf dieselben Punkte in derselben Reihenfolge im neuen Plan (rechts). Zwei Punktpaare verschieben, drehen und skalieren die Marker, drei Punktpaare gleichen auch Verzerrungen aus. Strg+Mausrad zoomt.</source>
+        <translation>Haga clic sucesivamente en dos o tres puntos característicos del plano antiguo (izquierda) y en los mismos puntos, en el mismo orden, en el plano nuevo (derecha). Dos pares de puntos desplazan, giran y escalan los marcadores; tres pares compensan también las distorsiones. Ctrl+rueda del ratón: zoom.</translation>
+    </message>
+    <message>
+        <source>Punkte zurücksetzen</source>
+        <translation>Restablecer puntos</translation>
+    </message>
+    <message>
+        <source>Plan auswählen</source>
+        <translation>Seleccionar plano</translation>
+    </message>
+    <message>
+        <source>Pläne (*.pdf *.png *.jpg  *.jpeg *.bmp *.gif *.tif *.tiff)</source>
+        <translation>Planos (*.pdf *.png *.jpg  *.jpeg *.bmp *.gif *.tif *.tiff)</translation>
+    </message>
+    <message>
+        <source>Die Vorschau zeigt die Marker an ihrer neuen Stelle. OK speichert den neuen Plan und die Marker.</source>
+        <translation>La vista previa muestra los marcadores en su nueva posición. Aceptar guarda el plano nuevo y los marcadores.</translation>
+    </message>
+    <message>
+        <source>Punkte im alten Plan: %1, im neuen Plan: %2.</source>
+        <translation>Puntos en el plano antiguo: %1, en el plano nuevo: %2.</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,7 @@
 #include "KalPlans.h"
 
 #include "core/plans/KalPlanRasteriser.h"
+#include "core/plans/KalPlanReference.h"
 #include "core/plans/KalPlanTransform.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
@@ -232,7 +233,25 @@ bool KalPlans::newVersion(qint64 planInfoId, const QString &file)
     return true;
 }
 
-bool KalPlans::writeNewVersion(qint64 planInfoId, const KalStoredPicture &picture, const QDate &date, QString *error)
+bool KalPlans::loadVersion(const QString &file, Version *version)
+{
+    return preparePicture(file, &version->picture, &version->date) == Ready;
+}
+
+bool KalPlans::storeVersion(qint64 planInfoId, const Version &version, const QTransform &mapping)
+{
+    QString error;
+    if (!writeNewVersion(planInfoId, version.picture, version.date, &error, &mapping)) {
+        showFailure(tr("Fehler Plan Import"), tr("Die neue Planversion konnte nicht gespeichert werden."), error);
+        return false;
+    }
+    m_project->markModified();
+    reselectModels();
+    return true;
+}
+
+bool KalPlans::writeNewVersion(qint64 planInfoId, const KalStoredPicture &picture, const QDate &date, QString *error,
+                               const QTransform *mapping)
 {
     QSqlDatabase db = m_project->database();
     QSqlQuery old(db);
@@ -266,7 +285,10 @@ bool KalPlans::writeNewVersion(qint64 planInfoId, const KalStoredPicture &pictur
         query.bindValue(QStringLiteral(":id"), planInfoId);
         ok = exec(query, error);
     }
-    ok = ok && KalPlanTransform::rescaleRows(db, planInfoId, rx, ry, error);
+    if (mapping)
+        ok = ok && KalPlanReference::mapRows(db, planInfoId, *mapping, error);
+    else
+        ok = ok && KalPlanTransform::rescaleRows(db, planInfoId, rx, ry, error);
     if (!ok || !m_project->commitTransaction()) {
         if (ok)
             *error = db.lastError().text();

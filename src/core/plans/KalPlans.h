@@ -7,6 +7,7 @@
 #include <QList>
 #include <QSqlDatabase>
 #include <QStringList>
+#include <QTransform>
 
 class KalProject;
 
@@ -39,6 +40,21 @@ public:
     // and moves its markers and texts to the new size. False after the
     // failure was shown; nothing changed then.
     bool newVersion(qint64 planInfoId, const QString &file);
+    // A new version whose drawing moved on the sheet, in two steps: the
+    // picture is prepared (converted, fitted, not stored) so that the user can
+    // point at reference spots on it; storing it then moves the markers and
+    // texts by `mapping` (old plan pixels to the prepared picture's pixels).
+    struct Version
+    {
+        KalStoredPicture picture;
+        QDate date;
+    };
+    // False after the failure was shown, or when canceled.
+    bool loadVersion(const QString &file, Version *version);
+    // Picture, date and moved rows in one transaction; false after the
+    // failure was shown, nothing changed then.
+    bool storeVersion(qint64 planInfoId, const Version &version, const QTransform &mapping);
+
     // The question after a new version; true: open the plan editor.
     static bool askOpenEditor();
 
@@ -75,7 +91,9 @@ private:
     Prepared preparePicture(const QString &file, KalStoredPicture *picture, QDate *date);
     bool writeNewSheet(const KalStoredPicture &picture, const QString &name, const QDate &date, qint64 *planInfoId,
                        QString *error);
-    bool writeNewVersion(qint64 planInfoId, const KalStoredPicture &picture, const QDate &date, QString *error);
+    // Without `mapping` the rows follow the change of size.
+    bool writeNewVersion(qint64 planInfoId, const KalStoredPicture &picture, const QDate &date, QString *error,
+                         const QTransform *mapping = nullptr);
     void reselectModels();
 
     KalProject *m_project;

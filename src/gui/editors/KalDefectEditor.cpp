@@ -10,6 +10,7 @@
 #include "core/project/KalSqlTableModel.h"
 #include "gui/editors/KalCompanyDialog.h"
 #include "gui/photos/KalPhotoInfoDialog.h"
+#include "gui/plans/KalPlanEditor.h"
 #include "gui/plans/KalPlanInfoDialog.h"
 #include "gui/textaids/KalCompleter.h"
 #include "gui/textaids/KalCompleterLineEdit.h"
@@ -525,6 +526,10 @@ void KalDefectEditor::slotPlanDialogButtonClicked()
         target.currentPlanInfoId = [this] { return value(QStringLiteral("plan_info_id")).toLongLong(); };
         target.assign = [this](qint64 planInfoId, qint64 planId) { assignPlan(planInfoId, planId); };
         dialog.setAssignTarget(target);
+        // Everything done from here is kept or dropped with this dialog.
+        connect(&dialog, &KalPlanInfoDialog::planEditorRequested, this, [this](qint64 planInfoId, qint64 defectId) {
+            KalPlanEditor(m_project, planInfoId, defectId, this, KalPlanEditor::WriteModels).exec();
+        });
         dialog.exec();
     }
     // A sheet removed in the library no longer locates this defect.
@@ -556,7 +561,17 @@ void KalDefectEditor::importNewPlan()
 
 void KalDefectEditor::slotPlanEditorButtonClicked()
 {
-    // The plan editor is not part of the program yet (the button is disabled).
+    qint64 plan = value(QStringLiteral("plan_info_id")).toLongLong();
+    if (plan <= 0) {
+        // Markers need a plan: let the user assign one first.
+        slotPlanDialogButtonClicked();
+        plan = value(QStringLiteral("plan_info_id")).toLongLong();
+        if (plan <= 0)
+            return;
+    }
+    // The markers stay pending in the models until this dialog's OK or Cancel.
+    KalPlanEditor editor(m_project, plan, m_defectId, this, KalPlanEditor::WriteModels);
+    editor.exec();
 }
 
 void KalDefectEditor::updatePhotoButton()

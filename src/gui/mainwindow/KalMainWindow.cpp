@@ -371,6 +371,7 @@ void KalMainWindow::createCentralWidget()
 
     m_planPanel = new KalPlanPanel(m_splitter);
     connect(m_planPanel, &KalPlanPanel::planDoubleClicked, this, &KalMainWindow::slotPlanPanelDoubleClicked);
+    connect(m_planPanel, &KalPlanPanel::shownPlanDoubleClicked, this, &KalMainWindow::slotShownPlanDoubleClicked);
 
     m_splitter->addWidget(tablePane);
     m_splitter->addWidget(m_planPanel);

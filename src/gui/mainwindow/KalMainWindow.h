@@ -85,6 +85,7 @@ public:
     qint64 currentDefectId() const;
     // The plan library, with the current defect to locate.
     void openPlanLibrary();
+    void openPlanEditor(qint64 planInfoId, qint64 defectId);
 
     // Records the site-journal file this project belongs to ("meta") and
     // saves it with the project.
@@ -137,6 +138,7 @@ private slots:
     void slotRestoreSelectionAfterSorting(int logicalIndex);
     void slotDefectModelAboutToReset();
     void slotPlanPanelDoubleClicked();
+    void slotShownPlanDoubleClicked(qint64 planInfoId);
     void slotEditPlanTable();
     void slotSettingsPlanSize();
     void slotStandardMarker();

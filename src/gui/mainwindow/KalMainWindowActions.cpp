@@ -17,6 +17,7 @@
 #include "gui/mainwindow/KalShortHelpDialog.h"
 #include "gui/photos/KalPhotoInfoDialog.h"
 #include "gui/photos/KalSettingsImageSizeDialog.h"
+#include "gui/plans/KalPlanEditor.h"
 #include "gui/plans/KalPlanInfoDialog.h"
 #include "gui/plans/KalPlanPanel.h"
 #include "gui/plans/KalStandardMarkerDialog.h"
@@ -352,6 +353,8 @@ void KalMainWindow::openPlanLibrary()
         return;
     {
         KalPlanInfoDialog dialog(m_project, currentDefectId(), this);
+        connect(&dialog, &KalPlanInfoDialog::planEditorRequested, this,
+                [this](qint64 planInfoId, qint64 defectId) { openPlanEditor(planInfoId, defectId); });
         dialog.exec();
     }
     // Removing a plan clears defects' references in the file, and an
@@ -371,6 +374,17 @@ void KalMainWindow::slotPlanPanelDoubleClicked()
     // The hint invites a double click to give the defect a plan.
     if (currentDefectId() >= 0)
         openPlanLibrary();
+}
+
+void KalMainWindow::slotShownPlanDoubleClicked(qint64 planInfoId)
+{
+    openPlanEditor(planInfoId, currentDefectId());
+}
+
+void KalMainWindow::openPlanEditor(qint64 planInfoId, qint64 defectId)
+{
+    KalPlanEditor(m_project, planInfoId, defectId, this).exec();
+    m_planPanel->refresh();
 }
 
 void KalMainWindow::slotSettingsPlanSize()

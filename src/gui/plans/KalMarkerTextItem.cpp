@@ -1,0 +1,7 @@
+#include "KalMarkerTextItem.h"
+
+KalMarkerTextItem::KalMarkerTextItem(QGraphicsItem *parent)
+    : KalGraphicsTextItem(parent)
+{
+    setTextInteractionFlags(Qt::NoTextInteraction);
+}

@@ -1,0 +1,429 @@
+#include "KalPlanEditor.h"
+#include "ui_KalPlanEditor.h"
+
+#include "KalMarkerItem.h"
+#include "KalMarkerTextItem.h"
+#include "KalPlanGraphicsScene.h"
+#include "core/plans/KalFontCheck.h"
+#include "core/plans/KalMarkerShapes.h"
+#include "core/project/KalProject.h"
+#include "core/project/KalPrompt.h"
+
+#include <QAction>
+#include <QIcon>
+#include <QPushButton>
+#include <QSettings>
+#include <QTextDocument>
+#include <QTimer>
+
+namespace {
+
+const char *const kGeometryKey = "PlanEditor/Geometry";
+// Whether the fonts were checked in this run already.
+bool s_fontsChecked = false;
+
+} // namespace
+
+KalPlanEditor::KalPlanEditor(KalProject *project, qint64 planInfoId, qint64 defectId, QWidget *parent, Saving saving)
+    : QDialog(parent)
+    , m_ui(std::make_unique<Ui::KalPlanEditor>())
+    , m_project(project)
+    , m_planInfoId(planInfoId)
+    , m_defectId(defectId)
+    , m_saving(saving)
+    , m_scene(new KalPlanGraphicsScene(this))
+{
+    m_ui->setupUi(this);
+    setWindowFlags(windowFlags() | Qt::WindowMaximizeButtonHint);
+    restoreGeometry(QSettings().value(QLatin1String(kGeometryKey)).toByteArray());
+    m_ui->gvPlan->setScene(m_scene);
+
+    struct Tool
+    {
+        QToolButton *button;
+        void (KalPlanEditor::*slot)();
+    };
+    const Tool tools[] = {
+        {m_ui->tbMarker1, &KalPlanEditor::slotMarker1Clicked},
+        {m_ui->tbMarker2, &KalPlanEditor::slotMarker2Clicked},
+        {m_ui->tbMarker3, &KalPlanEditor::slotMarker3Clicked},
+        {m_ui->tbMarker4, &KalPlanEditor::slotMarker4Clicked},
+        {m_ui->tbRotateLeft, &KalPlanEditor::slotRotateLeft},
+        {m_ui->tbRotateRight, &KalPlanEditor::slotRotateRight},
+        {m_ui->tbUpscale, &KalPlanEditor::slotUpscale},
+        {m_ui->tbDownscale, &KalPlanEditor::slotDownscale},
+        {m_ui->tbColor, &KalPlanEditor::slotColor},
+    };
+    for (const Tool &tool : tools)
+        connect(tool.button, &QToolButton::clicked, this, tool.slot);
+    int type = 1;
+    for (QToolButton *button : {m_ui->tbMarker1, m_ui->tbMarker2, m_ui->tbMarker3, m_ui->tbMarker4})
+        button->setIcon(QIcon(QStringLiteral(":/KalMainWindow/Resources/icon-marker-%1.png").arg(type++)));
+    connect(m_ui->tbTextBold, &QToolButton::clicked, this, &KalPlanEditor::slotTextBold);
+    connect(m_ui->tbTextItalic, &QToolButton::clicked, this, &KalPlanEditor::slotTextItalic);
+    connect(m_ui->tbTextUnderline, &QToolButton::clicked, this, &KalPlanEditor::slotTextUnderline);
+    connect(m_ui->tbFitToWindow, &QToolButton::clicked, m_ui->gvPlan, &KalPlanGraphicsView::fitToWindow);
+    connect(m_ui->gvPlan, &KalPlanGraphicsView::deleteRequested, this, &KalPlanEditor::slotDeleteSelected);
+    connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &KalPlanEditor::accept);
+    connect(m_ui->buttonBox, &QDialogButtonBox::rejected, this, &KalPlanEditor::reject);
+    connect(m_scene, &KalPlanGraphicsScene::markerRequested, this, &KalPlanEditor::addMarker);
+    connect(m_scene, &KalPlanGraphicsScene::textEditRequested, this, &KalPlanEditor::slotTextEditRequested);
+    connect(m_scene, &KalPlanGraphicsScene::objectsMoved, this,
+            [this](const QList<QGraphicsItem *> &items, const QList<KalItemPlacement> &before,
+                   const QList<KalItemPlacement> &after) {
+                m_undo.push(KalPhotoEditorChangeCommand::placement(items, before, after, tr("Verschieben")));
+            });
+    connect(m_scene, &QGraphicsScene::selectionChanged, this, &KalPlanEditor::slotSelectionChanged);
+
+    QAction *undo = m_undo.createUndoAction(this, tr("Rückgängig"));
+    undo->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Z));
+    QAction *redo = m_undo.createRedoAction(this, tr("Wiederherstellen"));
+    redo->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
+    addActions({undo, redo});
+
+    m_usable = project && project->isOpen() && loadPlan();
+    if (!m_usable)
+        return;
+    loadRows();
+    // A located defect always carries its text; the generated one is the
+    // editor's own change until OK.
+    bool located = false;
+    for (QGraphicsItem *item : qAsConst(m_created))
+        located = located || item->type() == KalMarkerItem::Type;
+    if (located)
+        addDefectTextIfMissing();
+    slotSelectionChanged();
+}
+
+KalPlanEditor::~KalPlanEditor()
+{
+    QSettings().setValue(QLatin1String(kGeometryKey), saveGeometry());
+    m_undo.clear();
+    for (QGraphicsItem *item : qAsConst(m_created)) {
+        if (!item->scene())
+            delete item;
+    }
+}
+
+int KalPlanEditor::exec()
+{
+    if (!m_usable)
+        return Rejected;
+    if (!s_fontsChecked) {
+        s_fontsChecked = true;
+        QTimer::singleShot(0, this, [] { KalFontCheck::warnAboutMissing(); });
+    }
+    return QDialog::exec();
+}
+
+KalMarkerTextItem *KalPlanEditor::newTextItem()
+{
+    auto *text = new KalMarkerTextItem;
+    text->setFlags(QGraphicsItem::ItemIsSelectable | QGraphicsItem::ItemIsMovable);
+    connect(text, &KalGraphicsTextItem::textDocumentChanged, this, &KalPlanEditor::slotTextDocumentChanged);
+    connect(text, &KalGraphicsTextItem::colorChanged, this, &KalPlanEditor::slotTextColor);
+    return text;
+}
+
+void KalPlanEditor::pushAdd(QGraphicsItem *item, const QString &text)
+{
+    m_created.append(item);
+    m_undo.push(new KalPhotoEditorItemsCommand(m_scene, {item}, KalPhotoEditorItemsCommand::Add, text));
+}
+
+KalMarkerItem *KalPlanEditor::addMarker(const QPointF &scenePos)
+{
+    QSettings settings;
+    auto *marker = new KalMarkerItem(settings.value(QStringLiteral("Marker/StandardMarkerType"), 1).toInt());
+    const QColor fill(
+        settings.value(QStringLiteral("Marker/StandardMarkerColor"), QStringLiteral("#ffff00")).toString());
+    marker->setFillColor(fill.isValid() ? fill : QColor(Qt::yellow));
+    marker->setOutline(Qt::black, 0);
+    marker->setStatusColor(m_statusColor);
+    marker->setHighlighted(true);
+    marker->setFlags(QGraphicsItem::ItemIsSelectable | QGraphicsItem::ItemIsMovable);
+    marker->setScale(markerScaleFor(m_planSize));
+    // The tip (or the target's centre) lands on the clicked point.
+    marker->setPos(scenePos - marker->transformOriginPoint());
+    m_undo.beginMacro(tr("Marker setzen"));
+    pushAdd(marker, tr("Marker setzen"));
+    addDefectTextIfMissing();
+    m_undo.endMacro();
+    m_scene->clearSelection();
+    marker->setSelected(true);
+    return marker;
+}
+
+QList<QGraphicsItem *> KalPlanEditor::selectionOrMessage(const QString &title) const
+{
+    QList<QGraphicsItem *> selected;
+    for (QGraphicsItem *item : m_scene->selectedItems()) {
+        if (KalPlanGraphicsScene::isEditable(item))
+            selected.append(item);
+    }
+    if (selected.isEmpty()) {
+        KalPrompt::information(title, tr("Sie haben kein Objekt ausgewählt.\nSie wählen ein Objekt aus, indem Sie "
+                                         "es anklicken.\nSie wählen mehrere Objekte aus, indem Sie sie bei gedrückter "
+                                         "Strg-Taste anklicken.\n"));
+    }
+    return selected;
+}
+
+void KalPlanEditor::transformSelection(qreal degrees, qreal factor, const QString &title)
+{
+    const QList<QGraphicsItem *> selected = selectionOrMessage(title);
+    if (selected.isEmpty())
+        return;
+    QList<KalItemPlacement> before;
+    QList<KalItemPlacement> after;
+    for (QGraphicsItem *item : selected) {
+        before.append(KalItemPlacement::of(item));
+        KalItemPlacement changed = before.last();
+        changed.rotation += degrees;
+        changed.scale *= factor;
+        after.append(changed);
+    }
+    m_undo.push(KalPhotoEditorChangeCommand::placement(selected, before, after, title));
+}
+
+void KalPlanEditor::slotRotateLeft()
+{
+    transformSelection(-15, 1, tr("Objekte drehen"));
+}
+
+void KalPlanEditor::slotRotateRight()
+{
+    transformSelection(15, 1, tr("Objekte drehen"));
+}
+
+void KalPlanEditor::slotUpscale()
+{
+    transformSelection(0, 1.1, tr("Objekt vergrößern"));
+}
+
+void KalPlanEditor::slotDownscale()
+{
+    // This step, not 1 / 1.1: shrinking and enlarging again gives 1.00001.
+    transformSelection(0, 0.9091, tr("Objekt verkleinern"));
+}
+
+void KalPlanEditor::slotColor()
+{
+    const QString title = tr("Farbe ändern");
+    const QList<QGraphicsItem *> selected = selectionOrMessage(title);
+    if (selected.isEmpty())
+        return;
+    const QColor color = KalTextEditor::chooseColor(Qt::yellow, this, tr("Objektfarbe wählen"));
+    if (!color.isValid())
+        return;
+    auto colorOf = [](QGraphicsItem *item) {
+        if (auto *marker = qgraphicsitem_cast<KalMarkerItem *>(item))
+            return marker->fillColor();
+        return static_cast<KalMarkerTextItem *>(item)->textColor();
+    };
+    auto apply = [selected](const QList<QColor> &colors) {
+        for (int i = 0; i < selected.size(); ++i) {
+            if (auto *marker = qgraphicsitem_cast<KalMarkerItem *>(selected.at(i)))
+                marker->setFillColor(colors.at(i));
+            else if (auto *text = qgraphicsitem_cast<KalMarkerTextItem *>(selected.at(i)))
+                text->setTextColor(colors.at(i));
+        }
+    };
+    QList<QColor> before;
+    for (QGraphicsItem *item : selected)
+        before.append(colorOf(item));
+    QList<QColor> after;
+    for (int i = 0; i < before.size(); ++i)
+        after.append(color);
+    m_undo.push(new KalPhotoEditorChangeCommand(
+        title, [apply, after] { apply(after); }, [apply, before] { apply(before); }));
+}
+
+void KalPlanEditor::exchangeSelected(int markerType)
+{
+    const QString title = tr("Marker austauschen");
+    QList<KalMarkerItem *> markers;
+    for (QGraphicsItem *item : m_scene->selectedItems()) {
+        if (auto *marker = qgraphicsitem_cast<KalMarkerItem *>(item); marker && KalPlanGraphicsScene::isEditable(item))
+            markers.append(marker);
+    }
+    if (markers.isEmpty()) {
+        KalPrompt::information(title, tr("Sie haben keinen Marker ausgewählt.\nSie wählen einen Marker aus, indem Sie "
+                                         "ihn anklicken.\nSie wählen mehrere Marker aus, indem Sie sie bei gedrückter "
+                                         "Strg-Taste anklicken.\n"));
+        return;
+    }
+    if (markers.size() > 1 &&
+        !KalPrompt::yesNo(title, tr("Sie haben mehrere Marker ausgewählt.\nSollen diese Marker wirklich alle "
+                                    "ausgetauscht werden?")))
+        return;
+    QList<int> before;
+    for (KalMarkerItem *marker : qAsConst(markers))
+        before.append(marker->markerType());
+    m_undo.push(new KalPhotoEditorChangeCommand(
+        title,
+        [markers, markerType] {
+            for (KalMarkerItem *marker : markers)
+                marker->exchangeType(markerType);
+        },
+        [markers, before] {
+            for (int i = 0; i < markers.size(); ++i)
+                markers.at(i)->exchangeType(before.at(i));
+        }));
+}
+
+void KalPlanEditor::slotMarker1Clicked()
+{
+    exchangeSelected(1);
+}
+
+void KalPlanEditor::slotMarker2Clicked()
+{
+    exchangeSelected(2);
+}
+
+void KalPlanEditor::slotMarker3Clicked()
+{
+    exchangeSelected(3);
+}
+
+void KalPlanEditor::slotMarker4Clicked()
+{
+    exchangeSelected(4);
+}
+
+void KalPlanEditor::slotDeleteSelected()
+{
+    QList<QGraphicsItem *> selected;
+    for (QGraphicsItem *item : m_scene->selectedItems()) {
+        if (KalPlanGraphicsScene::isEditable(item))
+            selected.append(item);
+    }
+    if (selected.isEmpty())
+        return;
+    if (!KalPrompt::yesNo(tr("Marker/Texte löschen"), tr("Sollen die selektierten Elemente wirklich gelöscht werden?")))
+        return;
+    m_undo.push(new KalPhotoEditorItemsCommand(m_scene, selected, KalPhotoEditorItemsCommand::Remove, tr("Löschen")));
+}
+
+void KalPlanEditor::slotTextEditRequested(KalMarkerTextItem *item)
+{
+    KalTextEditor editor(KalTextEditor::EditText, this);
+    KalTextEditor::Values before;
+    before.text = item->toPlainText();
+    before.family = item->fontFamily();
+    before.size = item->fontSize();
+    before.color = item->textColor();
+    before.properties = item->textProperties();
+    editor.setValues(before);
+    if (editor.exec() != QDialog::Accepted)
+        return;
+    if (editor.textDeleted()) {
+        m_undo.push(new KalPhotoEditorItemsCommand(m_scene, {item}, KalPhotoEditorItemsCommand::Remove, tr("Löschen")));
+        return;
+    }
+    const KalTextEditor::Values after = editor.values();
+    auto apply = [item](const KalTextEditor::Values &v) {
+        item->setFontFamily(v.family);
+        item->setFontSize(v.size);
+        item->setTextProperties(v.properties);
+        item->setTextColor(v.color);
+        item->setPlainText(v.text);
+    };
+    m_undo.push(new KalPhotoEditorChangeCommand(
+        tr("Text bearbeiten"), [apply, after] { apply(after); }, [apply, before] { apply(before); }));
+}
+
+void KalPlanEditor::setTextProperty(int bit, bool on)
+{
+    QList<KalMarkerTextItem *> texts;
+    QList<int> before;
+    for (QGraphicsItem *item : m_scene->selectedItems()) {
+        if (auto *text = qgraphicsitem_cast<KalMarkerTextItem *>(item);
+            text && KalPlanGraphicsScene::isEditable(item)) {
+            texts.append(text);
+            before.append(text->textProperties());
+        }
+    }
+    if (texts.isEmpty())
+        return;
+    auto apply = [texts](const QList<int> &properties) {
+        for (int i = 0; i < texts.size(); ++i)
+            texts.at(i)->setTextProperties(properties.at(i));
+    };
+    QList<int> after;
+    for (int properties : qAsConst(before))
+        after.append(on ? properties | bit : properties & ~bit);
+    m_undo.push(new KalPhotoEditorChangeCommand(
+        tr("Text formatieren"), [apply, after] { apply(after); }, [apply, before] { apply(before); }));
+}
+
+void KalPlanEditor::slotTextBold(bool on)
+{
+    setTextProperty(KalGraphicsTextItem::Bold, on);
+}
+
+void KalPlanEditor::slotTextItalic(bool on)
+{
+    setTextProperty(KalGraphicsTextItem::Italic, on);
+}
+
+void KalPlanEditor::slotTextUnderline(bool on)
+{
+    setTextProperty(KalGraphicsTextItem::Underline, on);
+}
+
+void KalPlanEditor::slotTextColor(QColor *)
+{
+    slotSelectionChanged();
+}
+
+void KalPlanEditor::slotTextDocumentChanged(QTextDocument *)
+{
+    slotSelectionChanged();
+}
+
+void KalPlanEditor::slotSelectionChanged()
+{
+    // The text tools show the format of the first selected text.
+    const KalMarkerTextItem *text = nullptr;
+    for (QGraphicsItem *item : m_scene->selectedItems()) {
+        if ((text = qgraphicsitem_cast<KalMarkerTextItem *>(item)))
+            break;
+    }
+    const int properties = text ? text->textProperties() : 0;
+    const std::pair<QToolButton *, int> tools[] = {{m_ui->tbTextBold, KalGraphicsTextItem::Bold},
+                                                   {m_ui->tbTextItalic, KalGraphicsTextItem::Italic},
+                                                   {m_ui->tbTextUnderline, KalGraphicsTextItem::Underline}};
+    for (const auto &tool : tools) {
+        tool.first->setEnabled(text != nullptr);
+        tool.first->setChecked(properties & tool.second);
+    }
+}
+
+void KalPlanEditor::accept()
+{
+    if (!m_undo.isClean() && !writeRows()) {
+        KalPrompt::Message message;
+        message.icon = KalPrompt::Critical;
+        message.title = tr("Planeditor");
+        message.text = tr("Die Marker und Texte konnten nicht gespeichert werden.");
+        KalPrompt::ask(message);
+        return;
+    }
+    QDialog::accept();
+}
+
+void KalPlanEditor::reject()
+{
+    if (!m_undo.isClean()) {
+        KalPrompt::Message message;
+        message.icon = KalPrompt::Question;
+        message.title = tr("Änderungen verwerfen");
+        message.text = tr("Sollen die Änderungen verworfen werden?");
+        message.buttons = {{KalPrompt::Ok, {}}, {KalPrompt::Abort, {}}};
+        if (KalPrompt::ask(message) != 0)
+            return;
+    }
+    QDialog::reject();
+}
