@@ -2,6 +2,7 @@
 // stands on which page, which pictures the file holds, and what survives a
 // failing disk or a hostile project.
 #include "core/photos/KalPictureStore.h"
+#include "core/project/KalProgress.h"
 #include "core/project/KalProject.h"
 #include "core/reports/KalPrintDefects.h"
 #include "core/reports/KalPrintPerCompany.h"
@@ -77,6 +78,23 @@ protected:
 
 private:
     qint64 m_budget;
+};
+
+// The user presses "Abbrechen" once the operation has reported `steps` times.
+class CancelAfter : public KalProgress
+{
+public:
+    explicit CancelAfter(int steps)
+        : m_left(steps)
+    {
+    }
+    void begin(const QString &) override {}
+    void setProgress(qint64, qint64) override { --m_left; }
+    void end() override {}
+    bool wasCanceled() const override { return m_left <= 0; }
+
+private:
+    int m_left;
 };
 
 } // namespace
@@ -418,6 +436,33 @@ private slots:
         QVERIFY(!job.writePdf(path, &error));
         QVERIFY(error.contains(QDir::toNativeSeparators(path)));
         QFile::setPermissions(dir.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        QCOMPARE(KalTestFiles::folderState(dir.path()), before);
+    }
+
+    // Canceling leaves no file and no message, whether the pages were still
+    // being laid out or already being painted.
+    void cancel_data()
+    {
+        QTest::addColumn<int>("steps");
+        QTest::newRow("laying out") << 2;
+        QTest::newRow("painting") << 7;
+    }
+    void cancel()
+    {
+        QFETCH(int, steps);
+        const QVector<qint64> ids = manyDefects(200);
+        QTemporaryDir dir;
+        const QString path = dir.filePath("Liste.pdf");
+        QVERIFY(KalTestFiles::writeFile(path, "alte Liste"));
+        const QStringList before = KalTestFiles::folderState(dir.path());
+        KalProgress::install(new CancelAfter(steps));
+        KalPrintDefects job(db(), ids, KalPrintOptions());
+        QString error;
+        const bool written = job.writePdf(path, &error);
+        KalProgress::install(new CancelAfter(std::numeric_limits<int>::max()));
+        QVERIFY(!written);
+        QVERIFY(job.wasCanceled());
+        QVERIFY(error.isEmpty());
         QCOMPARE(KalTestFiles::folderState(dir.path()), before);
     }
 
