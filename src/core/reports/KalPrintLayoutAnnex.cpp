@@ -6,8 +6,9 @@
 
 #include <QMap>
 
-// Photos stand two side by side, each under its own lines: small enough on
-// paper to need few pixels, large enough to show the defect.
+// Photos stand three side by side (a defect's usual three in one row), each
+// under its own lines: small enough on paper to need few pixels, large
+// enough to show the defect.
 void KalPrintLayout::photoAnnex()
 {
     bool any = false;
@@ -17,8 +18,9 @@ void KalPrintLayout::photoAnnex()
         return;
     newPage();
     title(KalPrintTexts::text(KalPrintTexts::PhotoAnnexTitle), m_data.projectName);
-    const qreal gap = mm(6);
-    const qreal column = (m_width - gap) / 2;
+    const int columns = 3;
+    const qreal gap = mm(5);
+    const qreal column = (m_width - (columns - 1) * gap) / columns;
     QVector<AnnexCell> row;
     auto flush = [&] {
         qreal height = 0;
@@ -48,7 +50,7 @@ void KalPrintLayout::photoAnnex()
         const KalPrintDefect &d = m_data.defects.at(i);
         for (int p = 0; p < d.photos.size(); ++p) {
             row << annexCell(d, p, column);
-            if (row.size() == 2)
+            if (row.size() == columns)
                 flush();
         }
     }
