@@ -41,7 +41,7 @@ void KalPrintLayout::compactList()
         {KalPrintTexts::heading(T::Room), QStringLiteral("Wohnzimmer 1.OG")},
         {KalPrintTexts::heading(T::Company), QStringLiteral("Musterfirma GmbH")},
         {KalPrintTexts::heading(T::Deadline), T::date(QDate(2028, 12, 28))},
-        {KalPrintTexts::heading(T::Status), QStringLiteral("in Bearbeitung")},
+        {KalPrintTexts::heading(T::Status), QStringLiteral("Offen, unzureichend")},
     };
     m_columnWidth = QVector<qreal>(ColumnCount, 0);
     qreal used = 0;

@@ -360,6 +360,45 @@ private slots:
         QCOMPARE(redRows > 0, heightMm > 0);
     }
 
+    // The status cell of a compact row is filled with the status colour; its
+    // text stays readable on dark colours.
+    void statusCell_data()
+    {
+        QTest::addColumn<QString>("color");
+        QTest::addColumn<bool>("whiteText");
+        QTest::newRow("light") << "#ffd700" << false;
+        QTest::newRow("dark") << "#1a237e" << true;
+    }
+    void statusCell()
+    {
+        QFETCH(QString, color);
+        QFETCH(bool, whiteText);
+        QVERIFY(m_fx.exec("UPDATE status SET status='Neu', color=:c WHERE id=1", {{"c", color}}));
+        const QString pdf = print({m_fx.addDefect({{"status_id", 1}})}, KalPrintOptions());
+        const QString boxes = run("pdftotext", {"-bbox", pdf, "-"});
+        const QRegularExpressionMatch word =
+            QRegularExpression("xMin=\"([\\d.]+)\" yMin=\"([\\d.]+)\" xMax=\"([\\d.]+)\" yMax=\"([\\d.]+)\">Neu<")
+                .match(boxes);
+        QVERIFY(word.hasMatch());
+        const QString png = m_dir.filePath("status");
+        run("pdftoppm", {"-r", "72", "-singlefile", "-png", pdf, png});
+        const QImage page(png + ".png");
+        const QRect box(QPoint(word.captured(1).toDouble(), word.captured(2).toDouble()),
+                        QPoint(word.captured(3).toDouble(), word.captured(4).toDouble()));
+        const QColor fill = page.pixelColor(box.right() + 4, box.center().y());
+        const QColor expected(color);
+        QVERIFY2(qAbs(fill.red() - expected.red()) < 8 && qAbs(fill.blue() - expected.blue()) < 8,
+                 qPrintable(fill.name()));
+        int lightest = 0;
+        int darkest = 255;
+        for (int y = box.top(); y <= box.bottom(); ++y)
+            for (int x = box.left(); x <= box.right(); ++x) {
+                lightest = qMax(lightest, page.pixelColor(x, y).lightness());
+                darkest = qMin(darkest, page.pixelColor(x, y).lightness());
+            }
+        QVERIFY(whiteText ? lightest > 200 : darkest < 60);
+    }
+
     void reductionSummary()
     {
         const qint64 company = m_fx.addCompany("Dach GmbH", "");
