@@ -565,13 +565,19 @@ private slots:
     // has an icon.
     void actionsWithoutFeatureAreDisabled()
     {
-        const QStringList unbuilt{"actionEditPlanTable",        "actionEditLogos",
-                                  "actionPrintDefectListShort", "actionPrintDefectListLong",
-                                  "actionPrintPreview",         "actionInitialDataImport",
-                                  "actionImportFromApp",        "actionSettingsPlanSize",
-                                  "actionSettingsImageSize",    "actionStandardMarker",
-                                  "actionStandardMarkerText",   "actionUpdateTest",
-                                  "actionUpdateDataImport",     "actionAutomaticNewRecordsImport",
+        const QStringList unbuilt{"actionEditPlanTable",
+                                  "actionPrintDefectListShort",
+                                  "actionPrintDefectListLong",
+                                  "actionPrintPreview",
+                                  "actionInitialDataImport",
+                                  "actionImportFromApp",
+                                  "actionSettingsPlanSize",
+                                  "actionSettingsImageSize",
+                                  "actionStandardMarker",
+                                  "actionStandardMarkerText",
+                                  "actionUpdateTest",
+                                  "actionUpdateDataImport",
+                                  "actionAutomaticNewRecordsImport",
                                   "actionAutomaticUpdateImport"};
         QStringList wrong;
         for (QAction *action : m_window->findChildren<QAction *>()) {
@@ -598,6 +604,7 @@ private slots:
         QTest::newRow("save as") << "actionFileSaveAs" << false;
         QTest::newRow("compact") << "actionCompactDB" << false;
         QTest::newRow("add defect") << "actionAddDefect" << false;
+        QTest::newRow("logos") << "actionEditLogos" << false;
         QTest::newRow("new") << "actionCreateFile" << true;
         QTest::newRow("open") << "actionOpenFile" << true;
         QTest::newRow("not built stays off") << "actionPrintPreview" << false;

@@ -91,7 +91,7 @@ const QVector<KalMainWindow::ActionSpec> &KalMainWindow::actionTable()
          QT_TR_NOOP("Firmenliste bearbeiten"), nullptr},
         {"actionEditCompanyFormat", "icon-firmen-format.ico", {}, &M::slotEditCompanyFormat, A::Always,
          QT_TR_NOOP("Firmendaten Ausgabeformat"), nullptr},
-        {"actionEditLogos", "icon-logo.ico", {}, nullptr, A::NotBuilt,
+        {"actionEditLogos", "icon-logo.ico", {}, &M::slotEditLogos, A::WithProject,
          QT_TR_NOOP("Logo hinzufügen / bearbeiten"), nullptr},
         {"actionPrintDefectListShort", "icon-drucken-kompakt.ico", {}, nullptr, A::NotBuilt,
          QT_TR_NOOP("Mängelliste kompakt"), nullptr},

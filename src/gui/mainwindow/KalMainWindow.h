@@ -109,6 +109,7 @@ private slots:
     void slotEditProjectData();
     void slotEditCompanyTable();
     void slotEditCompanyFormat();
+    void slotEditLogos();
     void slotImportDefectManagerCompanies();
     void slotImportSiteJournalCompanies();
     void slotImportCSVCompanies();

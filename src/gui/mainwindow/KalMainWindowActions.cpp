@@ -15,6 +15,7 @@
 #include "gui/import/KalCompanyImportSelectDialog.h"
 #include "gui/mainwindow/KalLanguageDialog.h"
 #include "gui/mainwindow/KalShortHelpDialog.h"
+#include "gui/reports/KalLogoDialog.h"
 #include "gui/textaids/KalCompleterDialog.h"
 #include "gui/widgets/KalFileDialog.h"
 #include "gui/widgets/KalItemDelegate.h"
@@ -203,6 +204,12 @@ void KalMainWindow::slotEditProjectData()
 void KalMainWindow::slotEditCompanyTable()
 {
     openMasterData(KalMasterDataDialog::CompanyPage);
+}
+
+void KalMainWindow::slotEditLogos()
+{
+    KalLogoDialog dialog(m_project, this);
+    dialog.exec();
 }
 
 void KalMainWindow::slotEditCompanyFormat()
