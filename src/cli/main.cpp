@@ -7,6 +7,7 @@
 #include "cli/KalCliExportPlan.h"
 #include "cli/KalCliImportCompanies.h"
 #include "cli/KalCliImportPlan.h"
+#include "cli/KalCliPrint.h"
 #include "cli/KalCliProject.h"
 
 int main(int argc, char **argv)
@@ -38,6 +39,12 @@ int main(int argc, char **argv)
          "import a plan (a PDF's first page), save with backups, print its id", kalCliImportPlan},
         {"export-plan", "export-plan FILE.pwp --plan ID --output OUT.png",
          "the plan at its stored size with markers and texts as a picture (read-only)", kalCliExportPlan, true},
+        {"print",
+         "print FILE.pwp --output OUT.pdf [--layout compact|detailed]\n"
+         "             [--filter-from-project] [--per-company DIR]",
+         "defect list as PDF: every defect by number, or the project's saved filter with its pictures; "
+         "--per-company writes one PDF per company into DIR (read-only)",
+         kalCliPrint, true},
     };
     return KalCli::run(argc, argv, commands);
 }

@@ -53,6 +53,8 @@ public:
     static const QString &text(Text which);
     // The cut-off marker of a description that does not fit: "usw...".
     static QString andSoOn();
+    // A label as a column heading: without its colon and trailing blank.
+    static QString heading(Text which);
 
     // A date as the running locale writes it (German "31.12.2024", US English
     // "12/31/2024"); empty for an invalid date.
