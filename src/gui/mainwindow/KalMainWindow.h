@@ -110,6 +110,9 @@ private slots:
     void slotEditCompanyTable();
     void slotEditCompanyFormat();
     void slotEditLogos();
+    void slotPrintDefectListShort();
+    void slotPrintDefectListLong();
+    void slotPrintPreview();
     void slotImportDefectManagerCompanies();
     void slotImportSiteJournalCompanies();
     void slotImportCSVCompanies();

@@ -15,6 +15,7 @@
 #include "gui/import/KalCompanyImportSelectDialog.h"
 #include "gui/mainwindow/KalLanguageDialog.h"
 #include "gui/mainwindow/KalShortHelpDialog.h"
+#include "gui/reports/KalFilterDialog.h"
 #include "gui/reports/KalLogoDialog.h"
 #include "gui/textaids/KalCompleterDialog.h"
 #include "gui/widgets/KalFileDialog.h"
@@ -209,6 +210,27 @@ void KalMainWindow::slotEditCompanyTable()
 void KalMainWindow::slotEditLogos()
 {
     KalLogoDialog dialog(m_project, this);
+    dialog.exec();
+}
+
+void KalMainWindow::slotPrintDefectListShort()
+{
+    KalFilterDialog dialog(m_project, this);
+    dialog.setLayout(KalPrintOptions::Compact);
+    dialog.exec();
+}
+
+void KalMainWindow::slotPrintDefectListLong()
+{
+    KalFilterDialog dialog(m_project, this);
+    dialog.setLayout(KalPrintOptions::Detailed);
+    dialog.exec();
+}
+
+void KalMainWindow::slotPrintPreview()
+{
+    // The layout is asked for when a print button is pressed.
+    KalFilterDialog dialog(m_project, this);
     dialog.exec();
 }
 
