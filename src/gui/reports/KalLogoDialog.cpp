@@ -7,7 +7,8 @@
 
 namespace {
 const char *const GeometryKey = "LogoDialog/Geometry";
-}
+const char *const TooltipHelpKey = "TooltipHelpActive";
+} // namespace
 
 KalLogoDialog::KalLogoDialog(KalProject *project, QWidget *parent)
     : QDialog(parent)
@@ -22,6 +23,11 @@ KalLogoDialog::KalLogoDialog(KalProject *project, QWidget *parent)
     m_ui->cbUnderHeader->setChecked(KalLogos::underHeader());
     connect(m_ui->pbOk, &QPushButton::clicked, this, &KalLogoDialog::slotAcceptClicked);
     connect(m_ui->pbCancel, &QPushButton::clicked, this, &QDialog::reject);
+    // The buttons explain themselves only while the help texts are on.
+    if (!QSettings().value(QLatin1String(TooltipHelpKey), true).toBool()) {
+        for (QWidget *widget : findChildren<QWidget *>())
+            widget->setToolTip(QString());
+    }
     restoreGeometry(QSettings().value(QLatin1String(GeometryKey)).toByteArray());
 }
 

@@ -173,6 +173,29 @@ private slots:
         QCOMPARE(m_fx.count("image", QString("id=%1").arg(first.imageId)), 0);
     }
 
+    void buttonHelpFollowsTheHelpSwitch_data()
+    {
+        QTest::addColumn<QVariant>("helpActive");
+        QTest::addColumn<bool>("explained");
+        QTest::newRow("never switched") << QVariant() << true;
+        QTest::newRow("on") << QVariant(true) << true;
+        QTest::newRow("off") << QVariant(false) << false;
+    }
+
+    void buttonHelpFollowsTheHelpSwitch()
+    {
+        QFETCH(QVariant, helpActive);
+        QFETCH(bool, explained);
+        if (helpActive.isValid())
+            QSettings().setValue("TooltipHelpActive", helpActive);
+        else
+            QSettings().remove("TooltipHelpActive");
+        KalLogoDialog dialog(m_fx.project());
+        for (const char *button : {"pbAppend", "pbDelete"})
+            QCOMPARE(child<QPushButton>(&dialog, "wSecondLogo", button)->toolTip().isEmpty(), !explained);
+        QSettings().remove("TooltipHelpActive");
+    }
+
     void hostileFileIsRefusedAndTheOldLogoStays_data()
     {
         QTest::addColumn<QByteArray>("bytes");
