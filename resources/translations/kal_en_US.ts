@@ -2102,6 +2102,46 @@ Double-click: assign a plan or locate the defect on the plan.</translation>
     </message>
 </context>
 <context>
+    <name>KalPrintDefects</name>
+    <message>
+        <source>Die Seite hat keinen bedruckbaren Bereich.</source>
+        <translation>The page has no printable area.</translation>
+    </message>
+    <message>
+        <source>Die Mängel konnten nicht gelesen werden.</source>
+        <translation>The defects could not be read.</translation>
+    </message>
+    <message>
+        <source>Mängelliste wird erstellt ...</source>
+        <translation>Creating the defect list ...</translation>
+    </message>
+    <message>
+        <source>Der Druck kann nicht beginnen: das Ausgabegerät ist nicht bereit.</source>
+        <translation>Printing cannot start: the output device is not ready.</translation>
+    </message>
+    <message>
+        <source>Eine neue Seite kann nicht begonnen werden.</source>
+        <translation>A new page cannot be started.</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+kann nicht geschrieben werden.
+%2</source>
+        <translation>The file
+%1
+cannot be written.
+%2</translation>
+    </message>
+</context>
+<context>
+    <name>KalPrintDocument</name>
+    <message>
+        <source>Bild nicht lesbar</source>
+        <translation>Picture not readable</translation>
+    </message>
+</context>
+<context>
     <name>KalPrintModeSelectDialog</name>
     <message>
         <source>Druckformat wählen</source>
@@ -2118,6 +2158,17 @@ Double-click: assign a plan or locate the defect on the plan.</translation>
     <message>
         <source>&amp;Abbrechen</source>
         <translation>&amp;Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>KalPrintPerCompany</name>
+    <message>
+        <source>Mängelliste - </source>
+        <translation>Defect list - </translation>
+    </message>
+    <message>
+        <source>Der Ordner %1 existiert nicht.</source>
+        <translation>The folder %1 does not exist.</translation>
     </message>
 </context>
 <context>
@@ -2204,6 +2255,141 @@ Already written: %2</translation>
 gespeichert.</source>
         <translation>%1 PDF files were saved in the folder
 %2</translation>
+    </message>
+</context>
+<context>
+    <name>KalPrintTexts</name>
+    <message>
+        <source>Pellwick - Mängelmanagement für Bauprojekte</source>
+        <translation>Pellwick - defect management for construction projects</translation>
+    </message>
+    <message>
+        <source>Seite ${page.cur}/${page.count}</source>
+        <translation>Page ${page.cur}/${page.count}</translation>
+    </message>
+    <message>
+        <source> ...</source>
+        <translation> ...</translation>
+    </message>
+    <message>
+        <source> - </source>
+        <translation> - </translation>
+    </message>
+    <message>
+        <source>Beschreibung: </source>
+        <translation>Description: </translation>
+    </message>
+    <message>
+        <source>Index </source>
+        <translation>Index </translation>
+    </message>
+    <message>
+        <source>Raumbuch-Nr: </source>
+        <translation>Room schedule no: </translation>
+    </message>
+    <message>
+        <source>Erfasst am: </source>
+        <translation>Recorded on: </translation>
+    </message>
+    <message>
+        <source>Erfasst von: </source>
+        <translation>Recorded by: </translation>
+    </message>
+    <message>
+        <source>Typ: </source>
+        <translation>Type: </translation>
+    </message>
+    <message>
+        <source>Beseitigungsanweisung: </source>
+        <translation>Remedy instruction: </translation>
+    </message>
+    <message>
+        <source>Datum: </source>
+        <translation>Date: </translation>
+    </message>
+    <message>
+        <source>Index: </source>
+        <translation>Index: </translation>
+    </message>
+    <message>
+        <source>Plan: </source>
+        <translation>Plan: </translation>
+    </message>
+    <message>
+        <source>Mängelliste - Anhang Pläne</source>
+        <translation>Defect list - plan annex</translation>
+    </message>
+    <message>
+        <source>Mängelliste - Anhang Fotos</source>
+        <translation>Defect list - photo annex</translation>
+    </message>
+    <message>
+        <source>Mängelliste</source>
+        <translation>Defect list</translation>
+    </message>
+    <message>
+        <source>Firma: </source>
+        <translation>Company: </translation>
+    </message>
+    <message>
+        <source>Fototitel: </source>
+        <translation>Photo title: </translation>
+    </message>
+    <message>
+        <source>Datum: %1</source>
+        <translation>Date: %1</translation>
+    </message>
+    <message>
+        <source>Foto %1 von %2 zu Mangel %3:</source>
+        <translation>Photo %1 of %2 for defect %3:</translation>
+    </message>
+    <message>
+        <source>2. Nachfrist: </source>
+        <translation>2nd extension: </translation>
+    </message>
+    <message>
+        <source>1. Nachfrist: </source>
+        <translation>1st extension: </translation>
+    </message>
+    <message>
+        <source>Frist: </source>
+        <translation>Deadline: </translation>
+    </message>
+    <message>
+        <source>Priorität: </source>
+        <translation>Priority: </translation>
+    </message>
+    <message>
+        <source>Status: </source>
+        <translation>Status: </translation>
+    </message>
+    <message>
+        <source>Raum: </source>
+        <translation>Room: </translation>
+    </message>
+    <message>
+        <source>Mangel</source>
+        <translation>Defect</translation>
+    </message>
+    <message>
+        <source>Mängelliste - Minderungen</source>
+        <translation>Defect list - price reductions</translation>
+    </message>
+    <message>
+        <source>Anzahl</source>
+        <translation>Count</translation>
+    </message>
+    <message>
+        <source>Summe</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>ohne Firma</source>
+        <translation>without company</translation>
+    </message>
+    <message>
+        <source>usw...</source>
+        <translation>etc...</translation>
     </message>
 </context>
 <context>

@@ -2102,6 +2102,45 @@ Doble clic: asignar un plano o ubicar el defecto en el plano.</translation>
     </message>
 </context>
 <context>
+    <name>KalPrintDefects</name>
+    <message>
+        <source>Die Seite hat keinen bedruckbaren Bereich.</source>
+        <translation>La página no tiene área imprimible.</translation>
+    </message>
+    <message>
+        <source>Die Mängel konnten nicht gelesen werden.</source>
+        <translation>No se pudieron leer los defectos.</translation>
+    </message>
+    <message>
+        <source>Mängelliste wird erstellt ...</source>
+        <translation>Creando la lista de defectos ...</translation>
+    </message>
+    <message>
+        <source>Der Druck kann nicht beginnen: das Ausgabegerät ist nicht bereit.</source>
+        <translation>No se puede iniciar la impresión: el dispositivo de salida no está listo.</translation>
+    </message>
+    <message>
+        <source>Eine neue Seite kann nicht begonnen werden.</source>
+        <translation>No se puede iniciar una página nueva.</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+kann nicht geschrieben werden.
+%2</source>
+        <translation>No se puede escribir el archivo
+%1
+%2</translation>
+    </message>
+</context>
+<context>
+    <name>KalPrintDocument</name>
+    <message>
+        <source>Bild nicht lesbar</source>
+        <translation>Imagen no legible</translation>
+    </message>
+</context>
+<context>
     <name>KalPrintModeSelectDialog</name>
     <message>
         <source>Druckformat wählen</source>
@@ -2118,6 +2157,17 @@ Doble clic: asignar un plano o ubicar el defecto en el plano.</translation>
     <message>
         <source>&amp;Abbrechen</source>
         <translation>C&amp;ancelar</translation>
+    </message>
+</context>
+<context>
+    <name>KalPrintPerCompany</name>
+    <message>
+        <source>Mängelliste - </source>
+        <translation>Lista de defectos - </translation>
+    </message>
+    <message>
+        <source>Der Ordner %1 existiert nicht.</source>
+        <translation>La carpeta %1 no existe.</translation>
     </message>
 </context>
 <context>
@@ -2203,6 +2253,141 @@ Ya escritos: %2</translation>
 gespeichert.</source>
         <translation>Se guardaron %1 archivos PDF en la carpeta
 %2</translation>
+    </message>
+</context>
+<context>
+    <name>KalPrintTexts</name>
+    <message>
+        <source>Pellwick - Mängelmanagement für Bauprojekte</source>
+        <translation>Pellwick - gestión de defectos para proyectos de construcción</translation>
+    </message>
+    <message>
+        <source>Seite ${page.cur}/${page.count}</source>
+        <translation>Página ${page.cur}/${page.count}</translation>
+    </message>
+    <message>
+        <source> ...</source>
+        <translation> ...</translation>
+    </message>
+    <message>
+        <source> - </source>
+        <translation> - </translation>
+    </message>
+    <message>
+        <source>Beschreibung: </source>
+        <translation>Descripción: </translation>
+    </message>
+    <message>
+        <source>Index </source>
+        <translation>Índice </translation>
+    </message>
+    <message>
+        <source>Raumbuch-Nr: </source>
+        <translation>N.º de libro de estancias: </translation>
+    </message>
+    <message>
+        <source>Erfasst am: </source>
+        <translation>Registrado el: </translation>
+    </message>
+    <message>
+        <source>Erfasst von: </source>
+        <translation>Registrado por: </translation>
+    </message>
+    <message>
+        <source>Typ: </source>
+        <translation>Tipo: </translation>
+    </message>
+    <message>
+        <source>Beseitigungsanweisung: </source>
+        <translation>Instrucción de subsanación: </translation>
+    </message>
+    <message>
+        <source>Datum: </source>
+        <translation>Fecha: </translation>
+    </message>
+    <message>
+        <source>Index: </source>
+        <translation>Índice: </translation>
+    </message>
+    <message>
+        <source>Plan: </source>
+        <translation>Plano: </translation>
+    </message>
+    <message>
+        <source>Mängelliste - Anhang Pläne</source>
+        <translation>Lista de defectos - anexo de planos</translation>
+    </message>
+    <message>
+        <source>Mängelliste - Anhang Fotos</source>
+        <translation>Lista de defectos - anexo de fotos</translation>
+    </message>
+    <message>
+        <source>Mängelliste</source>
+        <translation>Lista de defectos</translation>
+    </message>
+    <message>
+        <source>Firma: </source>
+        <translation>Empresa: </translation>
+    </message>
+    <message>
+        <source>Fototitel: </source>
+        <translation>Título de la foto: </translation>
+    </message>
+    <message>
+        <source>Datum: %1</source>
+        <translation>Fecha: %1</translation>
+    </message>
+    <message>
+        <source>Foto %1 von %2 zu Mangel %3:</source>
+        <translation>Foto %1 de %2 del defecto %3:</translation>
+    </message>
+    <message>
+        <source>2. Nachfrist: </source>
+        <translation>2.ª prórroga: </translation>
+    </message>
+    <message>
+        <source>1. Nachfrist: </source>
+        <translation>1.ª prórroga: </translation>
+    </message>
+    <message>
+        <source>Frist: </source>
+        <translation>Plazo: </translation>
+    </message>
+    <message>
+        <source>Priorität: </source>
+        <translation>Prioridad: </translation>
+    </message>
+    <message>
+        <source>Status: </source>
+        <translation>Estado: </translation>
+    </message>
+    <message>
+        <source>Raum: </source>
+        <translation>Estancia: </translation>
+    </message>
+    <message>
+        <source>Mangel</source>
+        <translation>Defecto</translation>
+    </message>
+    <message>
+        <source>Mängelliste - Minderungen</source>
+        <translation>Lista de defectos - reducciones de precio</translation>
+    </message>
+    <message>
+        <source>Anzahl</source>
+        <translation>Cantidad</translation>
+    </message>
+    <message>
+        <source>Summe</source>
+        <translation>Total</translation>
+    </message>
+    <message>
+        <source>ohne Firma</source>
+        <translation>sin empresa</translation>
+    </message>
+    <message>
+        <source>usw...</source>
+        <translation>etc...</translation>
     </message>
 </context>
 <context>

@@ -120,7 +120,7 @@ int kalCliPrint(const QString &file, const QStringList &options)
         if (!selection(db, fromProject, &printOptions, &ids, &error)) {
             nothingListed = error.isEmpty();
             if (!nothingListed)
-                error = tr("Die Mängel konnten nicht gelesen werden.\n%1").arg(error);
+                error = KalPrintDefects::tr("Die Mängel konnten nicht gelesen werden.") + QLatin1Char('\n') + error;
             return;
         }
         if (!output.isEmpty()) {

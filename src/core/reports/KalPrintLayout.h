@@ -61,7 +61,15 @@ private:
     void detailedBlock(const KalPrintDefect &defect);
     void thumbnails(const KalPrintDefect &defect, qreal x);
     void photoAnnex();
-    void annexPhoto(const KalPrintDefect &defect, int index);
+    struct AnnexCell
+    {
+        QStringList head;  // bold
+        QStringList lines; // wrapped to the column
+        KalPrintItem picture;
+        qreal height = 0;
+    };
+    AnnexCell annexCell(const KalPrintDefect &defect, int index, qreal width) const;
+    void placeCell(const AnnexCell &cell, qreal x, qreal width);
     void planAnnex();
     void reductionSummary();
 

@@ -6,6 +6,9 @@
 
 #include <QMap>
 
+// Photos stand three side by side (a defect's usual three in one row), each
+// under its own lines: small enough on paper to need few pixels, large
+// enough to show the defect.
 void KalPrintLayout::photoAnnex()
 {
     bool any = false;
@@ -15,22 +18,54 @@ void KalPrintLayout::photoAnnex()
         return;
     newPage();
     title(KalPrintTexts::text(KalPrintTexts::PhotoAnnexTitle), m_data.projectName);
+    const int columns = 3;
+    const qreal gap = mm(5);
+    const qreal column = (m_width - (columns - 1) * gap) / columns;
+    QVector<AnnexCell> row;
+    auto flush = [&] {
+        qreal height = 0;
+        for (const AnnexCell &cell : qAsConst(row))
+            height = qMax(height, cell.height);
+        if (height <= m_body.height()) {
+            need(height);
+            const qreal top = m_y;
+            for (int i = 0; i < row.size(); ++i) {
+                m_y = top;
+                placeCell(row.at(i), i * (column + gap), column);
+            }
+            m_y = top + height + mm(5);
+        } else {
+            // Lines taller than a page (a hostile comment): one cell after
+            // the other, continuing over pages.
+            for (const AnnexCell &cell : qAsConst(row)) {
+                placeCell(cell, 0, column);
+                m_y += mm(5);
+            }
+        }
+        row.clear();
+    };
     for (int i = 0; i < m_data.defects.size(); ++i) {
         if (canceled(i))
             return;
         const KalPrintDefect &d = m_data.defects.at(i);
-        for (int p = 0; p < d.photos.size(); ++p)
-            annexPhoto(d, p);
+        for (int p = 0; p < d.photos.size(); ++p) {
+            row << annexCell(d, p, column);
+            if (row.size() == columns)
+                flush();
+        }
     }
+    if (!row.isEmpty())
+        flush();
 }
 
-void KalPrintLayout::annexPhoto(const KalPrintDefect &d, int index)
+KalPrintLayout::AnnexCell KalPrintLayout::annexCell(const KalPrintDefect &d, int index, qreal width) const
 {
     using T = KalPrintTexts;
     const KalPrintPhoto &photo = d.photos.at(index);
+    AnnexCell cell;
     // The count is the rows actually there: a stale `image_cnt` must not
     // print "Foto 3 von 2".
-    QStringList lines{T::text(T::PhotoOfDefect).arg(index + 1).arg(d.photos.size()).arg(d.number)};
+    cell.head = wrap(T::text(T::PhotoOfDefect).arg(index + 1).arg(d.photos.size()).arg(d.number), Font9Bold, width);
     QStringList text;
     if (!photo.caption.isEmpty())
         text << T::text(T::PhotoCaption) + photo.caption;
@@ -40,28 +75,31 @@ void KalPrintLayout::annexPhoto(const KalPrintDefect &d, int index)
         text << photo.comment;
     if (d.companyId > 0 && m_data.companyAddress.contains(d.companyId))
         text << T::text(T::Company) + m_data.companyAddress.value(d.companyId).join(QStringLiteral(", "));
-    QStringList wrapped;
     for (const QString &t : qAsConst(text))
-        wrapped << wrap(t, Font9, m_width);
-    const qreal line = lineHeight(Font9);
+        cell.lines << wrap(t, Font9, width);
     const QSize stored = photo.size.isEmpty() ? QSize(4, 3) : photo.size;
-    // Two photos a page; a picture never gets taller than that, so it always
-    // fits on a fresh page.
-    QSizeF box(m_width, m_body.height() * 0.42);
-    const QSizeF shown = QSizeF(stored).scaled(box, Qt::KeepAspectRatio);
-    need(qMin(m_body.height(), lineHeight(Font9Bold) + wrapped.size() * line + shown.height() + mm(2)));
-    addLines(lines, Font9Bold, 0, m_width);
-    addLines(wrapped, Font9, 0, m_width);
+    // Never taller than a third of the page, so a picture always fits on a fresh one.
+    const QSizeF shown = QSizeF(stored).scaled(QSizeF(width, m_body.height() / 3), Qt::KeepAspectRatio);
+    cell.picture.kind = KalPrintItem::Picture;
+    cell.picture.source = KalPrintItem::Photo;
+    cell.picture.id = photo.imageId;
+    cell.picture.storedSize = stored;
+    cell.picture.rect = QRectF(QPointF(0, 0), shown);
+    cell.height =
+        cell.head.size() * lineHeight(Font9Bold) + cell.lines.size() * lineHeight(Font9) + mm(1) + shown.height();
+    return cell;
+}
+
+void KalPrintLayout::placeCell(const AnnexCell &cell, qreal x, qreal width)
+{
+    addLines(cell.head, Font9Bold, x, width);
+    addLines(cell.lines, Font9, x, width);
     m_y += mm(1);
-    need(shown.height());
-    KalPrintItem item;
-    item.kind = KalPrintItem::Picture;
-    item.source = KalPrintItem::Photo;
-    item.id = photo.imageId;
-    item.storedSize = stored;
-    item.rect = QRectF(QPointF(0, m_y), shown);
+    need(cell.picture.rect.height());
+    KalPrintItem item = cell.picture;
+    item.rect.moveTopLeft(QPointF(x, m_y));
     m_document.pages.last().items << item;
-    m_y += shown.height() + mm(5);
+    m_y += item.rect.height();
 }
 
 void KalPrintLayout::planAnnex()

@@ -16,13 +16,15 @@ QDate currentDeadline(const KalPrintDefect &d)
     return d.deadline2.isValid() ? d.deadline2 : d.deadline1.isValid() ? d.deadline1 : d.correctionDate;
 }
 
-// A status colour the text stays readable on: light colours as they are,
-// dark ones lightened.
-QColor cellColor(const QColor &color)
+QColor statusColor(const QColor &color)
 {
-    if (!color.isValid())
-        return QColor(Qt::white);
-    return color.lightness() < 140 ? color.lighter(170) : color;
+    return color.isValid() ? color : QColor(Qt::white);
+}
+
+// Text on a status cell: white on dark colours, black otherwise.
+QColor textOn(const QColor &color)
+{
+    return statusColor(color).lightness() < 128 ? QColor(Qt::white) : QColor(Qt::black);
 }
 
 } // namespace
@@ -39,7 +41,7 @@ void KalPrintLayout::compactList()
         {KalPrintTexts::heading(T::Room), QStringLiteral("Wohnzimmer 1.OG")},
         {KalPrintTexts::heading(T::Company), QStringLiteral("Musterfirma GmbH")},
         {KalPrintTexts::heading(T::Deadline), T::date(QDate(2028, 12, 28))},
-        {KalPrintTexts::heading(T::Status), QStringLiteral("in Bearbeitung")},
+        {KalPrintTexts::heading(T::Status), QStringLiteral("Offen, unzureichend")},
     };
     m_columnWidth = QVector<qreal>(ColumnCount, 0);
     qreal used = 0;
@@ -91,13 +93,15 @@ void KalPrintLayout::compactRow(const KalPrintDefect &d)
     const QString company = d.companyId > 0 ? m_data.companyText.value(d.companyId) : QString();
     const QString cells[ColumnCount] = {
         d.number, QString(), d.roomname, company, KalPrintTexts::date(currentDeadline(d)), d.status};
-    addFill(QRectF(m_columnX.at(StatusColumn), m_y, m_columnWidth.at(StatusColumn), h), cellColor(d.statusColor));
+    addFill(QRectF(m_columnX.at(StatusColumn), m_y, m_columnWidth.at(StatusColumn), h), statusColor(d.statusColor));
     for (int c = 0; c < ColumnCount; ++c) {
         if (c == DescriptionColumn)
             continue;
         const qreal w = m_columnWidth.at(c) - pad;
-        addText(QRectF(m_columnX.at(c), m_y, w, line), elide(cells[c], Font9, w), Font9,
-                Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine);
+        KalPrintItem &text = addText(QRectF(m_columnX.at(c), m_y, w, line), elide(cells[c], Font9, w), Font9,
+                                     Qt::AlignLeft | Qt::AlignTop | Qt::TextSingleLine);
+        if (c == StatusColumn)
+            text.color = textOn(d.statusColor);
     }
     for (int i = 0; i < description.size(); ++i)
         addText(QRectF(m_columnX.at(DescriptionColumn), m_y + i * line, m_columnWidth.at(DescriptionColumn), line),
@@ -157,7 +161,7 @@ void KalPrintLayout::detailedBlock(const KalPrintDefect &d)
             continue;
         if (field.first == T::Status) {
             need(line);
-            addFill(QRectF(x, m_y + line * 0.15, line * 0.7, line * 0.7), cellColor(d.statusColor));
+            addFill(QRectF(x, m_y + line * 0.15, line * 0.7, line * 0.7), statusColor(d.statusColor));
             addText(QRectF(0, m_y, x, line), T::text(T::Status), Font9Bold);
             addLines(wrap(field.second, Font9, width - line), Font9, x + line, width - line);
             continue;
