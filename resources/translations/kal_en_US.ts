@@ -1392,6 +1392,14 @@ Then please click again. The first click loads the filter&apos;s selection list;
         <source>Fortfahren</source>
         <translation>Continue</translation>
     </message>
+    <message>
+        <source>PDF je Firma</source>
+        <translation>PDF per company</translation>
+    </message>
+    <message>
+        <source>Für jede Firma der Liste eine eigene PDF-Datei mit nur ihren Mängeln speichern</source>
+        <translation>Save a separate PDF file for each company in the list with only its defects</translation>
+    </message>
 </context>
 <context>
     <name>KalFontCheck</name>
@@ -1476,6 +1484,118 @@ Please use the format %1!</translation>
     <message>
         <source>Später neu starten</source>
         <translation>Restart later</translation>
+    </message>
+</context>
+<context>
+    <name>KalLogoDialog</name>
+    <message>
+        <source>Logo bearbeiten</source>
+        <translation>Edit logo</translation>
+    </message>
+    <message>
+        <source>Logohöhe im Druck:</source>
+        <translation>Logo height in print:</translation>
+    </message>
+    <message>
+        <source>Höhe der Logos auf der gedruckten Seite</source>
+        <translation>Height of the logos on the printed page</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Die Logos stehen unter den Texten der Kopfzeile statt darüber</source>
+        <translation>The logos stand below the header texts instead of above them</translation>
+    </message>
+    <message>
+        <source>Logos unter Kopfzeile anzeigen</source>
+        <translation>Show logos below the header</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Erstes Logo</source>
+        <translation>First logo</translation>
+    </message>
+    <message>
+        <source>Zweites Logo</source>
+        <translation>Second logo</translation>
+    </message>
+</context>
+<context>
+    <name>KalLogoPanel</name>
+    <message>
+        <source>Ein Bild als Logo für den Kopf der gedruckten Listen wählen</source>
+        <translation>Choose a picture as the logo for the header of printed lists</translation>
+    </message>
+    <message>
+        <source>Neues Logo einfügen</source>
+        <translation>Insert new logo</translation>
+    </message>
+    <message>
+        <source>Dieses Logo aus dem Projekt entfernen</source>
+        <translation>Remove this logo from the project</translation>
+    </message>
+    <message>
+        <source>Aktuelles Logo entfernen</source>
+        <translation>Remove current logo</translation>
+    </message>
+    <message>
+        <source>Ausrichtung:</source>
+        <translation>Alignment:</translation>
+    </message>
+    <message>
+        <source>Das Logo steht am linken Rand</source>
+        <translation>The logo stands at the left margin</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Left</translation>
+    </message>
+    <message>
+        <source>Das Logo steht in der Mitte</source>
+        <translation>The logo stands in the center</translation>
+    </message>
+    <message>
+        <source>Zentriert</source>
+        <translation>Centered</translation>
+    </message>
+    <message>
+        <source>Das Logo steht am rechten Rand</source>
+        <translation>The logo stands at the right margin</translation>
+    </message>
+    <message>
+        <source>Rechts</source>
+        <translation>Right</translation>
+    </message>
+    <message>
+        <source>Kein Logo</source>
+        <translation>No logo</translation>
+    </message>
+    <message>
+        <source>Logo auswählen</source>
+        <translation>Choose logo</translation>
+    </message>
+    <message>
+        <source>Bilder (*.png *.jpg  *.jpeg *.bmp *.gif *.tif *.tiff)</source>
+        <translation>Images (*.png *.jpg  *.jpeg *.bmp *.gif *.tif *.tiff)</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+kann nicht als Logo verwendet werden:
+%2</source>
+        <translation>The file
+%1
+cannot be used as a logo:
+%2</translation>
     </message>
 </context>
 <context>
@@ -2897,6 +3017,25 @@ cannot be written.
     </message>
 </context>
 <context>
+    <name>KalPrintModeSelectDialog</name>
+    <message>
+        <source>Druckformat wählen</source>
+        <translation>Choose print format</translation>
+    </message>
+    <message>
+        <source>Mängelliste &amp;kompakt</source>
+        <translation>&amp;Compact defect list</translation>
+    </message>
+    <message>
+        <source>Mängelliste &amp;detailliert</source>
+        <translation>&amp;Detailed defect list</translation>
+    </message>
+    <message>
+        <source>&amp;Abbrechen</source>
+        <translation>&amp;Cancel</translation>
+    </message>
+</context>
+<context>
     <name>KalPrintPerCompany</name>
     <message>
         <source>Mängelliste - </source>
@@ -2905,6 +3044,92 @@ cannot be written.
     <message>
         <source>Der Ordner %1 existiert nicht.</source>
         <translation>The folder %1 does not exist.</translation>
+    </message>
+</context>
+<context>
+    <name>KalPrintTargets</name>
+    <message>
+        <source>Druckfehler</source>
+        <translation>Print error</translation>
+    </message>
+    <message>
+        <source>Die Mängelliste konnte nicht gedruckt werden.
+%1</source>
+        <translation>The defect list could not be printed.
+%1</translation>
+    </message>
+    <message>
+        <source>Der Drucker meldet einen Fehler.</source>
+        <translation>The printer reports an error.</translation>
+    </message>
+    <message>
+        <source>Die Druckvorschau konnte nicht erstellt werden.
+%1</source>
+        <translation>The print preview could not be created.
+%1</translation>
+    </message>
+    <message>
+        <source> Mängelliste</source>
+        <translation> Defect list</translation>
+    </message>
+    <message>
+        <source>Speichern als PDF-Dokument</source>
+        <translation>Save as PDF document</translation>
+    </message>
+    <message>
+        <source>Pdf files (*.pdf)</source>
+        <translation>Pdf files (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Dateifehler</source>
+        <translation>File error</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+existiert bereits und kann nicht überschrieben werden.
+Überprüfen Sie
+- ob die Datei bereits geöffnet ist
+- Ihre Schreibrechte für die Datei.</source>
+        <translation>The file
+%1
+already exists and cannot be overwritten.
+Please check
+- whether the file is already open
+- your write permissions for the file.</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+konnte nicht geschrieben werden.
+%2</source>
+        <translation>The file
+%1
+could not be written.
+%2</translation>
+    </message>
+    <message>
+        <source>Ordner für die PDF-Dateien je Firma wählen</source>
+        <translation>Choose the folder for the PDF files per company</translation>
+    </message>
+    <message>
+        <source>Die PDF-Dateien je Firma konnten nicht vollständig geschrieben werden.
+%1
+Bereits geschrieben: %2</source>
+        <translation>The PDF files per company could not all be written.
+%1
+Already written: %2</translation>
+    </message>
+    <message>
+        <source>PDF je Firma</source>
+        <translation>PDF per company</translation>
+    </message>
+    <message>
+        <source>%1 PDF-Dateien wurden im Ordner
+%2
+gespeichert.</source>
+        <translation>%1 PDF files were saved in the folder
+%2</translation>
     </message>
 </context>
 <context>

@@ -1392,6 +1392,14 @@ Entonces haga clic de nuevo. El primer clic carga la lista de selección del fil
         <source>Fortfahren</source>
         <translation>Continuar</translation>
     </message>
+    <message>
+        <source>PDF je Firma</source>
+        <translation>PDF por empresa</translation>
+    </message>
+    <message>
+        <source>Für jede Firma der Liste eine eigene PDF-Datei mit nur ihren Mängeln speichern</source>
+        <translation>Guardar un archivo PDF propio para cada empresa de la lista, solo con sus defectos</translation>
+    </message>
 </context>
 <context>
     <name>KalFontCheck</name>
@@ -1476,6 +1484,118 @@ Bitte verwenden Sie das Format %1!</source>
     <message>
         <source>Später neu starten</source>
         <translation>Reiniciar más tarde</translation>
+    </message>
+</context>
+<context>
+    <name>KalLogoDialog</name>
+    <message>
+        <source>Logo bearbeiten</source>
+        <translation>Editar logotipo</translation>
+    </message>
+    <message>
+        <source>Logohöhe im Druck:</source>
+        <translation>Altura del logotipo impreso:</translation>
+    </message>
+    <message>
+        <source>Höhe der Logos auf der gedruckten Seite</source>
+        <translation>Altura de los logotipos en la página impresa</translation>
+    </message>
+    <message>
+        <source> mm</source>
+        <translation> mm</translation>
+    </message>
+    <message>
+        <source>Die Logos stehen unter den Texten der Kopfzeile statt darüber</source>
+        <translation>Los logotipos se colocan debajo de los textos del encabezado en lugar de encima</translation>
+    </message>
+    <message>
+        <source>Logos unter Kopfzeile anzeigen</source>
+        <translation>Mostrar logotipos debajo del encabezado</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Erstes Logo</source>
+        <translation>Primer logotipo</translation>
+    </message>
+    <message>
+        <source>Zweites Logo</source>
+        <translation>Segundo logotipo</translation>
+    </message>
+</context>
+<context>
+    <name>KalLogoPanel</name>
+    <message>
+        <source>Ein Bild als Logo für den Kopf der gedruckten Listen wählen</source>
+        <translation>Elegir una imagen como logotipo para el encabezado de las listas impresas</translation>
+    </message>
+    <message>
+        <source>Neues Logo einfügen</source>
+        <translation>Insertar logotipo nuevo</translation>
+    </message>
+    <message>
+        <source>Dieses Logo aus dem Projekt entfernen</source>
+        <translation>Quitar este logotipo del proyecto</translation>
+    </message>
+    <message>
+        <source>Aktuelles Logo entfernen</source>
+        <translation>Quitar logotipo actual</translation>
+    </message>
+    <message>
+        <source>Ausrichtung:</source>
+        <translation>Alineación:</translation>
+    </message>
+    <message>
+        <source>Das Logo steht am linken Rand</source>
+        <translation>El logotipo se coloca en el margen izquierdo</translation>
+    </message>
+    <message>
+        <source>Links</source>
+        <translation>Izquierda</translation>
+    </message>
+    <message>
+        <source>Das Logo steht in der Mitte</source>
+        <translation>El logotipo se coloca en el centro</translation>
+    </message>
+    <message>
+        <source>Zentriert</source>
+        <translation>Centrado</translation>
+    </message>
+    <message>
+        <source>Das Logo steht am rechten Rand</source>
+        <translation>El logotipo se coloca en el margen derecho</translation>
+    </message>
+    <message>
+        <source>Rechts</source>
+        <translation>Derecha</translation>
+    </message>
+    <message>
+        <source>Kein Logo</source>
+        <translation>Sin logotipo</translation>
+    </message>
+    <message>
+        <source>Logo auswählen</source>
+        <translation>Seleccionar logotipo</translation>
+    </message>
+    <message>
+        <source>Bilder (*.png *.jpg  *.jpeg *.bmp *.gif *.tif *.tiff)</source>
+        <translation>Imágenes (*.png *.jpg  *.jpeg *.bmp *.gif *.tif *.tiff)</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+kann nicht als Logo verwendet werden:
+%2</source>
+        <translation>El archivo
+%1
+no se puede usar como logotipo:
+%2</translation>
     </message>
 </context>
 <context>
@@ -2896,6 +3016,25 @@ kann nicht geschrieben werden.
     </message>
 </context>
 <context>
+    <name>KalPrintModeSelectDialog</name>
+    <message>
+        <source>Druckformat wählen</source>
+        <translation>Elegir formato de impresión</translation>
+    </message>
+    <message>
+        <source>Mängelliste &amp;kompakt</source>
+        <translation>Lista de defectos &amp;compacta</translation>
+    </message>
+    <message>
+        <source>Mängelliste &amp;detailliert</source>
+        <translation>Lista de defectos &amp;detallada</translation>
+    </message>
+    <message>
+        <source>&amp;Abbrechen</source>
+        <translation>C&amp;ancelar</translation>
+    </message>
+</context>
+<context>
     <name>KalPrintPerCompany</name>
     <message>
         <source>Mängelliste - </source>
@@ -2904,6 +3043,91 @@ kann nicht geschrieben werden.
     <message>
         <source>Der Ordner %1 existiert nicht.</source>
         <translation>La carpeta %1 no existe.</translation>
+    </message>
+</context>
+<context>
+    <name>KalPrintTargets</name>
+    <message>
+        <source>Druckfehler</source>
+        <translation>Error de impresión</translation>
+    </message>
+    <message>
+        <source>Die Mängelliste konnte nicht gedruckt werden.
+%1</source>
+        <translation>No se pudo imprimir la lista de defectos.
+%1</translation>
+    </message>
+    <message>
+        <source>Der Drucker meldet einen Fehler.</source>
+        <translation>La impresora indica un error.</translation>
+    </message>
+    <message>
+        <source>Die Druckvorschau konnte nicht erstellt werden.
+%1</source>
+        <translation>No se pudo crear la vista previa de impresión.
+%1</translation>
+    </message>
+    <message>
+        <source> Mängelliste</source>
+        <translation> Lista de defectos</translation>
+    </message>
+    <message>
+        <source>Speichern als PDF-Dokument</source>
+        <translation>Guardar como documento PDF</translation>
+    </message>
+    <message>
+        <source>Pdf files (*.pdf)</source>
+        <translation>Archivos PDF (*.pdf)</translation>
+    </message>
+    <message>
+        <source>Dateifehler</source>
+        <translation>Error de archivo</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+existiert bereits und kann nicht überschrieben werden.
+Überprüfen Sie
+- ob die Datei bereits geöffnet ist
+- Ihre Schreibrechte für die Datei.</source>
+        <translation>El archivo
+%1
+ya existe y no se puede sobrescribir.
+Compruebe
+- si el archivo ya está abierto
+- sus permisos de escritura para el archivo.</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+konnte nicht geschrieben werden.
+%2</source>
+        <translation>No se pudo escribir el archivo
+%1
+%2</translation>
+    </message>
+    <message>
+        <source>Ordner für die PDF-Dateien je Firma wählen</source>
+        <translation>Elegir la carpeta para los archivos PDF por empresa</translation>
+    </message>
+    <message>
+        <source>Die PDF-Dateien je Firma konnten nicht vollständig geschrieben werden.
+%1
+Bereits geschrieben: %2</source>
+        <translation>No se pudieron escribir todos los archivos PDF por empresa.
+%1
+Ya escritos: %2</translation>
+    </message>
+    <message>
+        <source>PDF je Firma</source>
+        <translation>PDF por empresa</translation>
+    </message>
+    <message>
+        <source>%1 PDF-Dateien wurden im Ordner
+%2
+gespeichert.</source>
+        <translation>Se guardaron %1 archivos PDF en la carpeta
+%2</translation>
     </message>
 </context>
 <context>

@@ -570,11 +570,7 @@ private slots:
     // has an icon.
     void actionsWithoutFeatureAreDisabled()
     {
-        const QStringList unbuilt{"actionEditLogos",
-                                  "actionPrintDefectListShort",
-                                  "actionPrintDefectListLong",
-                                  "actionPrintPreview",
-                                  "actionInitialDataImport",
+        const QStringList unbuilt{"actionInitialDataImport",
                                   "actionImportFromApp",
                                   "actionUpdateTest",
                                   "actionUpdateDataImport",
@@ -646,9 +642,11 @@ private slots:
         QTest::newRow("save as") << "actionFileSaveAs" << false;
         QTest::newRow("compact") << "actionCompactDB" << false;
         QTest::newRow("add defect") << "actionAddDefect" << false;
+        QTest::newRow("logos") << "actionEditLogos" << false;
         QTest::newRow("new") << "actionCreateFile" << true;
         QTest::newRow("open") << "actionOpenFile" << true;
-        QTest::newRow("not built stays off") << "actionPrintPreview" << false;
+        QTest::newRow("print preview") << "actionPrintPreview" << false;
+        QTest::newRow("not built stays off") << "actionUpdateTest" << false;
     }
 
     void actionsFollowTheOpenProject()

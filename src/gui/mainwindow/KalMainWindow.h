@@ -114,6 +114,10 @@ private slots:
     void slotEditProjectData();
     void slotEditCompanyTable();
     void slotEditCompanyFormat();
+    void slotEditLogos();
+    void slotPrintDefectListShort();
+    void slotPrintDefectListLong();
+    void slotPrintPreview();
     void slotImportDefectManagerCompanies();
     void slotImportSiteJournalCompanies();
     void slotImportCSVCompanies();

@@ -22,6 +22,8 @@
 #include "gui/plans/KalPlanPanel.h"
 #include "gui/plans/KalStandardMarkerDialog.h"
 #include "gui/plans/KalTextEditor.h"
+#include "gui/reports/KalFilterDialog.h"
+#include "gui/reports/KalLogoDialog.h"
 #include "gui/textaids/KalCompleterDialog.h"
 #include "gui/widgets/KalFileDialog.h"
 #include "gui/widgets/KalItemDelegate.h"
@@ -210,6 +212,33 @@ void KalMainWindow::slotEditProjectData()
 void KalMainWindow::slotEditCompanyTable()
 {
     openMasterData(KalMasterDataDialog::CompanyPage);
+}
+
+void KalMainWindow::slotEditLogos()
+{
+    KalLogoDialog dialog(m_project, this);
+    dialog.exec();
+}
+
+void KalMainWindow::slotPrintDefectListShort()
+{
+    KalFilterDialog dialog(m_project, this);
+    dialog.setLayout(KalPrintOptions::Compact);
+    dialog.exec();
+}
+
+void KalMainWindow::slotPrintDefectListLong()
+{
+    KalFilterDialog dialog(m_project, this);
+    dialog.setLayout(KalPrintOptions::Detailed);
+    dialog.exec();
+}
+
+void KalMainWindow::slotPrintPreview()
+{
+    // The layout is asked for when a print button is pressed.
+    KalFilterDialog dialog(m_project, this);
+    dialog.exec();
 }
 
 void KalMainWindow::slotEditCompanyFormat()

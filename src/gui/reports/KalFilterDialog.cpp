@@ -4,6 +4,8 @@
 #include "core/project/KalEnvironment.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
+#include "gui/reports/KalPrintModeSelectDialog.h"
+#include "gui/reports/KalPrintTargets.h"
 
 #include <QSet>
 #include <QSettings>
@@ -30,9 +32,6 @@ KalFilterDialog::KalFilterDialog(KalProject *project, QWidget *parent)
     m_ui->setupUi(this);
     m_ui->lvSelectionList->setModel(m_listModel);
     m_ui->lvSelectionList->setEditTriggers(QAbstractItemView::NoEditTriggers);
-    // Printing is not part of the program yet: its buttons stay disabled.
-    for (QPushButton *print : {m_ui->pbPrint, m_ui->pbPrintPreview, m_ui->pbPDF})
-        print->setEnabled(false);
 
     for (int list = 0; list < State::ListCount; ++list)
         connect(listBox(State::List(list)), &QCheckBox::clicked, this,
@@ -50,6 +49,10 @@ KalFilterDialog::KalFilterDialog(KalProject *project, QWidget *parent)
             &KalFilterDialog::slotCreationDateEditingFinished);
     connect(m_ui->pbResetFilters, &QPushButton::clicked, this, &KalFilterDialog::slotResetFiltersClicked);
     connect(m_ui->pbSave, &QPushButton::clicked, this, &KalFilterDialog::slotSaveClicked);
+    connect(m_ui->pbPrint, &QPushButton::clicked, this, &KalFilterDialog::slotPrintClicked);
+    connect(m_ui->pbPrintPreview, &QPushButton::clicked, this, &KalFilterDialog::slotPrintPreviewClicked);
+    connect(m_ui->pbPDF, &QPushButton::clicked, this, &KalFilterDialog::slotPDFClicked);
+    connect(m_ui->pbPDFPerCompany, &QPushButton::clicked, this, &KalFilterDialog::slotPDFPerCompanyClicked);
     connect(m_ui->pbCancel, &QPushButton::clicked, this, &QDialog::reject);
 
     applyState(m_filter.restore());
@@ -245,15 +248,75 @@ void KalFilterDialog::slotResetFiltersClicked()
     applyState(reset);
 }
 
-void KalFilterDialog::slotSaveClicked()
+bool KalFilterDialog::datesAccepted()
 {
     // A date text that is not a date is refused with its own message.
     for (KalDateEdit *date : {m_ui->deCreationDateFrom, m_ui->deCreationDateTo, m_ui->deDeadline}) {
         if (!date->checkInput())
-            return;
+            return false;
     }
-    if (m_filter.save(state()))
+    return true;
+}
+
+void KalFilterDialog::slotSaveClicked()
+{
+    if (datesAccepted() && m_filter.save(state()))
         accept();
+}
+
+bool KalFilterDialog::prepareList(QVector<qint64> *ids, KalPrintOptions *options)
+{
+    if (!datesAccepted())
+        return false;
+    const State s = state();
+    const KalDefectFilterResult result = m_filter.select(s);
+    if (result.outcome != KalDefectFilterResult::Listed || !m_filter.save(s))
+        return false;
+    KalPrintOptions::Layout layout = KalPrintOptions::Compact;
+    if (m_layout)
+        layout = *m_layout;
+    else if (!KalPrintModeSelectDialog::choose(this, &layout))
+        return false;
+    *ids = result.ids();
+    *options = KalPrintOptions::fromSettings();
+    options->layout = layout;
+    options->photosInList = s.printPhotosInList;
+    options->photoAnnex = s.printPhotosAsAnnex;
+    options->planAnnex = s.printPlansAsAnnex;
+    return true;
+}
+
+void KalFilterDialog::printTo(int target)
+{
+    QVector<qint64> ids;
+    KalPrintOptions options;
+    if (!prepareList(&ids, &options))
+        return;
+    KalPrintTargets targets(m_project->database(), ids, options);
+    if (target < 0)
+        targets.runPerCompany(this);
+    else
+        targets.run(this, KalPrintTargets::Target(target));
+}
+
+void KalFilterDialog::slotPrintClicked()
+{
+    printTo(KalPrintTargets::Print);
+}
+
+void KalFilterDialog::slotPrintPreviewClicked()
+{
+    printTo(KalPrintTargets::Preview);
+}
+
+void KalFilterDialog::slotPDFClicked()
+{
+    printTo(KalPrintTargets::Pdf);
+}
+
+void KalFilterDialog::slotPDFPerCompanyClicked()
+{
+    printTo(-1);
 }
 
 void KalFilterDialog::done(int result)

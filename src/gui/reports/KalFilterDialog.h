@@ -2,10 +2,12 @@
 
 #include "core/reports/KalDefectFilter.h"
 #include "core/reports/KalDefectFilterState.h"
+#include "core/reports/KalPrintDefects.h"
 
 #include <QDialog>
 #include <array>
 #include <memory>
+#include <optional>
 
 class KalProject;
 class QCheckBox;
@@ -30,6 +32,10 @@ public:
     // The choices as the widgets show them now.
     KalDefectFilterState state() const;
 
+    // The layout chosen before the dialog opened (the main window's print
+    // entries); without one the print buttons ask for it.
+    void setLayout(KalPrintOptions::Layout layout) { m_layout = layout; }
+
 private slots:
     void slotListFilterClicked(int list, bool checked);
     void slotSelectionListItemChanged(QStandardItem *item);
@@ -39,6 +45,10 @@ private slots:
     void slotCreationDateEditingFinished();
     void slotResetFiltersClicked();
     void slotSaveClicked();
+    void slotPrintClicked();
+    void slotPrintPreviewClicked();
+    void slotPDFClicked();
+    void slotPDFPerCompanyClicked();
 
 protected:
     void done(int result) override;
@@ -49,6 +59,11 @@ private:
     void showList(int list);
     void setAllItems(const std::function<Qt::CheckState(Qt::CheckState)> &change);
     void explainSecondClick();
+    bool datesAccepted();
+    // Selects, saves the choices and asks for the layout: false when any
+    // of that refused or the user cancelled.
+    bool prepareList(QVector<qint64> *ids, KalPrintOptions *options);
+    void printTo(int target);
 
     KalProject *m_project;
     KalDefectFilter m_filter;
@@ -57,4 +72,5 @@ private:
     // Lists and ticked entries live here; the widgets hold everything else.
     KalDefectFilterState m_lists;
     int m_shownList = -1; // the list the view shows, -1: none
+    std::optional<KalPrintOptions::Layout> m_layout;
 };
