@@ -196,7 +196,6 @@ private slots:
         const QString project = dir.filePath(QStringLiteral("Bau \"Süd\".pwp"));
         QVERIFY(KalTestFiles::createProject(project, 2));
         const QString target = KalShrinkBackup::fileName(project);
-        QCOMPARE(target, project + QStringLiteral(".Backup"));
         if (situation == QLatin1String("exists"))
             QVERIFY(KalTestFiles::writeFile(target, "older backup"));
         if (situation == QLatin1String("readonly"))
