@@ -35,11 +35,10 @@ private:
         return path;
     }
 
-    QString photo(const QString &name, int orientation = 1, const QString &date = QString())
+    QString photo(const QString &name, int orientation = 1)
     {
         Exif exif;
         exif.orientation = orientation;
-        exif.dateTaken = date;
         return writeFile(name, KalTestImages::jpeg(KalTestImages::marked({400, 300}), exif));
     }
 
