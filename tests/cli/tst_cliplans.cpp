@@ -100,25 +100,25 @@ private slots:
 
     void refusalsChangeNothing_data()
     {
-        QTest::addColumn<QStringList>("args"); // "@P" the project, "@S" the sheet id, "@D/" the folder
+        QTest::addColumn<QString>("command"); // "@P" the project, "@S" the sheet id, "@D/" the folder
         QTest::addColumn<int>("code");
         QTest::addColumn<QString>("message");
-        QTest::newRow("plan file missing") << QStringList{"import-plan", "@P", "@D/fehlt.pdf"} << 1 << "fehlt.pdf";
-        QTest::newRow("zero-byte plan") << QStringList{"import-plan", "@P", "@D/leer.pdf"} << 1
-                                        << "Fehler Plan Import: Der Plan";
-        QTest::newRow("no plan file") << QStringList{"import-plan", "@P", "--name", "x"} << 2 << "needs a plan file";
-        QTest::newRow("unknown sheet") << QStringList{"export-plan", "@P", "--plan", "999", "--output", "@D/o.png"} << 1
-                                       << "Der Plan 999 kann nicht ausgegeben werden.";
-        QTest::newRow("undecodable picture") << QStringList{"export-plan", "@P", "--plan", "@S", "--output", "@D/o.png"}
-                                             << 1 << "kann nicht ausgegeben werden.";
-        QTest::newRow("no picture suffix")
-            << QStringList{"export-plan", "@P", "--plan", "@S", "--output", "@D/o.txt"} << 2 << "picture suffix";
-        QTest::newRow("plan id not a number")
-            << QStringList{"export-plan", "@P", "--plan", "eins", "--output", "@D/o.png"} << 2 << "--plan ID";
+        const auto row = [](const char *name, const char *command, int code, const char *message) {
+            QTest::newRow(name) << QString(command) << code << QString(message);
+        };
+        row("plan file missing", "import-plan @P @D/fehlt.pdf", 1, "fehlt.pdf");
+        row("zero-byte plan", "import-plan @P @D/leer.pdf", 1, "Fehler Plan Import: Der Plan");
+        row("no plan file", "import-plan @P --name x", 2, "needs a plan file");
+        row("unknown sheet", "export-plan @P --plan 999 --output @D/o.png", 1,
+            "Der Plan 999 kann nicht ausgegeben werden.");
+        row("undecodable picture", "export-plan @P --plan @S --output @D/o.png", 1, "kann nicht ausgegeben werden.");
+        row("no picture suffix", "export-plan @P --plan @S --output @D/o.txt", 2, "picture suffix");
+        row("plan id not a number", "export-plan @P --plan eins --output @D/o.png", 2, "--plan ID");
     }
     void refusalsChangeNothing()
     {
-        QFETCH(QStringList, args);
+        QFETCH(QString, command);
+        QStringList args = command.split(QLatin1Char(' '));
         QFETCH(int, code);
         QFETCH(QString, message);
         const qint64 sheet = importPlan();

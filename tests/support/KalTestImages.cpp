@@ -14,18 +14,14 @@ struct TiffWriter
 {
     bool big;
     QByteArray bytes;
-    void u16(quint16 v)
+    template <typename T> void put(T v)
     {
-        char b[2];
+        char b[sizeof(T)];
         big ? qToBigEndian(v, b) : qToLittleEndian(v, b);
-        bytes.append(b, 2);
+        bytes.append(b, sizeof(T));
     }
-    void u32(quint32 v)
-    {
-        char b[4];
-        big ? qToBigEndian(v, b) : qToLittleEndian(v, b);
-        bytes.append(b, 4);
-    }
+    void u16(quint16 v) { put(v); }
+    void u32(quint32 v) { put(v); }
     void entry(quint16 tag, quint16 type, quint32 count, quint32 valueOrOffset, bool shortValue = false)
     {
         u16(tag);
@@ -79,7 +75,8 @@ int redCorner(const QImage &picture)
     return -1;
 }
 
-QByteArray exifSegment(const Exif &exif)
+// A bare EXIF APP1 segment (marker and length included).
+static QByteArray exifSegment(const Exif &exif)
 {
     TiffWriter tiff{exif.bigEndian, {}};
     tiff.bytes.append(exif.bigEndian ? "MM" : "II");
@@ -116,24 +113,20 @@ QByteArray exifSegment(const Exif &exif)
     return segment + body;
 }
 
-QByteArray encoded(const QImage &picture, const char *format)
+QByteArray encoded(const QImage &picture, const char *format, int quality)
 {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
     QImageWriter writer(&buffer, format);
+    writer.setQuality(quality);
     writer.write(picture);
     return bytes;
 }
 
 QByteArray jpeg(const QImage &picture, const Exif &exif, int quality)
 {
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    QImageWriter writer(&buffer, "jpeg");
-    writer.setQuality(quality);
-    writer.write(picture);
+    const QByteArray bytes = encoded(picture, "jpeg", quality);
     if (exif.orientation < 0 && exif.dateTaken.isEmpty())
         return bytes;
     // Qt writes a JFIF APP0 first; cameras put APP1 right after the start marker.
@@ -156,14 +149,8 @@ QByteArray cmykJpeg(const QSize &size)
     jpeg_set_defaults(&cinfo);
     cinfo.write_Adobe_marker = TRUE;
     jpeg_start_compress(&cinfo, TRUE);
-    QByteArray row(size.width() * 4, '\0');
-    for (int x = 0; x < size.width(); ++x) {
-        // Adobe CMYK is stored inverted: 255 = no ink. Cyan ink only.
-        row[x * 4] = char(0);
-        row[x * 4 + 1] = char(255);
-        row[x * 4 + 2] = char(255);
-        row[x * 4 + 3] = char(255);
-    }
+    // Adobe CMYK is stored inverted: 255 = no ink. Cyan ink only.
+    QByteArray row = QByteArray("\0\xFF\xFF\xFF", 4).repeated(size.width());
     while (cinfo.next_scanline < cinfo.image_height) {
         JSAMPROW line = reinterpret_cast<JSAMPROW>(row.data());
         jpeg_write_scanlines(&cinfo, &line, 1);

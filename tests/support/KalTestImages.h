@@ -26,10 +26,8 @@ struct Exif
 
 // `picture` as JPEG with the EXIF block right after the start marker.
 QByteArray jpeg(const QImage &picture, const Exif &exif = Exif(), int quality = 90);
-// A bare EXIF APP1 segment (marker and length included).
-QByteArray exifSegment(const Exif &exif);
 // Picture data as Qt writes it in `format` ("png", "bmp").
-QByteArray encoded(const QImage &picture, const char *format);
+QByteArray encoded(const QImage &picture, const char *format, int quality = -1);
 // A GIF of a grey-and-red picture such as marked() makes.
 QByteArray gif(const QImage &picture);
 // A CMYK JPEG (Adobe inverted, as cameras and print tools write it).

@@ -2,6 +2,7 @@
 // camera file, a hostile file or an odd setting turns into in the project.
 #include "core/photos/KalPictureStore.h"
 #include "core/project/KalProject.h"
+#include "support/KalTestFiles.h"
 #include "support/KalTestImages.h"
 #include "support/KalTestProject.h"
 #include "support/KalTestSettings.h"
@@ -146,7 +147,6 @@ private slots:
         const QVariant none;
         QTest::newRow("exactly the limit") << QSize(1000, 1000) << 1 << none << QSize(1000, 1000) << QSize(240, 240);
         QTest::newRow("one more") << QSize(1001, 1000) << 1 << none << QSize(1000, 999) << QSize(240, 240);
-        QTest::newRow("fits: kept") << QSize(800, 600) << 1 << none << QSize(800, 600) << QSize(240, 180);
         QTest::newRow("small: never enlarged") << QSize(120, 90) << 1 << none << QSize(120, 90) << QSize(120, 90);
         QTest::newRow("portrait") << QSize(1500, 3000) << 1 << none << QSize(500, 1000) << QSize(120, 240);
         QTest::newRow("sliver keeps a pixel") << QSize(4000, 2) << 1 << none << QSize(1000, 1) << QSize(240, 1);
@@ -222,10 +222,7 @@ private slots:
         QFETCH(QString, name);
         QFETCH(QSize, stored);
         const QString path = m_dir.filePath(name);
-        QFile file(path);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(data);
-        file.close();
+        QVERIFY(KalTestFiles::writeFile(path, data));
         const int before = m_fx.count(QStringLiteral("image"));
         QString error;
         const qint64 id = store().insertFromFile(path, &error);
@@ -268,28 +265,6 @@ private slots:
         QCOMPARE(store().insertFromFile(path, &error), qint64(-1));
         QVERIFY(error.contains(QDir::toNativeSeparators(path)));
         QCOMPARE(m_fx.count(QStringLiteral("image")), 0);
-    }
-
-    void exifDate_data()
-    {
-        QTest::addColumn<QString>("written");
-        QTest::addColumn<QDateTime>("read");
-        QTest::newRow("camera date") << "2024:05:01 10:11:12" << QDateTime(QDate(2024, 5, 1), QTime(10, 11, 12));
-        QTest::newRow("blank date") << "    :  :     :  :  " << QDateTime();
-        QTest::newRow("month 13") << "2024:13:01 10:11:12" << QDateTime();
-        QTest::newRow("other notation") << "01.05.2024 10:11" << QDateTime();
-    }
-    void exifDate()
-    {
-        QFETCH(QString, written);
-        QFETCH(QDateTime, read);
-        Exif exif;
-        exif.dateTaken = written;
-        const QDateTime taken =
-            KalPictureStore::exifDateTaken(KalTestImages::jpeg(KalTestImages::marked({64, 48}), exif));
-        QCOMPARE(taken.isValid(), read.isValid());
-        if (read.isValid())
-            QCOMPARE(taken, read);
     }
 
     void updateKeepsIdAndRefits()

@@ -88,14 +88,6 @@ private slots:
         QCOMPARE(partsAt(type, point), parts);
     }
 
-    void pinKeepsItsAsymmetry()
-    {
-        const QRectF bounds = KalMarkerShapes::paths(1).body.boundingRect();
-        QCOMPARE(bounds.left(), 0.0);
-        QVERIFY2(bounds.right() > 320.0 && bounds.right() < 320.719, qPrintable(QString::number(bounds.right())));
-        QCOMPARE(bounds.bottom(), 512.0);
-    }
-
     void paintedPixels_data()
     {
         QTest::addColumn<double>("lineWidth");

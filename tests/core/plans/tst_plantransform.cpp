@@ -41,21 +41,19 @@ private slots:
         QTest::addColumn<double>("ry");
         QTest::addColumn<QPointF>("newPos");
         QTest::addColumn<double>("newScale");
-        QTest::newRow("half size") << QPointF(100, 100) << QPointF(20, 20) << 1.0 << 0.5 << 0.5 << QPointF(40, 40)
-                                   << 0.5;
-        QTest::newRow("double size") << QPointF(100, 50) << QPointF(160, 512) << 0.8 << 2.0 << 2.0 << QPointF(360, 612)
-                                     << 1.6;
-        QTest::newRow("only wider: scale kept")
-            << QPointF(100, 50) << QPointF(20, 10) << 0.8 << 1.5 << 1.0 << QPointF(160, 50) << 0.8;
-        QTest::newRow("only taller: scale follows")
-            << QPointF(100, 50) << QPointF(20, 10) << 0.8 << 1.0 << 1.5 << QPointF(100, 80) << 1.2;
-        QTest::newRow("unequal ratios: height wins")
-            << QPointF(0, 0) << QPointF(0, 0) << 1.0 << 0.25 << 0.5 << QPointF(0, 0) << 0.5;
-        QTest::newRow("ratio 1: a hostile row stays")
-            << QPointF(std::nan(""), 7) << QPointF(3, 3) << 2.0 << 1.0 << 1.0 << QPointF(std::nan(""), 7) << 2.0;
-        QTest::newRow("fraction of a 4999 px plan")
-            << QPointF(1000, 1000) << QPointF(0, 0) << 1.0 << 3000.0 / 4999.0 << 3000.0 / 4999.0
-            << QPointF(1000.0 * 3000.0 / 4999.0, 1000.0 * 3000.0 / 4999.0) << 3000.0 / 4999.0;
+        const auto row = [](const char *name, QPointF pos, QPointF tp, double scale, double rx, double ry,
+                            QPointF newPos, double newScale) {
+            QTest::newRow(name) << pos << tp << scale << rx << ry << newPos << newScale;
+        };
+        const double nan = std::nan("");
+        const double f = 3000.0 / 4999.0;
+        row("half size", {100, 100}, {20, 20}, 1.0, 0.5, 0.5, {40, 40}, 0.5);
+        row("double size", {100, 50}, {160, 512}, 0.8, 2.0, 2.0, {360, 612}, 1.6);
+        row("only wider: scale kept", {100, 50}, {20, 10}, 0.8, 1.5, 1.0, {160, 50}, 0.8);
+        row("only taller: scale follows", {100, 50}, {20, 10}, 0.8, 1.0, 1.5, {100, 80}, 1.2);
+        row("unequal ratios: height wins", {0, 0}, {0, 0}, 1.0, 0.25, 0.5, {0, 0}, 0.5);
+        row("ratio 1: a hostile row stays", {nan, 7}, {3, 3}, 2.0, 1.0, 1.0, {nan, 7}, 2.0);
+        row("fraction of a 4999 px plan", {1000, 1000}, {0, 0}, 1.0, f, f, {1000.0 * f, 1000.0 * f}, f);
     }
     void rescale()
     {

