@@ -2975,6 +2975,14 @@ Do you really want to delete this plan?</translation>
         <source>Der Plan %1 konnte nicht gelöscht werden.</source>
         <translation>Plan %1 could not be deleted.</translation>
     </message>
+    <message>
+        <source>Die neue Planversion konnte nicht gespeichert werden.</source>
+        <translation>The new plan version could not be saved.</translation>
+    </message>
+    <message>
+        <source>Der Mangel existiert nicht.</source>
+        <translation>The defect does not exist.</translation>
+    </message>
 </context>
 <context>
     <name>KalPrintDefects</name>

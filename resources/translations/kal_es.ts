@@ -2975,6 +2975,14 @@ Si elimina el plano, se anulan estas asignaciones y los defectos dejan de estar 
         <source>Der Plan %1 konnte nicht gelöscht werden.</source>
         <translation>No se pudo eliminar el plano %1.</translation>
     </message>
+    <message>
+        <source>Die neue Planversion konnte nicht gespeichert werden.</source>
+        <translation>No se pudo guardar la nueva versión del plano.</translation>
+    </message>
+    <message>
+        <source>Der Mangel existiert nicht.</source>
+        <translation>El defecto no existe.</translation>
+    </message>
 </context>
 <context>
     <name>KalPrintDefects</name>
