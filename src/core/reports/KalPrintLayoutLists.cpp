@@ -93,7 +93,10 @@ void KalPrintLayout::compactRow(const KalPrintDefect &d)
     const QString company = d.companyId > 0 ? m_data.companyText.value(d.companyId) : QString();
     const QString cells[ColumnCount] = {
         d.number, QString(), d.roomname, company, KalPrintTexts::date(currentDeadline(d)), d.status};
-    addFill(QRectF(m_columnX.at(StatusColumn), m_y, m_columnWidth.at(StatusColumn), h), statusColor(d.statusColor));
+    // The fill starts just below the rule above it, which it would cover.
+    const qreal ruleGap = mm(0.3);
+    addFill(QRectF(m_columnX.at(StatusColumn), m_y + ruleGap, m_columnWidth.at(StatusColumn), h - ruleGap),
+            statusColor(d.statusColor));
     for (int c = 0; c < ColumnCount; ++c) {
         if (c == DescriptionColumn)
             continue;
