@@ -2182,16 +2182,6 @@ The buttons at the bottom left add, copy or delete defects.</translation>
         <translation>%1 pixels</translation>
     </message>
     <message>
-        <source>Sie haben kein Objekt ausgewählt.
-Sie wählen ein Objekt aus, indem Sie es anklicken.
-Sie wählen mehrere Objekte aus, indem Sie sie bei gedrückter Strg-Taste anklicken.
-</source>
-        <translation>You have not selected an object.
-You select an object by clicking it.
-You select several objects by clicking them while holding down the Ctrl key.
-</translation>
-    </message>
-    <message>
         <source>Objekte drehen</source>
         <translation>Rotate objects</translation>
     </message>
@@ -2526,16 +2516,6 @@ Do you really want to delete these photos?</translation>
     <message>
         <source>Marker setzen</source>
         <translation>Place marker</translation>
-    </message>
-    <message>
-        <source>Sie haben kein Objekt ausgewählt.
-Sie wählen ein Objekt aus, indem Sie es anklicken.
-Sie wählen mehrere Objekte aus, indem Sie sie bei gedrückter Strg-Taste anklicken.
-</source>
-        <translation>You have not selected an object.
-You select an object by clicking on it.
-You select several objects by clicking on them while holding down the Ctrl key.
-</translation>
     </message>
     <message>
         <source>Objekte drehen</source>
@@ -3780,6 +3760,19 @@ The changes will be saved before the database is cleaned up.
     <message>
         <source>Verwerfen</source>
         <translation>Discard</translation>
+    </message>
+</context>
+<context>
+    <name>KalSelectionSteps</name>
+    <message>
+        <source>Sie haben kein Objekt ausgewählt.
+Sie wählen ein Objekt aus, indem Sie es anklicken.
+Sie wählen mehrere Objekte aus, indem Sie sie bei gedrückter Strg-Taste anklicken.
+</source>
+        <translation>You have not selected an object.
+You select an object by clicking it.
+You select several objects by clicking them while holding down the Ctrl key.
+</translation>
     </message>
 </context>
 <context>

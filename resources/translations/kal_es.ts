@@ -2182,16 +2182,6 @@ Los botones de abajo a la izquierda añaden, copian o eliminan defectos.</transl
         <translation>%1 píxeles</translation>
     </message>
     <message>
-        <source>Sie haben kein Objekt ausgewählt.
-Sie wählen ein Objekt aus, indem Sie es anklicken.
-Sie wählen mehrere Objekte aus, indem Sie sie bei gedrückter Strg-Taste anklicken.
-</source>
-        <translation>No ha seleccionado ningún objeto.
-Seleccione un objeto haciendo clic en él.
-Seleccione varios objetos haciendo clic en ellos mientras mantiene pulsada la tecla Ctrl.
-</translation>
-    </message>
-    <message>
         <source>Objekte drehen</source>
         <translation>Girar objetos</translation>
     </message>
@@ -2526,16 +2516,6 @@ Sollen diese Foto tatsächlich gelöscht werden?</source>
     <message>
         <source>Marker setzen</source>
         <translation>Colocar marcador</translation>
-    </message>
-    <message>
-        <source>Sie haben kein Objekt ausgewählt.
-Sie wählen ein Objekt aus, indem Sie es anklicken.
-Sie wählen mehrere Objekte aus, indem Sie sie bei gedrückter Strg-Taste anklicken.
-</source>
-        <translation>No ha seleccionado ningún objeto.
-Seleccione un objeto haciendo clic en él.
-Seleccione varios objetos haciendo clic en ellos mientras mantiene pulsada la tecla Ctrl.
-</translation>
     </message>
     <message>
         <source>Objekte drehen</source>
@@ -3778,6 +3758,19 @@ Los cambios se guardarán antes de depurar la base de datos.
     <message>
         <source>Verwerfen</source>
         <translation>Descartar</translation>
+    </message>
+</context>
+<context>
+    <name>KalSelectionSteps</name>
+    <message>
+        <source>Sie haben kein Objekt ausgewählt.
+Sie wählen ein Objekt aus, indem Sie es anklicken.
+Sie wählen mehrere Objekte aus, indem Sie sie bei gedrückter Strg-Taste anklicken.
+</source>
+        <translation>No ha seleccionado ningún objeto.
+Seleccione un objeto haciendo clic en él.
+Seleccione varios objetos haciendo clic en ellos mientras mantiene pulsada la tecla Ctrl.
+</translation>
     </message>
 </context>
 <context>

@@ -295,50 +295,34 @@ void KalPhotoEditor::startTool(int mode)
 QList<QGraphicsItem *> KalPhotoEditor::selectionOrMessage(const QString &title)
 {
     const QList<QGraphicsItem *> selected = m_scene->selectedItems();
-    if (selected.isEmpty()) {
-        KalPrompt::information(
-            title, tr("Sie haben kein Objekt ausgewählt.\nSie wählen ein Objekt aus, indem Sie es anklicken.\nSie "
-                      "wählen mehrere Objekte aus, indem Sie sie bei gedrückter Strg-Taste anklicken.\n"));
-    }
-    return selected;
+    return KalSelectionSteps::anySelected(selected, title) ? selected : QList<QGraphicsItem *>();
 }
 
 void KalPhotoEditor::transformSelection(qreal degrees, qreal factor, const QString &title)
 {
     const QList<QGraphicsItem *> selected = selectionOrMessage(title);
-    if (selected.isEmpty())
-        return;
-    QList<KalItemPlacement> before;
-    QList<KalItemPlacement> after;
-    for (QGraphicsItem *item : selected) {
-        before.append(KalItemPlacement::of(item));
-        KalItemPlacement changed = before.last();
-        changed.rotation += degrees;
-        changed.scale *= factor;
-        after.append(changed);
-    }
-    m_undo.push(KalPhotoEditorChangeCommand::placement(selected, before, after, title));
+    if (!selected.isEmpty())
+        m_undo.push(KalPhotoEditorChangeCommand::turnAndScale(selected, degrees, factor, title));
 }
 
 void KalPhotoEditor::rotateLeftClicked()
 {
-    transformSelection(-15, 1, tr("Objekte drehen"));
+    transformSelection(-KalSelectionSteps::TurnDegrees, 1, tr("Objekte drehen"));
 }
 
 void KalPhotoEditor::rotateRightClicked()
 {
-    transformSelection(15, 1, tr("Objekte drehen"));
+    transformSelection(KalSelectionSteps::TurnDegrees, 1, tr("Objekte drehen"));
 }
 
 void KalPhotoEditor::upscaleClicked()
 {
-    transformSelection(0, 1.1, tr("Objekt vergrößern"));
+    transformSelection(0, KalSelectionSteps::Enlarge, tr("Objekt vergrößern"));
 }
 
 void KalPhotoEditor::downscaleClicked()
 {
-    // This step, not 1 / 1.1: shrinking and enlarging again gives 1.00001.
-    transformSelection(0, 0.9091, tr("Objekt verkleinern"));
+    transformSelection(0, KalSelectionSteps::Shrink, tr("Objekt verkleinern"));
 }
 
 void KalPhotoEditor::colorClicked()

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "KalPhotoEditorCommands.h"
 #include "KalPhotoEditorShapes.h"
+#include "gui/photos/KalPhotoEditorCommands.h"
 #include "gui/plans/KalTextEditor.h"
 
 #include <QDialog>

@@ -1,5 +1,7 @@
 #include "KalPhotoEditorCommands.h"
 
+#include "core/project/KalPrompt.h"
+
 #include <QGraphicsItem>
 #include <QGraphicsScene>
 
@@ -71,4 +73,29 @@ KalPhotoEditorChangeCommand *KalPhotoEditorChangeCommand::placement(const QList<
     };
     return new KalPhotoEditorChangeCommand(
         text, [apply, after] { apply(after); }, [apply, before] { apply(before); });
+}
+
+KalPhotoEditorChangeCommand *KalPhotoEditorChangeCommand::turnAndScale(const QList<QGraphicsItem *> &items,
+                                                                       qreal degrees, qreal factor, const QString &text)
+{
+    QList<KalItemPlacement> before;
+    QList<KalItemPlacement> after;
+    for (QGraphicsItem *item : items) {
+        before.append(KalItemPlacement::of(item));
+        KalItemPlacement changed = before.last();
+        changed.rotation += degrees;
+        changed.scale *= factor;
+        after.append(changed);
+    }
+    return placement(items, before, after, text);
+}
+
+bool KalSelectionSteps::anySelected(const QList<QGraphicsItem *> &selected, const QString &title)
+{
+    if (!selected.isEmpty())
+        return true;
+    KalPrompt::information(title, tr("Sie haben kein Objekt ausgewählt.\nSie wählen ein Objekt aus, indem Sie es "
+                                     "anklicken.\nSie wählen mehrere Objekte aus, indem Sie sie bei gedrückter "
+                                     "Strg-Taste anklicken.\n"));
+    return false;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QList>
 #include <QPointF>
 #include <QUndoCommand>
@@ -56,8 +57,27 @@ public:
     static KalPhotoEditorChangeCommand *placement(const QList<QGraphicsItem *> &items,
                                                   const QList<KalItemPlacement> &before,
                                                   const QList<KalItemPlacement> &after, const QString &text);
+    // Turns every object by `degrees` and scales it by `factor`.
+    static KalPhotoEditorChangeCommand *turnAndScale(const QList<QGraphicsItem *> &items, qreal degrees, qreal factor,
+                                                     const QString &text);
 
 private:
     std::function<void()> m_redo;
     std::function<void()> m_undo;
+};
+
+// The steps both editors apply to the selected objects, and the message
+// shown when nothing is selected.
+class KalSelectionSteps
+{
+    Q_DECLARE_TR_FUNCTIONS(KalSelectionSteps)
+
+public:
+    static constexpr qreal TurnDegrees = 15;
+    static constexpr qreal Enlarge = 1.1;
+    // Not 1 / 1.1: shrinking and enlarging again gives 1.00001.
+    static constexpr qreal Shrink = 0.9091;
+
+    // Shows the message under `title` when `selected` is empty.
+    static bool anySelected(const QList<QGraphicsItem *> &selected, const QString &title);
 };
