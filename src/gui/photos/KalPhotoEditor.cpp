@@ -96,6 +96,9 @@ KalPhotoEditor::KalPhotoEditor(const QImage &picture, QWidget *parent)
 
 KalPhotoEditor::~KalPhotoEditor()
 {
+    // The scene outlives this part of the editor and may signal while it
+    // goes: its signals must no longer reach us.
+    disconnect(m_scene, nullptr, this, nullptr);
     QSettings().setValue(QLatin1String(kGeometryKey), saveGeometry());
     m_undo.clear();
     for (QGraphicsItem *item : qAsConst(m_created)) {

@@ -97,6 +97,9 @@ KalPlanEditor::KalPlanEditor(KalProject *project, qint64 planInfoId, qint64 defe
 
 KalPlanEditor::~KalPlanEditor()
 {
+    // The scene outlives this part of the editor and clears its selection
+    // while it goes: its signals must no longer reach us.
+    disconnect(m_scene, nullptr, this, nullptr);
     QSettings().setValue(QLatin1String(kGeometryKey), saveGeometry());
     m_undo.clear();
     for (QGraphicsItem *item : qAsConst(m_created)) {
