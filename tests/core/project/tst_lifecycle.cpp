@@ -139,22 +139,6 @@ private slots:
         }
     }
 
-    void backupNames_data()
-    {
-        QTest::addColumn<int>("slot");
-        QTest::addColumn<QString>("name");
-        QTest::newRow("0") << 0 << "/x/p.pwp.bak";
-        QTest::newRow("1") << 1 << "/x/p.pwp.01.bak";
-        QTest::newRow("10") << 10 << "/x/p.pwp.10.bak";
-    }
-
-    void backupNames()
-    {
-        QFETCH(int, slot);
-        QFETCH(QString, name);
-        QCOMPARE(KalProject::backupFileName("/x/p.pwp", slot), name);
-    }
-
     // Backups move down the chain once per opening; further saves in the
     // same opening only replace the newest.
     void backups_data()

@@ -2,11 +2,11 @@
 #include "core/project/KalProjectModels.h"
 #include "core/project/KalSqlTableModel.h"
 #include "support/KalScriptedPrompt.h"
+#include "support/KalTestImages.h"
 #include "support/KalTestProject.h"
 #include "support/KalTestSettings.h"
 
 #include <QAbstractItemModelTester>
-#include <QBuffer>
 #include <QColor>
 #include <QIcon>
 #include <QImage>
@@ -31,21 +31,10 @@ private:
     qint64 insertDefect(const QVariantMap &values = {}) { return m_fx.addDefect(values); }
     qint64 insertCompany(const QString &name, const QString &trade) { return m_fx.addCompany(name, trade); }
 
-    static QByteArray jpeg(const QSize &size, const QColor &color)
-    {
-        QImage image(size, QImage::Format_RGB32);
-        image.fill(color);
-        QByteArray bytes;
-        QBuffer buffer(&bytes);
-        buffer.open(QIODevice::WriteOnly);
-        image.save(&buffer, "JPG");
-        return bytes;
-    }
-
     qint64 insertImage(const QString &table = QStringLiteral("image"))
     {
-        const QByteArray thumb = jpeg(QSize(40, 30), Qt::blue);
-        return insertRow(table, {{table, jpeg(QSize(80, 60), Qt::red)},
+        const QByteArray thumb = KalTestImages::jpeg(KalTestImages::marked(QSize(40, 30)));
+        return insertRow(table, {{table, KalTestImages::jpeg(KalTestImages::marked(QSize(80, 60)))},
                                  {table + "_ct", "image/jpeg"},
                                  {table + "_width", 80},
                                  {table + "_height", 60},

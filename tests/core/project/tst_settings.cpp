@@ -56,25 +56,6 @@ private slots:
         QCOMPARE(KalSettings::filePathForDialog(KalSettings::PlanFiles), QDir::toNativeSeparators(m_dir.path()));
     }
 
-    void eachKindRemembersItsOwnFolder()
-    {
-        const QString photos = m_dir.path() + "/fotos";
-        const QString plans = m_dir.path() + "/plaene";
-        QDir().mkpath(photos);
-        QDir().mkpath(plans);
-        KalSettings::rememberFilePath(KalSettings::PlanFiles, plans + "/eg.pdf", false);
-        KalSettings::rememberFilePath(KalSettings::ImageFiles, photos + "/riss.jpg", false);
-        QCOMPARE(KalSettings::filePathForDialog(KalSettings::ImageFiles), QDir::toNativeSeparators(photos));
-        QCOMPARE(KalSettings::filePathForDialog(KalSettings::PlanFiles), QDir::toNativeSeparators(plans));
-        QCOMPARE(QSettings().value("FileDialogPaths/ImageAddPath").toString(), photos);
-        // A chosen folder is remembered itself, not its parent.
-        KalSettings::rememberFilePath(KalSettings::ImageDirectory, photos, true);
-        QCOMPARE(KalSettings::filePathForDialog(KalSettings::ImageDirectory), QDir::toNativeSeparators(photos));
-        // Cancelled dialogs hand over an empty path: nothing changes.
-        KalSettings::rememberFilePath(KalSettings::ImageFiles, QString(), false);
-        QCOMPARE(KalSettings::filePathForDialog(KalSettings::ImageFiles), QDir::toNativeSeparators(photos));
-    }
-
     void rememberedSaveFolderIsAFolder_data()
     {
         QTest::addColumn<QString>("stored");
