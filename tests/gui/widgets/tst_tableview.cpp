@@ -113,7 +113,6 @@ private slots:
         row("status", "status", 1, false, "Ja", "Status löschen", oneStatus);
         row("two statuses key", "status", 2, true, "Ja", "Status löschen",
             warning + QStringLiteral("Sollen die 2 gewählten Status tatsächlich gelöscht werden?"));
-        row("company", "company", 1, false, "Ja", "Eintrag entfernen", one);
         row("defect key", "defect", 1, true, "Ja", "Eintrag entfernen", one);
         row("defect key, no", "defect", 1, true, "Nein", "Eintrag entfernen", one);
         row("three defects", "defect", 3, false, "Ja", "Einträge entfernen",
@@ -510,30 +509,6 @@ private slots:
         view.copyButton()->click();
         QCOMPARE(copy.count(), 1);
         QCOMPARE(m->rowCount(), 2); // copying is the owner's business
-    }
-
-    void statusColourPressReportsId()
-    {
-        KalSqlTableModel *m = model(QStringLiteral("status"));
-        QVERIFY(m->select());
-        KalTableView view;
-        QVERIFY(shown(view, m, QSize(700, 400)));
-        QSignalSpy spy(&view, &KalTableView::mouseClickOnStatusColorField);
-
-        const int row = m->findRowById(3);
-        QVERIFY(row >= 0);
-        const QModelIndex colour = m->index(row, m->fieldIndex(QStringLiteral("color")));
-        view.scrollTo(colour);
-        QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, view.visualRect(colour).center());
-        QTRY_COMPARE(spy.count(), 1);
-        QCOMPARE(spy.first().at(1).toLongLong(), qint64(3));
-        QCOMPARE(spy.first().at(0).value<QModelIndex>().row(), row);
-
-        // Another column of the same row reports nothing.
-        const QModelIndex text = m->index(row, m->fieldIndex(QStringLiteral("status")));
-        QTest::mouseClick(view.viewport(), Qt::LeftButton, Qt::NoModifier, view.visualRect(text).center());
-        QCoreApplication::processEvents();
-        QCOMPARE(spy.count(), 1);
     }
 
     void colourAndCameraCellsArePainted()
