@@ -177,22 +177,6 @@ private slots:
         QCOMPARE(kalCli({"add-defect", file, "--description", "danach"}).text().trimmed(), QStringLiteral("4"));
     }
 
-    void checkReportsFileAndBackups()
-    {
-        const QString file = path("bau.pwp");
-        QVERIFY(createProject(file, 300));
-        QCOMPARE(kalCli({"add-defect", file, "--description", "x"}).code, 0);
-        KalCliRun run = kalCli({"check", file});
-        QCOMPARE(run.code, 0);
-        QVERIFY(run.text().contains(QDir::toNativeSeparators(file) + ": ok"));
-        QVERIFY(run.text().contains(QDir::toNativeSeparators(file + ".bak") + ": ok"));
-        QFile f(file);
-        QVERIFY(f.resize(f.size() / 2));
-        run = kalCli({"check", file});
-        QCOMPARE(run.code, 1);
-        QVERIFY(run.text().contains(QDir::toNativeSeparators(file + ".bak") + ": ok"));
-    }
-
     void damagedFileAnswers_data()
     {
         QTest::addColumn<bool>("yes");
