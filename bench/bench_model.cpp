@@ -1,6 +1,7 @@
 // Measures the defect grid's model against plain SQLite reads in the same run:
 //  (a) selecting and fetching every defect vs a forward-only query over the same rows;
 //  (b) the display text of the company/status/plan cells (looked up) vs plain text cells.
+#include "KalBenchSupport.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalProjectModels.h"
 #include "core/project/KalPrompt.h"
@@ -17,26 +18,9 @@
 #include <functional>
 #include <limits>
 
+using namespace KalBench;
+
 namespace {
-
-class SilentPrompt : public KalPrompt
-{
-public:
-    int show(const Message &message) override
-    {
-        std::fprintf(stderr, "%s: %s\n", qPrintable(message.title), qPrintable(message.text));
-        return message.buttons.isEmpty() ? 0 : message.buttons.size() - 1;
-    }
-    void notice(const QString &, const QString &, int) override {}
-};
-
-bool exec(QSqlQuery &q)
-{
-    if (q.exec())
-        return true;
-    std::fprintf(stderr, "SQL: %s\n", qPrintable(q.lastError().text()));
-    return false;
-}
 
 bool generate(KalProject &project, int defects, int companies, int statuses, int plans)
 {
@@ -99,25 +83,13 @@ bool generate(KalProject &project, int defects, int companies, int statuses, int
     return project.commitTransaction();
 }
 
-double bestOf(int repetitions, const std::function<void()> &work)
-{
-    double best = std::numeric_limits<double>::max();
-    for (int i = 0; i < repetitions; ++i) {
-        QElapsedTimer timer;
-        timer.start();
-        work();
-        best = qMin(best, double(timer.nsecsElapsed()) / 1e6);
-    }
-    return best;
-}
-
 } // namespace
 
 int main(int argc, char **argv)
 {
     QGuiApplication app(argc, argv);
     QStandardPaths::setTestModeEnabled(true);
-    KalPrompt::install(new SilentPrompt);
+    KalPrompt::install(new KalBenchPrompt(KalBenchPrompt::LastButton, KalBenchPrompt::Everything));
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
 
     const int defectCount = argc > 1 ? QByteArray(argv[1]).toInt() : 100000;

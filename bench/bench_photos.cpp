@@ -6,6 +6,7 @@
 //
 //   bench_photos [--runs N] [--photos N] [--shrink N]
 //   bench_photos --phase write FILE.jpg     (only writes the camera photo)
+#include "KalBenchSupport.h"
 #include "core/photos/KalPhotos.h"
 #include "core/photos/KalPictureStore.h"
 #include "core/project/KalDefects.h"
@@ -27,6 +28,8 @@
 #include <ctime>
 #include <sys/resource.h>
 
+using namespace KalBench;
+
 namespace {
 
 double milliseconds(const QElapsedTimer &t)
@@ -41,31 +44,6 @@ double processCpuMs()
     timespec ts{};
     clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &ts);
     return ts.tv_sec * 1e3 + ts.tv_nsec / 1e6;
-}
-
-double childrenCpuMs()
-{
-    rusage usage{};
-    getrusage(RUSAGE_CHILDREN, &usage);
-    return (usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) * 1e3 +
-           (usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e3;
-}
-
-double median(QVector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values.isEmpty() ? 0 : values.at(values.size() / 2);
-}
-
-long peakRssKb()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return -1;
-    for (const QByteArray &line : status.readAll().split('\n'))
-        if (line.startsWith("VmHWM:"))
-            return line.mid(6).trimmed().split(' ').first().toLong();
-    return -1;
 }
 
 // A camera-like 4000 x 3000 picture: smooth light, edges and sensor noise,

@@ -2,6 +2,7 @@
 // against running the rasteriser alone with the same arguments, in the same run.
 //
 //   bench_plans [--runs N] [--lines N] [--texts N]
+#include "KalBenchSupport.h"
 #include "core/plans/KalPlanRasteriser.h"
 #include "core/plans/KalPlans.h"
 #include "core/project/KalProject.h"
@@ -18,6 +19,8 @@
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cstdio>
+
+using namespace KalBench;
 
 namespace {
 
@@ -45,12 +48,6 @@ bool writePlanPdf(const QString &file, int lines, int texts)
         painter.drawText(random.bounded(area.width()), random.bounded(area.height()),
                          QStringLiteral("Raum %1 – 12,5 m²").arg(i));
     return painter.end();
-}
-
-double median(QVector<double> values)
-{
-    std::sort(values.begin(), values.end());
-    return values.at(values.size() / 2);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 //
 //   bench_print [--defects N]                (default 1,000, 3 photos each, 20 plans)
 //   bench_print --phase print PROJECT OUT.pdf
+#include "KalBenchSupport.h"
 #include "core/project/KalProgress.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
@@ -27,33 +28,13 @@
 #include <cstdio>
 #include <sys/resource.h>
 
-namespace {
+using namespace KalBench;
 
-class SilentPrompt : public KalPrompt
-{
-public:
-    int show(const Message &message) override
-    {
-        std::fprintf(stderr, "%s: %s\n", qPrintable(message.title), qPrintable(message.text));
-        return message.buttons.isEmpty() ? 0 : message.buttons.size() - 1;
-    }
-    void notice(const QString &, const QString &, int) override {}
-};
+namespace {
 
 const int PhotosPerDefect = 3;
 const int Plans = 20;
 const int DistinctPhotos = 60;
-
-long peakRssKb()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return -1;
-    for (const QByteArray &line : status.readAll().split('\n'))
-        if (line.startsWith("VmHWM:"))
-            return line.mid(6).trimmed().split(' ').first().toLong();
-    return -1;
-}
 
 // A photo as the store keeps it: 1000 x 750, smooth light, edges and some
 // sensor noise, quality 100 (about 300 KB, as stored camera photos are).
@@ -101,14 +82,6 @@ QByteArray storedPlan()
     writer.setQuality(100);
     writer.write(picture);
     return bytes;
-}
-
-bool exec(QSqlQuery &q)
-{
-    if (q.exec())
-        return true;
-    std::fprintf(stderr, "SQL: %s\n", qPrintable(q.lastError().text()));
-    return false;
 }
 
 // Returns the photo files (one per photo row, as img2pdf gets them) and the
@@ -219,14 +192,6 @@ int printPhase(const QString &projectFile, const QString &out)
     return 0;
 }
 
-double childrenCpuMs()
-{
-    rusage usage{};
-    getrusage(RUSAGE_CHILDREN, &usage);
-    return (usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) * 1e3 +
-           (usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e3;
-}
-
 // Wall time of a child; its processor time in `cpuMs` (steadier on a shared
 // machine: waiting for a core counts in neither).
 double runTimed(const QString &program, const QStringList &args, QByteArray *output, double *cpuMs)
@@ -251,7 +216,7 @@ int main(int argc, char **argv)
 {
     QGuiApplication app(argc, argv);
     QStandardPaths::setTestModeEnabled(true);
-    KalPrompt::install(new SilentPrompt);
+    KalPrompt::install(new KalBenchPrompt(KalBenchPrompt::LastButton, KalBenchPrompt::Everything));
     const QStringList args = app.arguments();
     if (args.size() == 5 && args.at(1) == QLatin1String("--phase"))
         return printPhase(args.at(3), args.at(4));

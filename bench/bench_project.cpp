@@ -3,6 +3,7 @@
 // process that has the project open.
 //
 //   bench_project [--defects N] [--photos N] [--photo-kb N] [--runs N] [--keep DIR]
+#include "KalBenchSupport.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
 #include "core/project/KalSqlTableModel.h"
@@ -19,6 +20,8 @@
 #include <QVariant>
 #include <algorithm>
 #include <cstdio>
+
+using namespace KalBench;
 
 namespace {
 
@@ -41,17 +44,6 @@ void dropCaches()
     // Keep the runs comparable: every measurement starts from the page cache
     // state the previous one left, so flush dirty pages first.
     QProcess::execute(QStringLiteral("sync"), {});
-}
-
-long peakRssKb()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return -1;
-    for (const QByteArray &line : status.readAll().split('\n'))
-        if (line.startsWith("VmHWM:"))
-            return line.mid(6).trimmed().split(' ').first().toLong();
-    return -1;
 }
 
 bool generate(const QString &file, int defects, int photos, int photoKb)

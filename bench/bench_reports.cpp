@@ -1,6 +1,7 @@
 // Measures the defect-list filter against plain SQLite reads in the same run:
 // each filter choice (statement, reading, company names, order) against a
 // forward-only query that reads the same rows of the same statement.
+#include "KalBenchSupport.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
 #include "core/reports/KalDefectFilter.h"
@@ -16,18 +17,9 @@
 #include <functional>
 #include <limits>
 
-namespace {
+using namespace KalBench;
 
-class SilentPrompt : public KalPrompt
-{
-public:
-    int show(const Message &message) override
-    {
-        std::fprintf(stderr, "%s: %s\n", qPrintable(message.title), qPrintable(message.text));
-        return message.buttons.isEmpty() ? 0 : message.buttons.size() - 1;
-    }
-    void notice(const QString &, const QString &, int) override {}
-};
+namespace {
 
 const int Companies = 60;
 const int Rooms = 300;
@@ -151,7 +143,7 @@ int main(int argc, char **argv)
 {
     QGuiApplication app(argc, argv);
     QStandardPaths::setTestModeEnabled(true);
-    KalPrompt::install(new SilentPrompt);
+    KalPrompt::install(new KalBenchPrompt(KalBenchPrompt::LastButton, KalBenchPrompt::Everything));
 
     const int defectCount = argc > 1 ? QByteArray(argv[1]).toInt() : 50000;
     const int repetitions = 9;

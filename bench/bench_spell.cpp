@@ -4,6 +4,7 @@
 // unknown words (typos of those stems). "first": the first highlight by a
 // checker just loaded against a Hunspell just loaded; "again": the same text
 // once more (as after every keystroke) against the same Hunspell once more.
+#include "KalBenchSupport.h"
 #include "core/project/KalPrompt.h"
 #include "core/textaids/KalSpellChecker.h"
 #include "gui/textaids/KalSpellCheckerHighlighter.h"
@@ -23,18 +24,9 @@
 #include <string>
 #include <vector>
 
-namespace {
+using namespace KalBench;
 
-class SilentPrompt : public KalPrompt
-{
-public:
-    int show(const Message &message) override
-    {
-        std::fprintf(stderr, "%s: %s\n", qPrintable(message.title), qPrintable(message.text));
-        return message.buttons.isEmpty() ? 0 : escapeIndex(message);
-    }
-    void notice(const QString &, const QString &, int) override {}
-};
+namespace {
 
 struct Sample
 {
@@ -197,7 +189,7 @@ bool measure(const Dictionary &dictionary, const Sample &sample, const QByteArra
 int main(int argc, char **argv)
 {
     QGuiApplication app(argc, argv);
-    KalPrompt::install(new SilentPrompt);
+    KalPrompt::install(new KalBenchPrompt(KalBenchPrompt::SafeAnswer, KalBenchPrompt::Everything));
     Dictionary dictionary;
     dictionary.base = QStringLiteral(KAL_BENCH_DICTIONARIES_DIR "/pym_DE");
     const QString dic = KalSpellChecker::dictionaryFile(dictionary.base, QStringLiteral("dic"));

@@ -2,6 +2,7 @@
 //  (a) opening a project until the grid has painted its first screen vs
 //      selecting and fetching the defect model;
 //  (b) sorting the grid by "Firma" or "Status" (looked-up texts) vs by "Raum".
+#include "KalBenchSupport.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
 #include "core/project/KalSqlTableModel.h"
@@ -22,28 +23,9 @@
 #include <functional>
 #include <limits>
 
+using namespace KalBench;
+
 namespace {
-
-class SilentPrompt : public KalPrompt
-{
-public:
-    int show(const Message &message) override
-    {
-        if (message.icon == Critical || message.icon == Warning)
-            std::fprintf(stderr, "%s: %s\n", qPrintable(message.title), qPrintable(message.text));
-        // Questions get the safe answer; a bench never saves by accident.
-        return message.buttons.isEmpty() ? 0 : escapeIndex(message);
-    }
-    void notice(const QString &, const QString &, int) override {}
-};
-
-bool exec(QSqlQuery &q)
-{
-    if (q.exec())
-        return true;
-    std::fprintf(stderr, "SQL: %s\n", qPrintable(q.lastError().text()));
-    return false;
-}
 
 bool generate(KalProject &project, int defects, int companies)
 {
@@ -84,18 +66,6 @@ bool generate(KalProject &project, int defects, int companies)
     return project.commitTransaction();
 }
 
-double bestOf(int repetitions, const std::function<void()> &work)
-{
-    double best = std::numeric_limits<double>::max();
-    for (int i = 0; i < repetitions; ++i) {
-        QElapsedTimer timer;
-        timer.start();
-        work();
-        best = qMin(best, double(timer.nsecsElapsed()) / 1e6);
-    }
-    return best;
-}
-
 } // namespace
 
 int main(int argc, char **argv)
@@ -109,7 +79,7 @@ int main(int argc, char **argv)
     QCoreApplication::setOrganizationName(QStringLiteral("Quellor - Software"));
     QCoreApplication::setApplicationName(QStringLiteral("Pellwick Bench"));
     kalInitGuiResources();
-    KalPrompt::install(new SilentPrompt);
+    KalPrompt::install(new KalBenchPrompt(KalBenchPrompt::SafeAnswer, KalBenchPrompt::ProblemsOnly));
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
 
     const int defectCount = argc > 1 ? QByteArray(argv[1]).toInt() : 50000;

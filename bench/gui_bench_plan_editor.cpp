@@ -3,6 +3,7 @@
 //  (b) 20 Ctrl+wheel steps and pans vs one decode (the picture must not be
 //      decoded again while zooming and panning);
 //  (c) peak resident memory with the main window and the editor open.
+#include "KalBenchSupport.h"
 #include "core/photos/KalPictureStore.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalPrompt.h"
@@ -25,27 +26,9 @@
 #include <cstdio>
 #include <memory>
 
+using namespace KalBench;
+
 namespace {
-
-class SilentPrompt : public KalPrompt
-{
-public:
-    int show(const Message &message) override
-    {
-        if (message.icon == Critical || message.icon == Warning)
-            std::fprintf(stderr, "%s: %s\n", qPrintable(message.title), qPrintable(message.text));
-        return message.buttons.isEmpty() ? 0 : escapeIndex(message);
-    }
-    void notice(const QString &, const QString &, int) override {}
-};
-
-bool exec(QSqlQuery &q)
-{
-    if (q.exec())
-        return true;
-    std::fprintf(stderr, "SQL: %s\n", qPrintable(q.lastError().text()));
-    return false;
-}
 
 // A drawing-like plan: a grid of lines on white, written straight into the
 // plan row (beyond the size limit an import would fit it into).
@@ -110,18 +93,6 @@ bool generate(KalProject &project, const QSize &size, int items, qint64 *planId)
     return project.commitTransaction();
 }
 
-long peakRssKb()
-{
-    QFile status(QStringLiteral("/proc/self/status"));
-    if (!status.open(QIODevice::ReadOnly))
-        return -1;
-    for (const QByteArray &line : status.readAll().split('\n')) {
-        if (line.startsWith("VmHWM:"))
-            return line.mid(6).trimmed().split(' ').first().toLong();
-    }
-    return -1;
-}
-
 void wheel(QWidget *viewport, int delta)
 {
     const QPoint at(viewport->width() / 2, viewport->height() / 2);
@@ -143,7 +114,7 @@ int main(int argc, char **argv)
     QCoreApplication::setOrganizationName(QStringLiteral("Quellor - Software"));
     QCoreApplication::setApplicationName(QStringLiteral("Pellwick Bench"));
     kalInitGuiResources();
-    KalPrompt::install(new SilentPrompt);
+    KalPrompt::install(new KalBenchPrompt(KalBenchPrompt::SafeAnswer, KalBenchPrompt::ProblemsOnly));
 
     const QSize planSize(10000, 7000);
     const int items = argc > 1 ? QByteArray(argv[1]).toInt() : 2000;
