@@ -574,22 +574,6 @@ private slots:
         QCOMPARE(scalar(file, "SELECT id_counter FROM id_generator WHERE id_table='defect'"), QStringLiteral("501"));
     }
 
-    void countedTransactions()
-    {
-        KalProject project;
-        QVERIFY(project.newProject());
-        QVERIFY(project.beginTransaction());
-        QVERIFY(project.beginTransaction());
-        QSqlQuery(project.database()).exec("INSERT INTO addresslist (id, name) VALUES (1, 'innen')");
-        QVERIFY(project.commitTransaction()); // inner: nothing committed yet
-        QCOMPARE(project.transactions().depth(), 1);
-        QVERIFY(project.rollbackTransaction());
-        QSqlQuery q(project.database());
-        QVERIFY(q.exec("SELECT COUNT(*) FROM addresslist") && q.next());
-        QCOMPARE(q.value(0).toInt(), 0);
-        QVERIFY(project.closeProject());
-    }
-
     void sizeTexts_data()
     {
         QTest::addColumn<qint64>("bytes");
