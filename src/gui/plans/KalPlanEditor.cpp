@@ -12,6 +12,7 @@
 #include <QAction>
 #include <QComboBox>
 #include <QIcon>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSettings>
@@ -68,6 +69,9 @@ KalPlanEditor::KalPlanEditor(KalProject *project, qint64 planInfoId, qint64 defe
     connect(m_ui->cbxFontFamily, &QComboBox::textActivated, this, &KalPlanEditor::slotTextFontFamily);
     connect(m_ui->cbxFontSize, QOverload<int>::of(&QComboBox::activated), this, &KalPlanEditor::sizeTyped);
     connect(m_ui->cbxFontSize->lineEdit(), &QLineEdit::editingFinished, this, &KalPlanEditor::sizeTyped);
+    // Return confirms a typed size; passed on, it would press OK and close
+    // the editor.
+    m_ui->cbxFontSize->lineEdit()->installEventFilter(this);
     connect(m_ui->tbFitToWindow, &QToolButton::clicked, m_ui->gvPlan, &KalPlanGraphicsView::fitToWindow);
     connect(m_ui->gvPlan, &KalPlanGraphicsView::deleteRequested, this, &KalPlanEditor::slotDeleteSelected);
     connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &KalPlanEditor::accept);
@@ -457,6 +461,18 @@ void KalPlanEditor::slotSelectionChanged()
         m_ui->cbxFontFamily->insertItem(0, family);
     m_ui->cbxFontFamily->setCurrentText(family);
     m_ui->cbxFontSize->setCurrentText(QString::number(size));
+}
+
+bool KalPlanEditor::eventFilter(QObject *watched, QEvent *event)
+{
+    if (watched == m_ui->cbxFontSize->lineEdit() && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            sizeTyped();
+            return true;
+        }
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void KalPlanEditor::accept()

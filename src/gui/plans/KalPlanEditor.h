@@ -57,6 +57,9 @@ public slots:
     void accept() override;
     void reject() override;
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private slots:
     void slotMarker1Clicked();
     void slotMarker2Clicked();

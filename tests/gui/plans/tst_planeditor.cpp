@@ -334,6 +334,7 @@ private slots:
             combo->lineEdit()->selectAll();
             QTest::keyClicks(combo->lineEdit(), chosen);
             QTest::keyClick(combo->lineEdit(), Qt::Key_Return);
+            QVERIFY(e->isVisible()); // the size's Return is not the dialog's OK
         }
         if (!textSelected)
             e->addMarker(QPointF(300, 300)); // brings the defect's text
