@@ -71,7 +71,7 @@ KalPlanEditor::KalPlanEditor(KalProject *project, qint64 planInfoId, qint64 defe
     connect(m_ui->cbxFontSize->lineEdit(), &QLineEdit::editingFinished, this, &KalPlanEditor::sizeTyped);
     // Return confirms a typed size; passed on, it would press OK and close
     // the editor.
-    m_ui->cbxFontSize->lineEdit()->installEventFilter(this);
+    m_ui->cbxFontSize->installEventFilter(this);
     connect(m_ui->tbFitToWindow, &QToolButton::clicked, m_ui->gvPlan, &KalPlanGraphicsView::fitToWindow);
     connect(m_ui->gvPlan, &KalPlanGraphicsView::deleteRequested, this, &KalPlanEditor::slotDeleteSelected);
     connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &KalPlanEditor::accept);
@@ -465,7 +465,8 @@ void KalPlanEditor::slotSelectionChanged()
 
 bool KalPlanEditor::eventFilter(QObject *watched, QEvent *event)
 {
-    if (watched == m_ui->cbxFontSize->lineEdit() && event->type() == QEvent::KeyPress) {
+    // Keys reach the box, which hands them to its line edit itself.
+    if (watched == m_ui->cbxFontSize && event->type() == QEvent::KeyPress) {
         const int key = static_cast<QKeyEvent *>(event)->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter) {
             sizeTyped();

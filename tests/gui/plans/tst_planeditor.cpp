@@ -332,8 +332,8 @@ private slots:
             chosen = combo->currentText();
         } else {
             combo->lineEdit()->selectAll();
-            QTest::keyClicks(combo->lineEdit(), chosen);
-            QTest::keyClick(combo->lineEdit(), Qt::Key_Return);
+            QTest::keyClicks(combo, chosen);
+            QTest::keyClick(combo, Qt::Key_Return);
             QVERIFY(e->isVisible()); // the size's Return is not the dialog's OK
         }
         if (!textSelected)
