@@ -91,6 +91,9 @@ KalPlanEditor::KalPlanEditor(KalProject *project, qint64 planInfoId, qint64 defe
     redo->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
     addActions({undo, redo});
 
+    const KalTextEditor::Values textDefaults = KalTextEditor::storedDefaults();
+    m_newTextFamily = textDefaults.family;
+    m_newTextSize = textDefaults.size;
     m_usable = project && project->isOpen() && loadPlan();
     if (!m_usable)
         return;
@@ -135,8 +138,14 @@ KalMarkerTextItem *KalPlanEditor::newTextItem()
     text->setFlags(QGraphicsItem::ItemIsSelectable | QGraphicsItem::ItemIsMovable);
     connect(text, &KalGraphicsTextItem::textDocumentChanged, this, &KalPlanEditor::slotTextDocumentChanged);
     connect(text, &KalGraphicsTextItem::colorChanged, this, &KalPlanEditor::slotTextColor);
-    connect(text, &KalGraphicsTextItem::fontFamilyChanged, this, &KalPlanEditor::slotSelectionChanged);
-    connect(text, &KalGraphicsTextItem::fontSizeChanged, this, &KalPlanEditor::slotSelectionChanged);
+    // The font boxes follow the selected texts only; loading thousands of
+    // texts must not refresh them each time.
+    auto follow = [this, text] {
+        if (text->isSelected())
+            slotSelectionChanged();
+    };
+    connect(text, &KalGraphicsTextItem::fontFamilyChanged, this, follow);
+    connect(text, &KalGraphicsTextItem::fontSizeChanged, this, follow);
     return text;
 }
 
@@ -451,9 +460,8 @@ void KalPlanEditor::slotSelectionChanged()
         tool.first->setEnabled(text != nullptr);
         tool.first->setChecked(properties & tool.second);
     }
-    const KalTextEditor::Values defaults = KalTextEditor::storedDefaults();
-    const QString family = text ? text->fontFamily() : m_newTextFamily.isEmpty() ? defaults.family : m_newTextFamily;
-    const int size = text ? text->fontSize() : m_newTextSize > 0 ? m_newTextSize : defaults.size;
+    const QString family = text ? text->fontFamily() : m_newTextFamily;
+    const int size = text ? text->fontSize() : m_newTextSize;
     const QSignalBlocker familyBlocker(m_ui->cbxFontFamily);
     const QSignalBlocker sizeBlocker(m_ui->cbxFontSize);
     // A stored family that is not installed is still shown as it is.

@@ -111,7 +111,7 @@ private:
     // Font of the texts this editor creates: the stored defaults until the
     // user picks a family or size with no text selected.
     QString m_newTextFamily;
-    int m_newTextSize = 0;
+    int m_newTextSize = 8;
     // Own items ever made; those outside the scene are deleted with the editor.
     QList<QGraphicsItem *> m_created;
 };

@@ -205,8 +205,8 @@ void KalPlanEditor::addDefectTextIfMissing()
     }
     const KalTextEditor::Values defaults = KalTextEditor::storedDefaults();
     KalMarkerTextItem *text = newTextItem();
-    text->setFontFamily(m_newTextFamily.isEmpty() ? defaults.family : m_newTextFamily);
-    text->setFontSize(m_newTextSize > 0 ? m_newTextSize : defaults.size);
+    text->setFontFamily(m_newTextFamily);
+    text->setFontSize(m_newTextSize);
     text->setTextProperties(defaults.properties);
     text->setTextColor(defaults.color);
     text->setPlainText(
