@@ -93,6 +93,14 @@ bool generate(KalProject &project, const QSize &size, int items, qint64 *planId)
     return project.commitTransaction();
 }
 
+// Starts the peak anew, so that generating and decoding before do not count.
+void resetPeakRss()
+{
+    QFile clear(QStringLiteral("/proc/self/clear_refs"));
+    if (!clear.open(QIODevice::WriteOnly) || clear.write("5") != 1)
+        std::fprintf(stderr, "peak memory cannot be reset; it includes generating the plan\n");
+}
+
 void wheel(QWidget *viewport, int delta)
 {
     const QPoint at(viewport->width() / 2, viewport->height() / 2);
@@ -120,15 +128,32 @@ int main(int argc, char **argv)
     const int items = argc > 1 ? QByteArray(argv[1]).toInt() : 2000;
     const QString file = dir.filePath(QStringLiteral("bench.pwp"));
     qint64 planId = -1;
+    // (a) Decoding alone (best of three; the machine is shared), before the
+    // window opens: its decoded copy must not count towards the peak of the
+    // window and the editor.
+    double decodeMs = 1e300;
     {
         KalProject project;
         if (!project.newProject() || !generate(project, planSize, items, &planId) || project.saveProject(file) != 0) {
             std::fprintf(stderr, "could not generate the project\n");
             return 1;
         }
+        for (int i = 0; i < 3; ++i) {
+            QElapsedTimer timer;
+            timer.start();
+            QString error;
+            const QImage decoded =
+                KalPictureStore(project.database(), KalPictureStore::Kind::Plan).load(planId, &error);
+            decodeMs = qMin(decodeMs, timer.nsecsElapsed() / 1e6);
+            if (decoded.size() != planSize) {
+                std::fprintf(stderr, "decoded %dx%d: %s\n", decoded.width(), decoded.height(), qPrintable(error));
+                return 1;
+            }
+        }
         project.closeProject();
     }
 
+    resetPeakRss();
     KalMainWindow window;
     window.resize(1400, 900);
     window.show();
@@ -136,21 +161,8 @@ int main(int argc, char **argv)
     app.processEvents();
     KalProject *project = window.project();
 
-    // (a) Decoding alone (best of three; the machine is shared) ...
-    double decodeMs = 1e300;
-    for (int i = 0; i < 3; ++i) {
-        QElapsedTimer timer;
-        timer.start();
-        QString error;
-        const QImage decoded = KalPictureStore(project->database(), KalPictureStore::Kind::Plan).load(planId, &error);
-        decodeMs = qMin(decodeMs, timer.nsecsElapsed() / 1e6);
-        if (decoded.size() != planSize) {
-            std::fprintf(stderr, "decoded %dx%d: %s\n", decoded.width(), decoded.height(), qPrintable(error));
-            return 1;
-        }
-    }
-
-    // ... vs the editor up to its first paint (best of two).
+    // ... vs the editor up to its first paint (best of two). The main
+    // window's panel shows the current defect's plan already.
     double editorMs = 1e300;
     std::unique_ptr<KalPlanEditor> editor;
     KalPlanGraphicsView *view = nullptr;

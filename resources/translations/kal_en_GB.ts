@@ -2597,6 +2597,14 @@ Do you really want to exchange all of these markers?</translation>
         <source>Mängeltext</source>
         <translation>Defect text</translation>
     </message>
+    <message>
+        <source>Schriftart</source>
+        <translation>Font</translation>
+    </message>
+    <message>
+        <source>Schriftgröße</source>
+        <translation>Font size</translation>
+    </message>
 </context>
 <context>
     <name>KalPlanInfoDialog</name>

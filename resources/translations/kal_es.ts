@@ -2597,6 +2597,14 @@ Sollen diese Marker wirklich alle ausgetauscht werden?</source>
         <source>Mängeltext</source>
         <translation>Texto del defecto</translation>
     </message>
+    <message>
+        <source>Schriftart</source>
+        <translation>Fuente</translation>
+    </message>
+    <message>
+        <source>Schriftgröße</source>
+        <translation>Tamaño de fuente</translation>
+    </message>
 </context>
 <context>
     <name>KalPlanInfoDialog</name>

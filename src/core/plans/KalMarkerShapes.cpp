@@ -131,20 +131,12 @@ bool isKnownType(int type)
     return type >= 1 && type <= 4;
 }
 
-KalMarkerPaths paths(int type)
+const KalMarkerPaths &paths(int type)
 {
-    switch (type) {
-    case 1:
-        return pin();
-    case 2:
-        return needle();
-    case 3:
-        return flag();
-    case 4:
-        return target();
-    default:
-        return KalMarkerPaths();
-    }
+    // Built once: every paint of thousands of markers needs them, and the
+    // copies handed out share the built paths.
+    static const KalMarkerPaths built[] = {KalMarkerPaths(), pin(), needle(), flag(), target()};
+    return isKnownType(type) ? built[type] : built[0];
 }
 
 QPen bodyPen(const QColor &color, double width)
@@ -158,7 +150,7 @@ bool paintMarker(QPainter &painter, const KalMarkerRow &row, const PaintOptions 
 {
     if (!isKnownType(row.type) || !KalPlanTransform::isDrawable(row.geometry))
         return false;
-    const KalMarkerPaths parts = paths(row.type);
+    const KalMarkerPaths &parts = paths(row.type);
     // Unreadable colours fall back to visible defaults instead of black.
     const QColor fill = colorOr(row.color1, QColor(Qt::yellow));
     const QColor outline = options.highlighted ? QColor(Qt::red) : colorOr(row.color2, QColor(Qt::black));

@@ -46,7 +46,7 @@ namespace KalMarkerShapes {
 QColor noStatusColor();
 bool isKnownType(int type);
 // Empty paths for an unknown type.
-KalMarkerPaths paths(int type);
+const KalMarkerPaths &paths(int type);
 // The body's outline pen: square caps, bevel joins; no pen for width 0
 // (a Qt pen of width 0 would still draw a hair line).
 QPen bodyPen(const QColor &color, double width);

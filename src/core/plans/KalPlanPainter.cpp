@@ -2,6 +2,7 @@
 
 #include "core/photos/KalPictureStore.h"
 #include "core/plans/KalMarkerShapes.h"
+#include "core/plans/KalPlanReference.h"
 
 #include <QCoreApplication>
 #include <QPainter>
@@ -47,8 +48,13 @@ bool select(QSqlQuery &query, const QString &sql, qint64 planInfoId, QString *er
 
 } // namespace
 
-bool paintItems(QPainter &painter, QSqlDatabase db, qint64 planInfoId, qint64 current, QString *error)
+bool paintItems(QPainter &painter, QSqlDatabase db, qint64 planInfoId, qint64 current, QString *error,
+                const QTransform &moved)
 {
+    auto place = [&moved](const QSqlQuery &q) {
+        const KalPlanGeometry g = geometry(q, 0);
+        return moved.isIdentity() ? g : KalPlanReference::mapped(g, moved);
+    };
     QSqlQuery markers(db);
     markers.setForwardOnly(true);
     if (!select(markers,
@@ -60,7 +66,7 @@ bool paintItems(QPainter &painter, QSqlDatabase db, qint64 planInfoId, qint64 cu
         return false;
     while (markers.next()) {
         KalMarkerRow row;
-        row.geometry = geometry(markers, 0);
+        row.geometry = place(markers);
         row.type = markers.value(6).toInt();
         row.color1 = markers.value(7).toString();
         row.color2 = markers.value(8).toString();
@@ -81,7 +87,7 @@ bool paintItems(QPainter &painter, QSqlDatabase db, qint64 planInfoId, qint64 cu
         return false;
     while (texts.next()) {
         KalMarkerTextRow row;
-        row.geometry = geometry(texts, 0);
+        row.geometry = place(texts);
         row.text = texts.value(6).toString();
         row.color = texts.value(7).toString();
         row.properties = texts.value(8).toInt();

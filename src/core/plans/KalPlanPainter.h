@@ -2,6 +2,7 @@
 
 #include <QImage>
 #include <QSqlDatabase>
+#include <QTransform>
 
 class QPainter;
 
@@ -11,8 +12,11 @@ namespace KalPlanPainter {
 
 // Paints the sheet's markers and texts in plan pixels. Rows of defects that
 // are gone or now located elsewhere are skipped; the defect `current`
-// (-1: none) is drawn in red. False with a reason on a database error.
-bool paintItems(QPainter &painter, QSqlDatabase db, qint64 planInfoId, qint64 current, QString *error);
+// (-1: none) is drawn in red. A `moved` map draws every row where a new
+// plan version placed on reference points will put it. False with a reason
+// on a database error.
+bool paintItems(QPainter &painter, QSqlDatabase db, qint64 planInfoId, qint64 current, QString *error,
+                const QTransform &moved = QTransform());
 // The picture at its stored size with everything painted; null with a reason.
 QImage render(QSqlDatabase db, qint64 planInfoId, QString *error);
 

@@ -10,7 +10,10 @@
 #include "core/project/KalPrompt.h"
 
 #include <QAction>
+#include <QComboBox>
 #include <QIcon>
+#include <QKeyEvent>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QSettings>
 #include <QTextDocument>
@@ -62,6 +65,13 @@ KalPlanEditor::KalPlanEditor(KalProject *project, qint64 planInfoId, qint64 defe
     connect(m_ui->tbTextBold, &QToolButton::clicked, this, &KalPlanEditor::slotTextBold);
     connect(m_ui->tbTextItalic, &QToolButton::clicked, this, &KalPlanEditor::slotTextItalic);
     connect(m_ui->tbTextUnderline, &QToolButton::clicked, this, &KalPlanEditor::slotTextUnderline);
+    KalTextEditor::fillFontBoxes(m_ui->cbxFontFamily, m_ui->cbxFontSize);
+    connect(m_ui->cbxFontFamily, &QComboBox::textActivated, this, &KalPlanEditor::slotTextFontFamily);
+    connect(m_ui->cbxFontSize, QOverload<int>::of(&QComboBox::activated), this, &KalPlanEditor::sizeTyped);
+    connect(m_ui->cbxFontSize->lineEdit(), &QLineEdit::editingFinished, this, &KalPlanEditor::sizeTyped);
+    // Return confirms a typed size; passed on, it would press OK and close
+    // the editor.
+    m_ui->cbxFontSize->installEventFilter(this);
     connect(m_ui->tbFitToWindow, &QToolButton::clicked, m_ui->gvPlan, &KalPlanGraphicsView::fitToWindow);
     connect(m_ui->gvPlan, &KalPlanGraphicsView::deleteRequested, this, &KalPlanEditor::slotDeleteSelected);
     connect(m_ui->buttonBox, &QDialogButtonBox::accepted, this, &KalPlanEditor::accept);
@@ -81,6 +91,9 @@ KalPlanEditor::KalPlanEditor(KalProject *project, qint64 planInfoId, qint64 defe
     redo->setShortcuts({QKeySequence(Qt::CTRL | Qt::Key_Y), QKeySequence(Qt::CTRL | Qt::SHIFT | Qt::Key_Z)});
     addActions({undo, redo});
 
+    const KalTextEditor::Values textDefaults = KalTextEditor::storedDefaults();
+    m_newTextFamily = textDefaults.family;
+    m_newTextSize = textDefaults.size;
     m_usable = project && project->isOpen() && loadPlan();
     if (!m_usable)
         return;
@@ -125,6 +138,14 @@ KalMarkerTextItem *KalPlanEditor::newTextItem()
     text->setFlags(QGraphicsItem::ItemIsSelectable | QGraphicsItem::ItemIsMovable);
     connect(text, &KalGraphicsTextItem::textDocumentChanged, this, &KalPlanEditor::slotTextDocumentChanged);
     connect(text, &KalGraphicsTextItem::colorChanged, this, &KalPlanEditor::slotTextColor);
+    // The font boxes follow the selected texts only; loading thousands of
+    // texts must not refresh them each time.
+    auto follow = [this, text] {
+        if (text->isSelected())
+            slotSelectionChanged();
+    };
+    connect(text, &KalGraphicsTextItem::fontFamilyChanged, this, follow);
+    connect(text, &KalGraphicsTextItem::fontSizeChanged, this, follow);
     return text;
 }
 
@@ -321,28 +342,83 @@ void KalPlanEditor::slotTextEditRequested(KalMarkerTextItem *item)
         tr("Text bearbeiten"), [apply, after] { apply(after); }, [apply, before] { apply(before); }));
 }
 
-void KalPlanEditor::setTextProperty(int bit, bool on)
+QList<KalMarkerTextItem *> KalPlanEditor::selectedTexts() const
 {
     QList<KalMarkerTextItem *> texts;
-    QList<int> before;
     for (QGraphicsItem *item : m_scene->selectedItems()) {
-        if (auto *text = qgraphicsitem_cast<KalMarkerTextItem *>(item);
-            text && KalPlanGraphicsScene::isEditable(item)) {
+        if (auto *text = qgraphicsitem_cast<KalMarkerTextItem *>(item); text && KalPlanGraphicsScene::isEditable(item))
             texts.append(text);
-            before.append(text->textProperties());
-        }
     }
-    if (texts.isEmpty())
+    return texts;
+}
+
+void KalPlanEditor::formatSelectedTexts(const std::function<void(KalTextEditor::Values &)> &change)
+{
+    const QList<KalMarkerTextItem *> texts = selectedTexts();
+    QList<KalTextEditor::Values> before;
+    QList<KalTextEditor::Values> after;
+    bool changed = false;
+    for (const KalMarkerTextItem *text : texts) {
+        KalTextEditor::Values format;
+        format.family = text->fontFamily();
+        format.size = text->fontSize();
+        format.properties = text->textProperties();
+        before.append(format);
+        change(format);
+        changed = changed || format.family != before.last().family || format.size != before.last().size ||
+                  format.properties != before.last().properties;
+        after.append(format);
+    }
+    // A box confirmed with the value it showed is no change to undo.
+    if (!changed)
         return;
-    auto apply = [texts](const QList<int> &properties) {
-        for (int i = 0; i < texts.size(); ++i)
-            texts.at(i)->setTextProperties(properties.at(i));
+    auto apply = [texts](const QList<KalTextEditor::Values> &formats) {
+        for (int i = 0; i < texts.size(); ++i) {
+            texts.at(i)->setFontFamily(formats.at(i).family);
+            texts.at(i)->setFontSize(formats.at(i).size);
+            texts.at(i)->setTextProperties(formats.at(i).properties);
+        }
     };
-    QList<int> after;
-    for (int properties : qAsConst(before))
-        after.append(on ? properties | bit : properties & ~bit);
     m_undo.push(new KalPhotoEditorChangeCommand(
         tr("Text formatieren"), [apply, after] { apply(after); }, [apply, before] { apply(before); }));
+}
+
+void KalPlanEditor::setTextProperty(int bit, bool on)
+{
+    formatSelectedTexts([bit, on](KalTextEditor::Values &format) {
+        format.properties = on ? format.properties | bit : format.properties & ~bit;
+    });
+}
+
+void KalPlanEditor::slotTextFontFamily(const QString &family)
+{
+    if (family.isEmpty())
+        return;
+    if (selectedTexts().isEmpty())
+        m_newTextFamily = family;
+    else
+        formatSelectedTexts([family](KalTextEditor::Values &format) { format.family = family; });
+}
+
+void KalPlanEditor::slotTextFontSize(int pointSize)
+{
+    if (pointSize < 1)
+        return;
+    if (selectedTexts().isEmpty())
+        m_newTextSize = pointSize;
+    else
+        formatSelectedTexts([pointSize](KalTextEditor::Values &format) { format.size = pointSize; });
+}
+
+void KalPlanEditor::sizeTyped()
+{
+    // The validator lets only 1 to 999 through; an emptied box changes nothing
+    // and shows the current size again.
+    const int size = m_ui->cbxFontSize->currentText().toInt();
+    if (size > 0)
+        slotTextFontSize(size);
+    else
+        slotSelectionChanged();
 }
 
 void KalPlanEditor::slotTextBold(bool on)
@@ -372,12 +448,10 @@ void KalPlanEditor::slotTextDocumentChanged(QTextDocument *)
 
 void KalPlanEditor::slotSelectionChanged()
 {
-    // The text tools show the format of the first selected text.
-    const KalMarkerTextItem *text = nullptr;
-    for (QGraphicsItem *item : m_scene->selectedItems()) {
-        if ((text = qgraphicsitem_cast<KalMarkerTextItem *>(item)))
-            break;
-    }
+    // The text tools show the format of the first selected text; with none,
+    // the font a new text gets.
+    const QList<KalMarkerTextItem *> texts = selectedTexts();
+    const KalMarkerTextItem *text = texts.isEmpty() ? nullptr : texts.first();
     const int properties = text ? text->textProperties() : 0;
     const std::pair<QToolButton *, int> tools[] = {{m_ui->tbTextBold, KalGraphicsTextItem::Bold},
                                                    {m_ui->tbTextItalic, KalGraphicsTextItem::Italic},
@@ -386,6 +460,28 @@ void KalPlanEditor::slotSelectionChanged()
         tool.first->setEnabled(text != nullptr);
         tool.first->setChecked(properties & tool.second);
     }
+    const QString family = text ? text->fontFamily() : m_newTextFamily;
+    const int size = text ? text->fontSize() : m_newTextSize;
+    const QSignalBlocker familyBlocker(m_ui->cbxFontFamily);
+    const QSignalBlocker sizeBlocker(m_ui->cbxFontSize);
+    // A stored family that is not installed is still shown as it is.
+    if (m_ui->cbxFontFamily->findText(family) < 0)
+        m_ui->cbxFontFamily->insertItem(0, family);
+    m_ui->cbxFontFamily->setCurrentText(family);
+    m_ui->cbxFontSize->setCurrentText(QString::number(size));
+}
+
+bool KalPlanEditor::eventFilter(QObject *watched, QEvent *event)
+{
+    // Keys reach the box, which hands them to its line edit itself.
+    if (watched == m_ui->cbxFontSize && event->type() == QEvent::KeyPress) {
+        const int key = static_cast<QKeyEvent *>(event)->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter) {
+            sizeTyped();
+            return true;
+        }
+    }
+    return QDialog::eventFilter(watched, event);
 }
 
 void KalPlanEditor::accept()

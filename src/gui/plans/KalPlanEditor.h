@@ -5,6 +5,7 @@
 
 #include <QDialog>
 #include <QUndoStack>
+#include <functional>
 #include <memory>
 
 class KalMarkerItem;
@@ -56,6 +57,9 @@ public slots:
     void accept() override;
     void reject() override;
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private slots:
     void slotMarker1Clicked();
     void slotMarker2Clicked();
@@ -70,6 +74,8 @@ private slots:
     void slotTextItalic(bool on);
     void slotTextUnderline(bool on);
     void slotTextColor(QColor *color);
+    void slotTextFontFamily(const QString &family);
+    void slotTextFontSize(int pointSize);
     void slotTextDocumentChanged(QTextDocument *document);
     void slotDeleteSelected();
     void slotTextEditRequested(KalMarkerTextItem *item);
@@ -85,6 +91,10 @@ private:
     void transformSelection(qreal degrees, qreal factor, const QString &title);
     QList<QGraphicsItem *> selectionOrMessage(const QString &title) const;
     void setTextProperty(int bit, bool on);
+    QList<KalMarkerTextItem *> selectedTexts() const;
+    // Changes the format of the selected texts as one undoable step.
+    void formatSelectedTexts(const std::function<void(KalTextEditor::Values &)> &change);
+    void sizeTyped();
     KalMarkerTextItem *newTextItem();
     void pushAdd(QGraphicsItem *item, const QString &text);
 
@@ -98,6 +108,10 @@ private:
     QUndoStack m_undo;
     QSize m_planSize;
     QColor m_statusColor;
+    // Font of the texts this editor creates: the stored defaults until the
+    // user picks a family or size with no text selected.
+    QString m_newTextFamily;
+    int m_newTextSize = 8;
     // Own items ever made; those outside the scene are deleted with the editor.
     QList<QGraphicsItem *> m_created;
 };

@@ -6,7 +6,7 @@
 #include "KalMarkerTextItem.h"
 #include "KalPlanGraphicsPicture.h"
 #include "KalPlanGraphicsScene.h"
-#include "core/photos/KalPictureStore.h"
+#include "KalPlanPictureCache.h"
 #include "core/plans/KalMarkerShapes.h"
 #include "core/plans/KalPlanTransform.h"
 #include "core/project/KalProject.h"
@@ -56,16 +56,6 @@ void place(QGraphicsItem *item, const KalPlanGeometry &g)
     item->setRotation(g.rotation);
 }
 
-void writeGeometry(KalSqlTableModel *model, int row, const QGraphicsItem *item)
-{
-    setField(model, row, "pos_x", item->pos().x());
-    setField(model, row, "pos_y", item->pos().y());
-    setField(model, row, "scale_factor", item->scale());
-    setField(model, row, "rotation_angle", item->rotation());
-    setField(model, row, "transform_point_x", item->transformOriginPoint().x());
-    setField(model, row, "transform_point_y", item->transformOriginPoint().y());
-}
-
 } // namespace
 
 bool KalPlanEditor::loadPlan()
@@ -75,15 +65,17 @@ bool KalPlanEditor::loadPlan()
     query.prepare(QStringLiteral("SELECT plan_id FROM plan_info WHERE id = :id"));
     query.bindValue(QStringLiteral(":id"), m_planInfoId);
     QString error;
-    QImage picture;
+    std::shared_ptr<KalPlanPictureLevels> picture;
     if (!query.exec()) {
         error = query.lastError().text();
     } else if (!query.next()) {
         error = tr("Der Plan %1 existiert nicht.").arg(m_planInfoId);
     } else {
-        picture = KalPictureStore(db, KalPictureStore::Kind::Plan).load(query.value(0).toLongLong(), &error);
+        // The main window's panel usually shows this plan already: its copy
+        // is shared, not decoded again.
+        picture = KalPlanPictureCache::load(m_project, query.value(0).toLongLong(), &error);
     }
-    if (picture.isNull()) {
+    if (!picture) {
         KalPrompt::Message message;
         message.icon = KalPrompt::Warning;
         message.title = tr("Planeditor");
@@ -92,8 +84,8 @@ bool KalPlanEditor::loadPlan()
         KalPrompt::ask(message);
         return false;
     }
-    m_planSize = picture.size();
-    // The one decoded copy; zooming paints reduced copies made from it.
+    m_planSize = picture->levels.first().size();
+    // Zooming paints reduced copies made from the one decoded picture.
     auto *background = new KalPlanGraphicsPicture(std::move(picture));
     background->setZValue(-1);
     m_scene->addItem(background);
@@ -159,7 +151,18 @@ void KalPlanEditor::loadRows()
             }
             place(item, g);
             m_scene->addItem(item);
+            // Rows not yet written (a defect editor's pending ones) have no id
+            // and are written anew.
+            const QVariant id = field(model, row, "id");
+            const qint64 rowId = id.isNull() ? -1 : id.toLongLong();
+            if (auto *marker = qgraphicsitem_cast<KalMarkerItem *>(item))
+                marker->setRowId(rowId);
+            else
+                static_cast<KalMarkerTextItem *>(item)->setRowId(rowId);
             if (own) {
+                // Reopened, the defect's own markers are moved and changed
+                // like new ones.
+                item->setFlags(item->flags() | QGraphicsItem::ItemIsSelectable | QGraphicsItem::ItemIsMovable);
                 m_created.append(item);
             } else {
                 // Others' objects are context only.
@@ -202,8 +205,8 @@ void KalPlanEditor::addDefectTextIfMissing()
     }
     const KalTextEditor::Values defaults = KalTextEditor::storedDefaults();
     KalMarkerTextItem *text = newTextItem();
-    text->setFontFamily(defaults.family);
-    text->setFontSize(defaults.size);
+    text->setFontFamily(m_newTextFamily);
+    text->setFontSize(m_newTextSize);
     text->setTextProperties(defaults.properties);
     text->setTextColor(defaults.color);
     text->setPlainText(
@@ -215,22 +218,86 @@ void KalPlanEditor::addDefectTextIfMissing()
     pushAdd(text, tr("Mängeltext"));
 }
 
+namespace {
+
+qint64 rowIdOf(const QGraphicsItem *item)
+{
+    if (auto *marker = qgraphicsitem_cast<const KalMarkerItem *>(item))
+        return marker->rowId();
+    if (auto *text = qgraphicsitem_cast<const KalMarkerTextItem *>(item))
+        return text->rowId();
+    return -1;
+}
+
+// Only real changes are written, so rows the user left alone are not touched.
+void setChanged(KalSqlTableModel *model, int row, const char *name, const QVariant &value)
+{
+    const QVariant old = field(model, row, name);
+    const bool same = value.type() == QVariant::Double ? !old.isNull() && old.toDouble() == value.toDouble()
+                                                       : !old.isNull() && old.toString() == value.toString();
+    if (!same)
+        setField(model, row, name, value);
+}
+
+void writeItem(KalSqlTableModel *model, int row, const QGraphicsItem *item)
+{
+    const std::pair<const char *, QVariant> geometry[] = {
+        {"pos_x", item->pos().x()},
+        {"pos_y", item->pos().y()},
+        {"scale_factor", item->scale()},
+        {"rotation_angle", item->rotation()},
+        {"transform_point_x", item->transformOriginPoint().x()},
+        {"transform_point_y", item->transformOriginPoint().y()},
+    };
+    for (const auto &column : geometry)
+        setChanged(model, row, column.first, column.second);
+    if (auto *marker = qgraphicsitem_cast<const KalMarkerItem *>(item)) {
+        setChanged(model, row, "type", marker->markerType());
+        setChanged(model, row, "color1", marker->fillColor().name());
+        setChanged(model, row, "color2", marker->outlineColor().name());
+        setChanged(model, row, "linewidth", marker->lineWidth());
+    } else if (auto *text = qgraphicsitem_cast<const KalMarkerTextItem *>(item)) {
+        setChanged(model, row, "text", text->toPlainText());
+        setChanged(model, row, "color", text->textColor().name());
+        setChanged(model, row, "font_family", text->fontFamily());
+        setChanged(model, row, "font_size", text->fontSize());
+        setChanged(model, row, "text_properties", text->textProperties());
+    }
+}
+
+} // namespace
+
 bool KalPlanEditor::writeRows()
 {
     KalSqlTableModel *markers = m_project->model(QStringLiteral("marker"));
     KalSqlTableModel *texts = m_project->model(QStringLiteral("marker_text"));
     if (!markers || !texts)
         return false;
-    // The defect's rows on this plan are rewritten from the items.
+    // The defect's rows keep their ids: rows of items still on the plan are
+    // updated, those of removed items deleted, new items inserted.
+    // Markers and texts count their ids apart: keyed by table and id.
+    QHash<QPair<bool, qint64>, const QGraphicsItem *> kept;
+    for (const QGraphicsItem *item : qAsConst(m_created)) {
+        if (item->scene() && rowIdOf(item) > 0)
+            kept.insert({item->type() == KalMarkerItem::Type, rowIdOf(item)}, item);
+    }
     for (KalSqlTableModel *model : {markers, texts}) {
+        model->fetchAll();
+        // From the bottom up: dropping a pending row shifts those below it.
         for (int row = model->rowCount() - 1; row >= 0; --row) {
-            if (!isRemoved(model, row) && field(model, row, "plan_info_id").toLongLong() == m_planInfoId &&
-                field(model, row, "defect_id").toLongLong() == m_defectId)
+            if (isRemoved(model, row) || field(model, row, "plan_info_id").toLongLong() != m_planInfoId ||
+                field(model, row, "defect_id").toLongLong() != m_defectId)
+                continue;
+            const QVariant id = field(model, row, "id");
+            const QGraphicsItem *item = id.isNull() ? nullptr : kept.value({model == markers, id.toLongLong()});
+            if (item)
+                writeItem(model, row, item);
+            else
                 model->removeRows(row, 1, QModelIndex(), false);
         }
     }
-    for (QGraphicsItem *item : qAsConst(m_created)) {
-        if (!item->scene())
+    for (const QGraphicsItem *item : qAsConst(m_created)) {
+        if (!item->scene() || rowIdOf(item) > 0)
             continue;
         KalSqlTableModel *model = item->type() == KalMarkerItem::Type ? markers : texts;
         const int row = model->rowCount();
@@ -238,27 +305,22 @@ bool KalPlanEditor::writeRows()
             return false;
         setField(model, row, "plan_info_id", m_planInfoId);
         setField(model, row, "defect_id", m_defectId);
-        writeGeometry(model, row, item);
-        if (auto *marker = qgraphicsitem_cast<KalMarkerItem *>(item)) {
-            setField(model, row, "type", marker->markerType());
-            setField(model, row, "color1", marker->fillColor().name());
-            setField(model, row, "color2", marker->outlineColor().name());
-            setField(model, row, "linewidth", marker->lineWidth());
-        } else if (auto *text = qgraphicsitem_cast<KalMarkerTextItem *>(item)) {
-            setField(model, row, "text", text->toPlainText());
-            setField(model, row, "color", text->textColor().name());
-            setField(model, row, "font_family", text->fontFamily());
-            setField(model, row, "font_size", text->fontSize());
-            setField(model, row, "text_properties", text->textProperties());
-        }
+        writeItem(model, row, item);
     }
     if (m_saving == WriteModels)
         return true;
-    if (markers->submitWithNotification(true) && texts->submitWithNotification(true))
+    // Markers and texts are written together or not at all.
+    const bool inTransaction = m_project->beginTransaction();
+    if (markers->submitWithNotification(true) && texts->submitWithNotification(true) &&
+        (!inTransaction || m_project->commitTransaction()))
         return true;
+    if (inTransaction)
+        m_project->rollbackTransaction();
     // Nothing half-written stays pending; the items keep the user's work
     // for another try.
-    markers->revertAll();
-    texts->revertAll();
+    for (KalSqlTableModel *model : {markers, texts}) {
+        model->revertAll();
+        model->select();
+    }
     return false;
 }

@@ -1,5 +1,7 @@
 #include "KalPlanGraphicsPicture.h"
 
+#include "KalPlanPictureCache.h"
+
 #include <QGraphicsScene>
 #include <QPainter>
 #include <QStyleOptionGraphicsItem>
@@ -11,11 +13,23 @@ namespace {
 const int kSmallestSide = 256;
 } // namespace
 
-KalPlanGraphicsPicture::KalPlanGraphicsPicture(QImage picture, QGraphicsItem *parent)
+KalPlanGraphicsPicture::KalPlanGraphicsPicture(std::shared_ptr<KalPlanPictureLevels> picture, QGraphicsItem *parent)
     : QGraphicsItem(parent)
+    , m_picture(picture ? std::move(picture) : std::make_shared<KalPlanPictureLevels>())
 {
-    m_levels.append(std::move(picture));
+    if (m_picture->levels.isEmpty())
+        m_picture->levels.append(QImage());
     setFlag(ItemUsesExtendedStyleOption);
+}
+
+QSize KalPlanGraphicsPicture::pictureSize() const
+{
+    return m_picture->levels.first().size();
+}
+
+int KalPlanGraphicsPicture::reducedCopies() const
+{
+    return m_picture->levels.size() - 1;
 }
 
 QRectF KalPlanGraphicsPicture::boundingRect() const
@@ -25,17 +39,19 @@ QRectF KalPlanGraphicsPicture::boundingRect() const
 
 const QImage &KalPlanGraphicsPicture::level(int index)
 {
-    while (m_levels.size() <= index) {
-        const QImage &larger = m_levels.last();
-        m_levels.append(larger.scaled(qMax(1, larger.width() / 2), qMax(1, larger.height() / 2), Qt::IgnoreAspectRatio,
-                                      Qt::SmoothTransformation));
+    QVector<QImage> &levels = m_picture->levels;
+    while (levels.size() <= index) {
+        const QImage &larger = levels.last();
+        levels.append(larger.scaled(qMax(1, larger.width() / 2), qMax(1, larger.height() / 2), Qt::IgnoreAspectRatio,
+                                    Qt::SmoothTransformation));
     }
-    return m_levels.at(index);
+    return levels.at(index);
 }
 
 void KalPlanGraphicsPicture::paint(QPainter *painter, const QStyleOptionGraphicsItem *option, QWidget *)
 {
-    const QImage &full = m_levels.first();
+    const QVector<QImage> &levels = m_picture->levels;
+    const QImage &full = levels.first();
     if (full.isNull())
         return;
     // The coarsest copy that still has at least one pixel per screen pixel.
@@ -46,7 +62,7 @@ void KalPlanGraphicsPicture::paint(QPainter *painter, const QStyleOptionGraphics
         ++index;
     // A copy not made yet is made right after this paint, so the first
     // screen does not wait for it; until then the picture itself is drawn.
-    if (index >= m_levels.size() && !m_buildPending && scene()) {
+    if (index >= levels.size() && !m_buildPending && scene()) {
         m_buildPending = true;
         QTimer::singleShot(0, scene(), [this, index] {
             level(index);
@@ -54,7 +70,7 @@ void KalPlanGraphicsPicture::paint(QPainter *painter, const QStyleOptionGraphics
             update();
         });
     }
-    const QImage &copy = m_levels.at(qMin(index, m_levels.size() - 1));
+    const QImage &copy = levels.at(qMin(index, levels.size() - 1));
     const QRectF exposed = option->exposedRect.intersected(boundingRect());
     const double sx = double(copy.width()) / full.width();
     const double sy = double(copy.height()) / full.height();

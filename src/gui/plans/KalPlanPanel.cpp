@@ -1,15 +1,15 @@
 #include "KalPlanPanel.h"
 
-#include "core/photos/KalPictureStore.h"
 #include "core/plans/KalPlanPainter.h"
 #include "core/plans/KalPlans.h"
 #include "core/project/KalProject.h"
 #include "gui/plans/KalGraphicsViewZoom.h"
+#include "gui/plans/KalPlanGraphicsPicture.h"
+#include "gui/plans/KalPlanItemsLayer.h"
+#include "gui/plans/KalPlanPictureCache.h"
 
-#include <QCryptographicHash>
 #include <QEvent>
 #include <QGraphicsItem>
-#include <QGraphicsPixmapItem>
 #include <QGraphicsScene>
 #include <QGraphicsTextItem>
 #include <QGraphicsView>
@@ -17,33 +17,8 @@
 #include <QIcon>
 #include <QPainter>
 #include <QPushButton>
-#include <QSqlQuery>
 #include <QToolTip>
 #include <QVBoxLayout>
-
-namespace {
-
-// Replays the recorded markers and texts over the plan, in plan pixels.
-class PlanItemsLayer : public QGraphicsItem
-{
-public:
-    PlanItemsLayer(const QPicture *picture, const QRectF &bounds)
-        : m_picture(picture)
-        , m_bounds(bounds)
-    {
-    }
-    QRectF boundingRect() const override { return m_bounds; }
-    void paint(QPainter *painter, const QStyleOptionGraphicsItem *, QWidget *) override
-    {
-        painter->drawPicture(0, 0, *m_picture);
-    }
-
-private:
-    const QPicture *m_picture;
-    QRectF m_bounds;
-};
-
-} // namespace
 
 KalPlanPanel::KalPlanPanel(QWidget *parent)
     : QWidget(parent)
@@ -98,58 +73,39 @@ void KalPlanPanel::refresh()
         showHint();
 }
 
-QString KalPlanPanel::pictureKey(qint64 planId) const
-{
-    // A new version rewrites the same row: its size, length and thumbnail
-    // tell it apart without reading the picture itself.
-    QSqlQuery query(m_project->database());
-    query.prepare(QStringLiteral("SELECT plan_width, plan_height, length(plan), thumbnail FROM plan WHERE id = :id"));
-    query.bindValue(QStringLiteral(":id"), planId);
-    if (!query.exec() || !query.next())
-        return QString();
-    const QByteArray thumbnail = QCryptographicHash::hash(query.value(3).toByteArray(), QCryptographicHash::Sha1);
-    return QStringLiteral("%1:%2x%3:%4:%5")
-        .arg(planId)
-        .arg(query.value(0).toInt())
-        .arg(query.value(1).toInt())
-        .arg(query.value(2).toLongLong())
-        .arg(QString::fromLatin1(thumbnail.toHex()));
-}
-
 bool KalPlanPanel::showPlan(qint64 planInfoId)
 {
     const qint64 planId = KalPlans(m_project).planIdOf(planInfoId);
-    const QString key = planId >= 0 ? pictureKey(planId) : QString();
-    if (key.isEmpty())
+    if (planId < 0)
         return false;
     QString error;
-    const bool decode = key != m_planKey;
-    if (decode) {
-        const QImage picture = KalPictureStore(m_project->database(), KalPictureStore::Kind::Plan).load(planId, &error);
-        ++m_decodeCount;
-        m_planKey = picture.isNull() ? QString() : key;
-        m_planPixmap = QPixmap::fromImage(picture);
-        if (m_planPixmap.isNull())
-            return false;
+    bool decoded = false;
+    std::shared_ptr<KalPlanPictureLevels> picture = KalPlanPictureCache::load(m_project, planId, &error, &decoded);
+    m_decodeCount += decoded ? 1 : 0;
+    if (!picture) {
+        m_planPicture.reset();
+        return false;
     }
+    const bool decode = picture != m_planPicture;
+    m_planPicture = picture;
     QPicture items;
     {
         QPainter painter(&items);
         KalPlanPainter::paintItems(painter, m_project->database(), planInfoId, m_defectId, &error);
     }
-    m_itemsPicture = items;
 
-    const bool samePlan = planInfoId == m_shownPlanId && m_planItem && !decode;
+    const bool samePlan = planInfoId == m_shownPlanId && m_planItem && m_itemsLayer && !decode;
     if (samePlan) {
-        m_scene->update();
+        m_itemsLayer->setPicture(items);
         return true;
     }
     m_scene->clear();
     m_hintItem = nullptr;
-    m_planItem = m_scene->addPixmap(m_planPixmap);
-    m_planItem->setTransformationMode(Qt::SmoothTransformation);
+    m_planItem = new KalPlanGraphicsPicture(m_planPicture);
+    m_scene->addItem(m_planItem);
     const QRectF bounds = m_planItem->boundingRect();
-    m_scene->addItem(new PlanItemsLayer(&m_itemsPicture, bounds));
+    m_itemsLayer = new KalPlanItemsLayer(items, bounds);
+    m_scene->addItem(m_itemsLayer);
     m_scene->setSceneRect(bounds);
     m_shownPlanId = planInfoId;
     m_pbShowTotalPlan->setEnabled(true);
@@ -162,9 +118,9 @@ void KalPlanPanel::clear()
     m_scene->clear();
     m_hintItem = nullptr;
     m_planItem = nullptr;
-    m_planPixmap = QPixmap();
-    m_planKey.clear();
-    m_itemsPicture = QPicture();
+    m_itemsLayer = nullptr;
+    m_planPicture.reset();
+    KalPlanPictureCache::release();
     m_project = nullptr;
     m_defectId = -1;
     m_shownPlanId = -1;
@@ -176,6 +132,7 @@ void KalPlanPanel::showHint()
     // The decoded plan stays cached for the next defect located on it.
     m_scene->clear();
     m_planItem = nullptr;
+    m_itemsLayer = nullptr;
     m_shownPlanId = -1;
     m_pbShowTotalPlan->setEnabled(false);
     m_hintItem = m_scene->addText(hintText());

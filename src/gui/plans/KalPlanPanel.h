@@ -1,12 +1,13 @@
 #pragma once
 
-#include <QPicture>
-#include <QPixmap>
 #include <QWidget>
+#include <memory>
 
 class KalGraphicsViewZoom;
+class KalPlanGraphicsPicture;
+class KalPlanItemsLayer;
+struct KalPlanPictureLevels;
 class KalProject;
-class QGraphicsPixmapItem;
 class QGraphicsScene;
 class QGraphicsTextItem;
 class QGraphicsView;
@@ -52,7 +53,6 @@ protected:
 private:
     void layoutHint();
     bool showPlan(qint64 planInfoId);
-    QString pictureKey(qint64 planId) const;
     void fitPlan();
     void showZoomInfo();
     void showHelpTip(QWidget *widget, const QString &text);
@@ -63,10 +63,10 @@ private:
     QPushButton *m_pbShowTotalPlan = nullptr;
     QPushButton *m_pbZoomInfo = nullptr;
     KalGraphicsViewZoom *m_zoom = nullptr;
-    QGraphicsPixmapItem *m_planItem = nullptr;
-    QPixmap m_planPixmap;
-    QString m_planKey;       // the decoded picture's plan row and version
-    QPicture m_itemsPicture; // markers and texts, recorded once per defect shown
+    KalPlanGraphicsPicture *m_planItem = nullptr;
+    // Shared with the plan editor when it shows the same plan.
+    std::shared_ptr<KalPlanPictureLevels> m_planPicture;
+    KalPlanItemsLayer *m_itemsLayer = nullptr; // markers and texts, recorded once per defect shown
     KalProject *m_project = nullptr;
     qint64 m_defectId = -1;
     qint64 m_shownPlanId = -1;

@@ -1,6 +1,6 @@
 #include "KalPlanReferenceDialog.h"
 
-#include "KalMarkerItem.h"
+#include "KalPlanItemsLayer.h"
 #include "core/plans/KalPlanPainter.h"
 #include "core/plans/KalPlanReference.h"
 #include "core/project/KalProject.h"
@@ -15,8 +15,9 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QPicture>
 #include <QPushButton>
-#include <QSqlQuery>
 #include <QVBoxLayout>
 
 namespace {
@@ -55,7 +56,9 @@ KalPlanReferenceDialog::KalPlanReferenceDialog(KalProject *project, qint64 planI
     layout->addWidget(hint);
     auto *views = new QHBoxLayout;
     m_oldView = planView(m_oldScene, this);
+    m_oldView->setObjectName(QStringLiteral("gvOldPlan"));
     m_newView = planView(m_newScene, this);
+    m_newView->setObjectName(QStringLiteral("gvNewPlan"));
     views->addWidget(m_oldView);
     views->addWidget(m_newView);
     layout->addLayout(views, 1);
@@ -163,30 +166,16 @@ void KalPlanReferenceDialog::refresh()
 
 void KalPlanReferenceDialog::showPreview(const QTransform &transform)
 {
-    QSqlQuery query(m_project->database());
-    query.prepare(QStringLiteral("SELECT type, pos_x, pos_y, scale_factor, rotation_angle, transform_point_x, "
-                                 "transform_point_y, color1 FROM marker WHERE plan_info_id = :id"));
-    query.bindValue(QStringLiteral(":id"), m_planInfoId);
-    if (!query.exec())
-        return;
-    while (query.next()) {
-        KalPlanGeometry g;
-        g.pos = QPointF(query.value(1).toDouble(), query.value(2).toDouble());
-        g.scale = query.value(3).toDouble();
-        g.rotation = query.value(4).toDouble();
-        g.transformPoint = QPointF(query.value(5).toDouble(), query.value(6).toDouble());
-        if (!KalPlanTransform::isDrawable(g))
-            continue;
-        const KalPlanGeometry m = KalPlanReference::mapped(g, transform);
-        auto *marker = new KalMarkerItem(query.value(0).toInt());
-        marker->setFillColor(QColor(query.value(7).toString()));
-        marker->setTransformOriginPoint(m.transformPoint);
-        marker->setPos(m.pos);
-        marker->setScale(m.scale);
-        marker->setRotation(m.rotation);
-        m_newScene->addItem(marker);
-        m_overlay.append(marker);
+    // Markers and texts drawn as the print will draw them on the new version.
+    QPicture moved;
+    {
+        QPainter painter(&moved);
+        QString error;
+        KalPlanPainter::paintItems(painter, m_project->database(), m_planInfoId, -1, &error, transform);
     }
+    auto *layer = new KalPlanItemsLayer(moved, m_newScene->sceneRect());
+    m_newScene->addItem(layer);
+    m_overlay.append(layer);
 }
 
 void KalPlanReferenceDialog::accept()

@@ -4,6 +4,7 @@
 #include "core/project/KalPrompt.h"
 
 #include <QColorDialog>
+#include <QComboBox>
 #include <QFontDatabase>
 #include <QIntValidator>
 #include <QSettings>
@@ -34,10 +35,7 @@ KalTextEditor::KalTextEditor(Mode mode, QWidget *parent)
     const QString titles[] = {tr("Text eingeben"), tr("Text bearbeiten"), tr("Symbol erstellen"),
                               tr("Standardeinstellungen Plantexte")};
     setWindowTitle(titles[mode]);
-    for (int size : kSizes)
-        m_ui->cbxFontSize->addItem(QString::number(size));
-    m_ui->cbxFontSize->setValidator(new QIntValidator(1, 999, this));
-    fillFamilies();
+    fillFontBoxes(m_ui->cbxFontFamily, m_ui->cbxFontSize, mode == Symbol);
 
     connect(m_ui->tbBold, &QToolButton::toggled, this, &KalTextEditor::slotTextBold);
     connect(m_ui->tbItalic, &QToolButton::toggled, this, &KalTextEditor::slotTextItalic);
@@ -72,18 +70,21 @@ KalTextEditor::KalTextEditor(Mode mode, QWidget *parent)
 
 KalTextEditor::~KalTextEditor() = default;
 
-void KalTextEditor::fillFamilies()
+void KalTextEditor::fillFontBoxes(QComboBox *families, QComboBox *sizes, bool symbolFontsFirst)
 {
-    QStringList families = QFontDatabase().families();
-    if (m_mode == Symbol) {
+    QStringList installed = QFontDatabase().families();
+    if (symbolFontsFirst) {
         // The symbol fonts first; the installed ones follow for systems
         // without them.
         const QStringList symbolFonts{QStringLiteral("Wingdings"), QStringLiteral("Webdings")};
         for (const QString &family : symbolFonts)
-            families.removeAll(family);
-        families = symbolFonts + families;
+            installed.removeAll(family);
+        installed = symbolFonts + installed;
     }
-    m_ui->cbxFontFamily->addItems(families);
+    families->addItems(installed);
+    for (int size : kSizes)
+        sizes->addItem(QString::number(size));
+    sizes->setValidator(new QIntValidator(1, 999, sizes));
 }
 
 KalTextEditor::Values KalTextEditor::factoryDefaults()

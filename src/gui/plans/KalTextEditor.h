@@ -5,6 +5,8 @@
 #include <functional>
 #include <memory>
 
+class QComboBox;
+
 namespace Ui {
 class KalTextEditor;
 }
@@ -47,6 +49,12 @@ public:
     static void setColorChooser(const ColorChooser &chooser);
     static QColor chooseColor(const QColor &initial, QWidget *parent, const QString &title);
 
+    // Fills a family box with the installed fonts (the symbol fonts first
+    // when asked) and a size box with the offered sizes; the size box takes
+    // any typed size from 1 to 999. Shared by every text tool so the choices
+    // are the same wherever a text is formatted.
+    static void fillFontBoxes(QComboBox *families, QComboBox *sizes, bool symbolFontsFirst = false);
+
 public slots:
     void reject() override;
 
@@ -62,7 +70,6 @@ private slots:
     void okClicked();
 
 private:
-    void fillFamilies();
     void showFormat();
     void markChanged();
 

@@ -16,8 +16,11 @@
 #include "support/KalTestProject.h"
 #include "support/KalWidgetTestMain.h"
 
+#include <QAction>
+#include <QComboBox>
 #include <QGraphicsView>
 #include <QImage>
+#include <QLineEdit>
 #include <QSettings>
 #include <QTemporaryDir>
 #include <QToolButton>
@@ -289,6 +292,101 @@ private slots:
         e = editor();
         e->accept();
         QCOMPARE(m_project.count("marker_text"), 1);
+    }
+
+    void textFontTools_data()
+    {
+        QTest::addColumn<QString>("box");
+        QTest::addColumn<bool>("textSelected");
+        QTest::newRow("family of the selected text") << "cbxFontFamily" << true;
+        QTest::newRow("typed size of the selected text") << "cbxFontSize" << true;
+        QTest::newRow("family of the next generated text") << "cbxFontFamily" << false;
+        QTest::newRow("typed size of the next generated text") << "cbxFontSize" << false;
+    }
+    void textFontTools()
+    {
+        QFETCH(QString, box);
+        QFETCH(bool, textSelected);
+        const bool family = box == "cbxFontFamily";
+        auto e = editor();
+        auto text = [&e]() -> KalMarkerTextItem * {
+            for (QGraphicsItem *item : e->scene()->items()) {
+                if (item->type() == KalMarkerTextItem::Type)
+                    return static_cast<KalMarkerTextItem *>(item);
+            }
+            return nullptr;
+        };
+        auto shown = [&](KalMarkerTextItem *item) {
+            return family ? item->fontFamily() : QString::number(item->fontSize());
+        };
+        if (textSelected) {
+            e->addMarker(QPointF(300, 300));
+            for (QGraphicsItem *item : e->scene()->items())
+                item->setSelected(item->type() == KalMarkerTextItem::Type);
+        }
+        const QString before = textSelected ? shown(text()) : QString();
+        auto *combo = e->findChild<QComboBox *>(box);
+        QString chosen = "23";
+        if (family) {
+            QTest::keyClick(combo, combo->currentIndex() + 1 < combo->count() ? Qt::Key_Down : Qt::Key_Up);
+            chosen = combo->currentText();
+        } else {
+            combo->lineEdit()->selectAll();
+            QTest::keyClicks(combo, chosen);
+            QTest::keyClick(combo, Qt::Key_Return);
+            QVERIFY(e->isVisible()); // the size's Return is not the dialog's OK
+        }
+        if (!textSelected)
+            e->addMarker(QPointF(300, 300)); // brings the defect's text
+        QCOMPARE(shown(text()), chosen);
+        if (textSelected) {
+            QVERIFY(chosen != before);
+            e->actions().at(0)->trigger(); // undo
+            QCOMPARE(shown(text()), before);
+            QCOMPARE(combo->currentText(), before);
+            e->actions().at(1)->trigger(); // redo
+        }
+        e->accept();
+        QCOMPARE(m_project.field("marker_text", onlyId("marker_text"), family ? "font_family" : "font_size").toString(),
+                 chosen);
+    }
+
+    void savingKeepsRowIds_data()
+    {
+        QTest::addColumn<QString>("change");
+        QTest::addColumn<int>("markers");
+        QTest::addColumn<bool>("textKept");
+        QTest::newRow("turned marker") << "turn" << 1 << true;
+        QTest::newRow("deleted text") << "delete text" << 1 << false;
+        QTest::newRow("second marker") << "add marker" << 2 << true;
+    }
+    void savingKeepsRowIds()
+    {
+        QFETCH(QString, change);
+        QFETCH(int, markers);
+        QFETCH(bool, textKept);
+        auto e = editor();
+        e->addMarker(QPointF(300, 300));
+        e->accept();
+        const qint64 markerId = onlyId("marker");
+        const qint64 textId = onlyId("marker_text");
+        e = editor();
+        for (QGraphicsItem *item : e->scene()->items())
+            item->setSelected(item->type() == (change == "turn" ? int(KalMarkerItem::Type) : KalMarkerTextItem::Type));
+        if (change == "turn") {
+            click(e.get(), "tbRotateRight");
+        } else if (change == "delete text") {
+            m_prompt->queueAnswer("Ja");
+            QTest::keyClick(e->findChild<QGraphicsView *>("gvPlan"), Qt::Key_Delete);
+        } else {
+            e->addMarker(QPointF(700, 500));
+        }
+        e->accept();
+        QCOMPARE(m_project.count("marker"), markers);
+        QCOMPARE(m_project.count("marker", QString("id = %1").arg(markerId)), 1);
+        QCOMPARE(m_project.field("marker", markerId, "rotation_angle").toDouble(), change == "turn" ? 15.0 : 0.0);
+        QCOMPARE(m_project.count("marker_text", QString("id = %1").arg(textId)), textKept ? 1 : 0);
+        QCOMPARE(m_project.count("marker_text"), textKept ? 1 : 0);
     }
 
     void discardQuestionKeepsTheEditorOpen()

@@ -2,7 +2,6 @@
 // the new picture with the markers moved.
 #include "core/plans/KalPlans.h"
 #include "core/project/KalProject.h"
-#include "gui/plans/KalMarkerItem.h"
 #include "gui/plans/KalPlanReferenceDialog.h"
 #include "support/KalScriptedPrompt.h"
 #include "support/KalTestProject.h"
@@ -10,7 +9,9 @@
 
 #include <QDialogButtonBox>
 #include <QGraphicsScene>
+#include <QGraphicsView>
 #include <QImage>
+#include <QPainter>
 #include <QPushButton>
 #include <QTemporaryDir>
 
@@ -47,6 +48,15 @@ private slots:
                                                {"transform_point_y", 256.0},
                                                {"plan_info_id", m_sheet},
                                                {"defect_id", defect}});
+        m_project.insert("marker_text", {{"pos_x", 20.0},
+                                         {"pos_y", 200.0},
+                                         {"scale_factor", 1.0},
+                                         {"text", "XXXX"},
+                                         {"color", "#000000"},
+                                         {"font_family", "Arial"},
+                                         {"font_size", 20},
+                                         {"plan_info_id", m_sheet},
+                                         {"defect_id", defect}});
         QVERIFY(plans.loadVersion(m_files.filePath("new.png"), &m_version));
     }
 
@@ -79,24 +89,42 @@ private slots:
         QCOMPARE(m_project.field("marker", m_marker, "pos_x").toDouble(), usable ? 10.0 : 0.0);
     }
 
-    void previewShowsTheMovedMarker()
+    // The new plan is shifted 50 px to the right: the preview draws marker
+    // and text there, not at their old spots.
+    void previewShowsMovedMarkerAndText_data()
     {
+        QTest::addColumn<QRect>("oldSpot");
+        QTest::addColumn<QRect>("newSpot");
+        QTest::newRow("target marker at (256, 256)") << QRect(250, 250, 12, 12) << QRect(300, 250, 12, 12);
+        QTest::newRow("text at (20, 200)") << QRect(22, 204, 30, 16) << QRect(72, 204, 30, 16);
+    }
+    void previewShowsMovedMarkerAndText()
+    {
+        QFETCH(QRect, oldSpot);
+        QFETCH(QRect, newSpot);
         KalPlanReferenceDialog dialog(m_project.project(), m_sheet, m_version);
         for (const QPointF &p : Points{{0, 0}, {100, 0}, {0, 100}})
             dialog.addPoint(false, p);
         for (const QPointF &p : Points{{50, 0}, {150, 0}, {50, 100}})
             dialog.addPoint(true, p);
-        QGraphicsScene *newScene = nullptr;
-        for (QGraphicsScene *scene : dialog.findChildren<QGraphicsScene *>()) {
-            for (QGraphicsItem *item : scene->items()) {
-                if (item->type() == KalMarkerItem::Type) {
-                    newScene = scene;
-                    // Located at (256, 256) on the old plan, 50 px further right on the new one.
-                    QCOMPARE(item->mapToScene(item->transformOriginPoint()), QPointF(306, 256));
-                }
-            }
+        QImage preview(400, 300, QImage::Format_RGB32);
+        preview.fill(Qt::white);
+        {
+            QPainter painter(&preview);
+            dialog.findChild<QGraphicsView *>("gvNewPlan")
+                ->scene()
+                ->render(&painter, preview.rect(), QRectF(0, 0, 400, 300));
         }
-        QVERIFY(newScene);
+        auto drawn = [&preview](const QRect &area) {
+            int count = 0;
+            for (int y = area.top(); y <= area.bottom(); ++y) {
+                for (int x = area.left(); x <= area.right(); ++x)
+                    count += preview.pixel(x, y) != qRgb(255, 255, 255);
+            }
+            return count;
+        };
+        QVERIFY(drawn(newSpot) > 10);
+        QCOMPARE(drawn(oldSpot), 0);
         dialog.accept();
         QCOMPARE(m_project.field("marker", m_marker, "pos_x").toDouble(), 50.0);
         QCOMPARE(m_project.field("marker", m_marker, "pos_y").toDouble(), 0.0);
