@@ -502,6 +502,7 @@ qint64 KalSiteJournalImportRun::matchDefect(const KalSiteJournalFile::Defect &de
 bool KalSiteJournalImportRun::importPhotos(qint64 journalDefectId, qint64 projectDefectId, bool defectIsNew)
 {
     const QVector<KalSiteJournalFile::Photo> &photos = m_file->photos();
+    int added = 0;
     for (int index : m_photosOf.value(journalDefectId)) {
         const KalSiteJournalFile::Photo &photo = photos.at(index);
         const auto known = m_photos.constFind(photo.id);
@@ -530,10 +531,16 @@ bool KalSiteJournalImportRun::importPhotos(qint64 journalDefectId, qint64 projec
             ++m_result->photos.restored;
         else if (imported)
             ++m_result->photos.added;
+        added += imported ? 1 : 0;
         if (canceled())
             return false;
     }
-    m_touchedDefects.insert(projectDefectId);
+    // A new defect's count is known; a defect that had photos is counted
+    // again at the end, after the deletions.
+    if (defectIsNew && added > 0 && !m_writer.setImageCount(projectDefectId, added))
+        return fail(QStringLiteral("setImageCount"));
+    if (!defectIsNew && added > 0)
+        m_touchedDefects.insert(projectDefectId);
     return true;
 }
 
