@@ -132,6 +132,7 @@ bool KalSiteJournalImportRun::execute(const KalSiteJournalFile &file, const Sett
     }
     m_result->files << file.path();
     if (m_writer.writes() > 0) {
+        m_result->written = true;
         m_project->markModified();
         if (KalProjectModels *models = m_project->models()) {
             for (const char *table : kModelTables) {
@@ -204,7 +205,10 @@ bool KalSiteJournalImportRun::importCompanies()
             if (newOnly() || sameRecord(known->record, company.record))
                 continue;
             if (known->modified) {
-                m_result->notUpdatedCompanies << known->record.displayText();
+                // Listed only when the journal changed it too: otherwise
+                // there was nothing to update.
+                if (company.modified)
+                    m_result->notUpdatedCompanies << known->record.displayText();
                 continue;
             }
             if (!m_writer.updateCompany(known->id, company.record))
@@ -319,7 +323,8 @@ bool KalSiteJournalImportRun::importDefect(const KalSiteJournalFile::Defect &def
         m_claimed.insert(known->id);
         if (!newOnly() && differs(values, known->values)) {
             if (known->modified) {
-                m_result->notUpdatedDefects << defectLine(known->values);
+                if (defect.modified)
+                    m_result->notUpdatedDefects << defectLine(known->values);
             } else {
                 if (!m_writer.updateDefect(known->id, values))
                     return fail(QStringLiteral("updateDefect"));
@@ -498,7 +503,8 @@ bool KalSiteJournalImportRun::updatePhoto(const KalSiteJournalFile::Photo &photo
     if (!textChanged && !pictureChanged)
         return true;
     if (known.modified) {
-        ++m_result->notUpdatedPhotos;
+        if (photo.modified)
+            ++m_result->notUpdatedPhotos;
         return true;
     }
     if (textChanged && !m_writer.updatePhotoText(known.id, photo))

@@ -407,13 +407,16 @@ private slots:
         const KalDataImportResult again = import(path, Mode::Update);
         QCOMPARE(m_prompt->texts(), QStringList());
         QCOMPARE(KalTestFiles::fileHash(m_fx.project()->workingCopyPath()), before);
-        QCOMPARE(again.changed(), true); // the file was read and linked
+        QCOMPARE(again.changed(), false);
         QCOMPARE(again.defects.added + again.defects.updated + again.defects.deleted + again.defects.restored, 0);
     }
 
     void unchangedReimport()
     {
         const QString path = importBasic();
+        // Changed here only: nothing to update, so nothing to report either.
+        QVERIFY(m_fx.exec(QStringLiteral("UPDATE defect SET description = 'hier', site_journal_data_modified = 1 "
+                                         "WHERE number = '1'")));
         m_fx.project()->setModified(false);
         const QByteArray before = KalTestFiles::fileHash(m_fx.project()->workingCopyPath());
         m_prompt->clear();
@@ -421,6 +424,8 @@ private slots:
             const KalDataImportResult result = import(path, mode);
             QCOMPARE(int(result.outcome), int(KalDataImportResult::Outcome::Done));
             QCOMPARE(result.defects.added + result.photos.added + result.companies.added, 0);
+            QVERIFY(!result.changed());
+            QCOMPARE(result.notUpdatedDefects, QStringList());
         }
         QCOMPARE(m_prompt->shown().size(), 0);
         QCOMPARE(KalTestFiles::fileHash(m_fx.project()->workingCopyPath()), before);
