@@ -113,6 +113,8 @@ bool KalSiteJournalImportRun::execute(const KalSiteJournalFile &file, const Sett
               closedReportCompanies();
     for (auto it = m_touchedDefects.constBegin(); ok && it != m_touchedDefects.constEnd(); ++it)
         ok = m_writer.setImageCount(*it) || fail(QStringLiteral("setImageCount"));
+    if (ok && m_progress)
+        m_progress->setText(tr("Datenbank wird aktualisiert ..."));
     ok = ok && writeLink() && (m_writer.flushIds() || fail(QStringLiteral("flushIds"))) && !canceled();
     if (ok && !m_project->commitTransaction()) {
         ok = false;

@@ -196,6 +196,8 @@ private slots:
             j.addPhoto(d1, stored, QStringLiteral("Nord"), QDate(2024, 3, 2));
             j.addPhoto(d1, KalTestImages::encoded(KalTestImages::marked(QSize(300, 200)), "png"),
                        QStringLiteral("als PNG"), QDate(), QStringLiteral("image/png"));
+            j.addPhoto(d1, stored, QStringLiteral("Daumen kaputt"), QDate(), QStringLiteral("image/jpeg"),
+                       QByteArrayLiteral("kein JPEG"));
             j.addPhoto(d2, KalTestImages::pngHeaderOnly(QSize(20000, 20000)), QStringLiteral("riesig"));
             j.addPhoto(d2, QByteArrayLiteral("kein Bild"), QStringLiteral("kaputt"));
             j.addPhoto(d2, stored.left(stored.size() / 2), QStringLiteral("abgeschnitten"));
@@ -203,7 +205,7 @@ private slots:
         const KalDataImportResult result = import(path, Mode::Initial, 2);
         QCOMPARE(int(result.outcome), int(KalDataImportResult::Outcome::Done));
         QCOMPARE(result.text().section(QLatin1Char('\n'), 0, 0),
-                 QStringLiteral("Es wurden 1 Firma und 2 Mängel mit 2 Fotos importiert."));
+                 QStringLiteral("Es wurden 1 Firma und 2 Mängel mit 3 Fotos importiert."));
         QCOMPARE(result.skippedPhotos.size(), 3);
         QVERIFY(result.text().contains(QStringLiteral("riesig")));
         QVERIFY(result.text().contains(QStringLiteral("kaputt")));
@@ -220,7 +222,12 @@ private slots:
         QCOMPARE(sql(QStringLiteral("SELECT group_concat(image_cnt) FROM (SELECT image_cnt FROM defect ORDER BY "
                                     "number)"))
                      .toString(),
-                 QStringLiteral("2,0"));
+                 QStringLiteral("3,0"));
+        // A broken thumbnail is made anew from the picture.
+        const QByteArray thumbnail = sql(QStringLiteral("SELECT thumbnail FROM image i JOIN photo_info p ON "
+                                                        "p.image_id = i.id WHERE p.caption = 'Daumen kaputt'"))
+                                         .toByteArray();
+        QVERIFY(!QImage::fromData(thumbnail).isNull());
         QCOMPARE(sql(QStringLiteral("SELECT value FROM meta WHERE key = 'siteJournalDatabasePath'")).toString(),
                  QDir::toNativeSeparators(path));
         QCOMPARE(sql(QStringLiteral("SELECT value FROM meta WHERE key = 'automaticImportMode'")).toString(),
