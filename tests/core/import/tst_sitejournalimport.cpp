@@ -3,6 +3,7 @@
 // each answer does, unchanged journals, and journals continued in new files.
 #include "core/import/KalDataImportConflictResolver.h"
 #include "core/import/KalSiteJournalDataImport.h"
+#include "core/photos/KalPhotos.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
 #include "support/KalScriptedPrompt.h"
@@ -309,6 +310,16 @@ private slots:
             << "SELECT (SELECT COUNT(*) FROM photo_info) || '|' || (SELECT COUNT(*) FROM image) || '|' || "
                "(SELECT image_cnt FROM defect WHERE number = '1')"
             << "0|0|0";
+        QTest::newRow("photo deleted here, import again")
+            << "photoProjectDelete" << QStringList{"Foto erneut importieren"} << false
+            << QStringList{"Das Foto \"Ohne Titel\" vom 'Ohne Datum' wurde im Pellwick gelöscht.\nSoll dieses Foto "
+                           "erneut importiert werden?\n"}
+            << "SELECT (SELECT COUNT(*) FROM photo_info) || '|' || (SELECT image_cnt FROM defect WHERE number = '1') "
+               "|| '|' || (SELECT COUNT(*) FROM deleted_site_journal_photo_info)"
+            << "1|1|0";
+        QTest::newRow("photo caption and date set in the journal")
+            << "photoEdit" << QStringList() << false << QStringList() << "SELECT caption || '|' || date FROM photo_info"
+            << "Nordwand|2024-03-05";
         QTest::newRow("company deleted in the journal")
             << "companyDelete" << QStringList{"Firma im Pellwick löschen"} << false
             << QStringList{"Die Firma\n\nGewerk: Maler\nVorname: \nNachname: \nFirma: Roth GmbH\nStraße: \nPLZ: "
@@ -372,6 +383,13 @@ private slots:
                 QVERIFY(j.exec("DELETE FROM entry") && j.exec("DELETE FROM entry_progress"));
             if (change == QLatin1String("photoDelete"))
                 QVERIFY(j.exec("DELETE FROM entry_progress WHERE type = 2"));
+            if (change == QLatin1String("photoEdit"))
+                QVERIFY(j.exec("UPDATE entry_photo SET caption = 'Nordwand', date = '2024-03-05'"));
+            if (change == QLatin1String("photoProjectDelete")) {
+                QString error;
+                const qint64 photo = sql("SELECT id FROM photo_info").toLongLong();
+                QVERIFY2(KalPhotos(m_fx.project()).remove({photo}, &error), qPrintable(error));
+            }
             if (change == QLatin1String("companyDelete"))
                 QVERIFY(j.exec("UPDATE company SET category = '-2'"));
             if (change == QLatin1String("companyBothEdit")) {
