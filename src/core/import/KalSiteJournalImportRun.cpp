@@ -358,8 +358,9 @@ bool KalSiteJournalImportRun::importDefect(const KalSiteJournalFile::Defect &def
         m_claimed.insert(target);
         ProjectDefect &project = *std::find_if(m_state.defects.begin(), m_state.defects.end(),
                                                [target](const ProjectDefect &d) { return d.id == target; });
-        // A defect changed here keeps its values; it only learns its new journal id.
-        QVariantMap written = project.modified ? project.values : values;
+        // A defect changed here (or any, when only new records are wanted)
+        // keeps its values; it only learns its new journal id.
+        QVariantMap written = project.modified || newOnly() ? project.values : values;
         written.insert(QStringLiteral("site_journal_id"), defect.id);
         written.insert(QStringLiteral("imported_report_id"), reportRowId);
         if (!m_writer.updateDefect(target, written))

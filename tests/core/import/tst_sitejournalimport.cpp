@@ -457,6 +457,28 @@ private slots:
         QVERIFY(!m_fx.project()->isModified());
     }
 
+    void newOnlyTakesNewRecordsOnly()
+    {
+        const QString path = importBasic();
+        {
+            KalTestJournal j = KalTestJournal::reopen(path);
+            QVERIFY(j.exec("UPDATE entry_progress SET description = 'Riss breiter', modified = 1 WHERE number = '1'"));
+            QVERIFY(j.exec("DELETE FROM entry_progress WHERE number = '2'"));
+            QVERIFY(j.exec("UPDATE company SET company = 'Roth AG', modified = 1"));
+            j.addDefect(j.addReport(QStringLiteral("8")), QStringLiteral("3"), QStringLiteral("neu"));
+        }
+        m_prompt->clear();
+        const KalDataImportResult result = import(path, Mode::NewOnly);
+        QCOMPARE(int(result.outcome), int(KalDataImportResult::Outcome::Done));
+        QCOMPARE(m_prompt->texts(), QStringList());
+        QCOMPARE(result.defects.added, 1);
+        QCOMPARE(sql("SELECT group_concat(number || ':' || description, ' ') FROM (SELECT * FROM defect ORDER BY "
+                     "number)")
+                     .toString(),
+                 QStringLiteral("1:Riss 2:Fleck 3:neu"));
+        QCOMPARE(sql("SELECT company FROM company").toString(), QStringLiteral("Roth GmbH"));
+    }
+
     void conflictsOnlyWhenReal()
     {
         const QString path = importBasic();
