@@ -104,6 +104,9 @@ KalDataImportResult KalSiteJournalDataImport::run(const QString &journalPath, Mo
     } else if (result.succeeded()) {
         importChain(path, mode, true, &result, &questions);
     }
+    // The project keeps the choice read at opening; it may have changed.
+    if (result.written)
+        m_project->readAutomaticImportMode();
     m_progress->end();
     return result;
 }

@@ -233,6 +233,7 @@ private slots:
                  QDir::toNativeSeparators(path));
         QCOMPARE(sql(QStringLiteral("SELECT value FROM meta WHERE key = 'automaticImportMode'")).toString(),
                  QStringLiteral("2"));
+        QCOMPARE(m_fx.project()->automaticImportMode(), 2);
         QVERIFY(m_fx.project()->isModified());
         // Ids handed out are known to the allocator: the next defect does not collide.
         const qint64 next = m_fx.project()->nextId(QStringLiteral("defect"));
