@@ -264,6 +264,9 @@ bool KalSiteJournalImportRun::importReports()
         reports << &report;
         m_total += defectsOf.value(report.id).size();
     }
+    QHash<qint64, QList<qint64>> projectDefectsOf; // report row -> journal ids of its project defects
+    for (auto it = m_state.defects.constBegin(); it != m_state.defects.constEnd(); ++it)
+        projectDefectsOf[it->reportId] << it.key();
     if (m_progress)
         m_progress->setText(tr("Mängel werden importiert ..."));
     for (const KalSiteJournalFile::Report *report : qAsConst(reports)) {
@@ -282,13 +285,12 @@ bool KalSiteJournalImportRun::importReports()
                 return fail(QStringLiteral("updateReport"));
         }
         m_presentReports.insert(rowId);
+        // Project defects of this report whose journal counterpart is gone,
+        // by their old journal id.
         QList<qint64> orphans;
-        if (reportKnown) {
-            for (const ProjectDefect &defect : qAsConst(m_state.defects)) {
-                if (defect.reportId == rowId &&
-                    !m_journalDefectIds.contains(defect.values.value(QStringLiteral("site_journal_id")).toLongLong()))
-                    orphans << defect.id;
-            }
+        for (qint64 key : projectDefectsOf.value(rowId)) {
+            if (!m_journalDefectIds.contains(key))
+                orphans << key;
         }
         for (int index : defectsOf.value(report->id)) {
             if (!importDefect(defects.at(index), *report, rowId, reportKnown, &orphans))
@@ -353,11 +355,11 @@ bool KalSiteJournalImportRun::importDefect(const KalSiteJournalFile::Defect &def
         m_claimed.insert(id);
         return importPhotos(defect.id, id, true);
     }
-    const qint64 target = reportKnown ? matchDefect(defect, report, orphans) : -1;
-    if (target > 0) {
+    const qint64 key = reportKnown ? matchDefect(defect, report, orphans) : -1;
+    if (key >= 0) {
+        const ProjectDefect &project = m_state.defects[key];
+        const qint64 target = project.id;
         m_claimed.insert(target);
-        ProjectDefect &project = *std::find_if(m_state.defects.begin(), m_state.defects.end(),
-                                               [target](const ProjectDefect &d) { return d.id == target; });
         // A defect changed here (or any, when only new records are wanted)
         // keeps its values; it only learns its new journal id.
         QVariantMap written = project.modified || newOnly() ? project.values : values;
@@ -380,16 +382,16 @@ qint64 KalSiteJournalImportRun::matchDefect(const KalSiteJournalFile::Defect &de
                                             const KalSiteJournalFile::Report &report, QList<qint64> *orphans)
 {
     QList<qint64> candidates;
+    QHash<qint64, qint64> keyOf; // project id -> old journal id
     QList<qint64> sameNumber;
-    for (qint64 id : qAsConst(*orphans)) {
-        if (m_claimed.contains(id))
+    for (qint64 key : qAsConst(*orphans)) {
+        const ProjectDefect &project = m_state.defects[key];
+        if (m_claimed.contains(project.id))
             continue;
-        candidates << id;
-        for (const ProjectDefect &project : qAsConst(m_state.defects)) {
-            if (project.id == id &&
-                project.values.value(QStringLiteral("number")).toString().trimmed() == defect.number.trimmed())
-                sameNumber << id;
-        }
+        candidates << project.id;
+        keyOf.insert(project.id, key);
+        if (project.values.value(QStringLiteral("number")).toString().trimmed() == defect.number.trimmed())
+            sameNumber << project.id;
     }
     qint64 chosen = -1;
     if (sameNumber.size() == 1) {
@@ -413,9 +415,10 @@ qint64 KalSiteJournalImportRun::matchDefect(const KalSiteJournalFile::Defect &de
         const qint64 answer = m_resolver->assign(shown, candidates);
         chosen = candidates.contains(answer) ? answer : -1;
     }
-    if (chosen > 0)
-        orphans->removeAll(chosen);
-    return chosen;
+    if (chosen <= 0)
+        return -1;
+    orphans->removeAll(keyOf.value(chosen));
+    return keyOf.value(chosen);
 }
 
 bool KalSiteJournalImportRun::importPhotos(qint64 journalDefectId, qint64 projectDefectId, bool defectIsNew)
