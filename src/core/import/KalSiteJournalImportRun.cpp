@@ -9,7 +9,6 @@
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
-#include <algorithm>
 
 namespace {
 
@@ -120,6 +119,10 @@ bool KalSiteJournalImportRun::execute(const KalSiteJournalFile &file, const Sett
         ok = false;
         m_result->outcome = KalDataImportResult::Outcome::Failed;
         m_result->errorText = tr("Die importierten Daten konnten nicht gespeichert werden.");
+        const QSqlError error = m_project->database().lastError();
+        kalReportSqlError(error.isValid() ? error
+                                          : QSqlError(m_result->errorText, QString(), QSqlError::StatementError),
+                          QStringLiteral("KalSiteJournalDataImport"), QStringLiteral("execute"), __LINE__);
     }
     if (!ok) {
         m_project->rollbackTransaction();
