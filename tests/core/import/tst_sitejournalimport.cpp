@@ -458,6 +458,23 @@ private slots:
         QVERIFY(!m_fx.project()->isModified());
     }
 
+    void questionsShowTextsAsTheyAre()
+    {
+        const QString path = importBasic();
+        {
+            KalTestJournal j = KalTestJournal::reopen(path);
+            QVERIFY(j.exec("UPDATE company SET company = 'Roth %1 %10 \"50%\"', city = 'Köln', category = '-2'"));
+        }
+        m_prompt->clear();
+        import(path, Mode::Update);
+        QCOMPARE(m_prompt->texts().size(), 1);
+        QVERIFY2(m_prompt->texts().first().contains(QStringLiteral("\nFirma: Roth %1 %10 \"50%\"\nStraße: \nPLZ: "
+                                                                   "\nStadt: Köln\nTelefon: \n")),
+                 qPrintable(m_prompt->texts().first()));
+        QCOMPARE(m_prompt->shown().first().checkBoxText,
+                 QStringLiteral("Alle weiteren gelöschten Firmen genauso behandeln"));
+    }
+
     void newOnlyTakesNewRecordsOnly()
     {
         const QString path = importBasic();
