@@ -3,12 +3,14 @@
 #include "core/import/KalDataImportResult.h"
 
 #include <QCoreApplication>
+#include <QSet>
 #include <QString>
 
 class KalProject;
 class KalPrompt;
 class KalProgress;
 class KalDataImportConflictResolver;
+class KalDataImportQuestions;
 
 // Copies the defects, photos and companies of a site journal (".sjd", or a
 // file exported by the mobile app) into the open project and keeps them in
@@ -101,11 +103,17 @@ public:
     KalDataImportResult run(const QString &journalPath, Mode mode);
 
 private:
-    class Run;
+    // Imports `first` and, when asked to, the successors it names. Counts
+    // and files are added to `result`.
+    void importChain(const QString &first, Mode mode, bool announceSuccessor, KalDataImportResult *result,
+                     KalDataImportQuestions *questions);
+    bool offerPredecessor(const QString &journalPath, QString *predecessor);
+    bool confirmLock(const QString &journalPath);
     KalProject *m_project;
     KalPrompt *m_prompt;
     KalProgress *m_progress;
     KalDataImportConflictResolver *m_resolver;
     int m_automaticImportMode = -1;
     bool m_checkLockMarker = true;
+    QSet<QString> m_confirmed;
 };

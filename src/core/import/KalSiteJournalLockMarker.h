@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QString>
 
+class KalPrompt;
+
 // The site-diary program works on `<journal>.workingcopy`, keeps SQLite's
 // exclusive lock on it while the journal is open, and names its user and
 // computer in `<journal>.udf` (lines: user, computer, date, time). This
@@ -35,5 +37,5 @@ public:
     // check() and the message that goes with it through KalPrompt:
     // ThisUser asks "Fortfahren" / "Import abbrechen", OtherUser names the
     // holder and stops. True when the import may go on.
-    static bool confirm(const QString &journalPath);
+    static bool confirm(const QString &journalPath, KalPrompt *prompt = nullptr);
 };
