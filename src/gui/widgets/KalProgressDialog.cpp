@@ -68,6 +68,16 @@ bool KalProgressDialog::wasCanceled() const
     return m_canceled;
 }
 
+void KalProgressDialog::setText(const QString &text)
+{
+    if (m_depth == 0 || !m_window)
+        return;
+    m_window->setWindowTitle(m_text);
+    m_window->setLabelText(text);
+    if (!m_yielded)
+        keepPainting();
+}
+
 void KalProgressDialog::setProgress(qint64 done, qint64 total)
 {
     if (m_depth == 0 || !m_window)

@@ -364,6 +364,25 @@ private slots:
         QVERIFY(!QApplication::overrideCursor());
     }
 
+    // A long operation names itself in the title and its phase below.
+    void busyWindowShowsThePhase()
+    {
+        KalProgressDialog progress;
+        progress.beginCancelable(QStringLiteral("Datenimport aus dem Bautagebuch"));
+        QTRY_VERIFY_WITH_TIMEOUT(progress.isShowing(), 3000);
+        progress.setText(QStringLiteral("Mängel werden importiert ...\nMangel 3 von 50"));
+        QProgressDialog *window = nullptr;
+        for (QWidget *w : QApplication::topLevelWidgets()) {
+            if (auto *p = qobject_cast<QProgressDialog *>(w); p && p->isVisible())
+                window = p;
+        }
+        QVERIFY(window);
+        QCOMPARE(window->windowTitle(), QStringLiteral("Datenimport aus dem Bautagebuch"));
+        QCOMPARE(window->labelText(), QStringLiteral("Mängel werden importiert ...\nMangel 3 von 50"));
+        progress.end();
+        QVERIFY(!progress.isShowing());
+    }
+
     void busyWindowAppearsAfterDelay()
     {
         auto progressWindow = [] {
