@@ -138,7 +138,7 @@ bool KalSiteJournalImportCommands::lockAllows(const QString &journalPath)
 }
 
 KalDataImportResult KalSiteJournalImportCommands::run(const QString &journalPath, KalSiteJournalDataImport::Mode mode,
-                                                      int automaticImportMode)
+                                                      int automaticImportMode, bool quietWhenUnchanged)
 {
     KalDataImportDefectAssignDialog resolver(m_project, m_dialogParent);
     KalSiteJournalDataImport import(m_project, nullptr, nullptr, &resolver);
@@ -147,6 +147,9 @@ KalDataImportResult KalSiteJournalImportCommands::run(const QString &journalPath
     import.setCheckLockMarker(false);
     const KalDataImportResult result = import.run(journalPath, mode);
     emit importFinished();
+    // Opening a project whose journal has nothing new says nothing.
+    if (quietWhenUnchanged && result.succeeded() && !result.changed())
+        return result;
     showResult(result, mode == KalSiteJournalDataImport::Mode::App
                            ? KalImportFromAppDialog::tr("Import aus der Quellor App")
                            : siteJournalTitle());
@@ -294,7 +297,8 @@ KalDataImportResult KalSiteJournalImportCommands::automaticImport()
     }
     if (!saveFirst(siteJournalTitle()) || !lockAllows(journal))
         return notStarted();
-    return run(journal, mode == 2 ? KalSiteJournalDataImport::Mode::Update : KalSiteJournalDataImport::Mode::NewOnly);
+    return run(journal, mode == 2 ? KalSiteJournalDataImport::Mode::Update : KalSiteJournalDataImport::Mode::NewOnly,
+               -1, true);
 }
 
 bool KalSiteJournalImportCommands::setAutomaticImportMode(int mode)

@@ -62,7 +62,7 @@ signals:
 private:
     QString chooseJournal(const QString &startPath);
     KalDataImportResult run(const QString &journalPath, KalSiteJournalDataImport::Mode mode,
-                            int automaticImportMode = -1);
+                            int automaticImportMode = -1, bool quietWhenUnchanged = false);
     KalDataImportResult runInitial(const QString &journalPath);
     KalDataImportResult runUpdate(const QString &journalPath);
     void showResult(const KalDataImportResult &result, const QString &title);

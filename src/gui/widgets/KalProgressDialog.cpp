@@ -130,8 +130,12 @@ void KalProgressDialog::yieldToMessage()
         return;
     m_yielded = true;
     m_showTimer->stop();
-    if (m_window)
+    if (m_window) {
+        // The window's own timer, started by a first value before it showed,
+        // would bring it up over the question: reset() stops it.
+        m_window->reset();
         m_window->hide();
+    }
     QApplication::restoreOverrideCursor();
 }
 

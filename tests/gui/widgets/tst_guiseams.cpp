@@ -383,6 +383,27 @@ private slots:
         QVERIFY(!progress.isShowing());
     }
 
+    // A question during a long operation (a conflict to resolve, say): the
+    // window goes and stays away while the question's own loop runs, also
+    // after progress had been reported.
+    void busyWindowStaysAwayAfterYielding()
+    {
+        KalProgressDialog progress;
+        progress.beginCancelable(QStringLiteral("Datenimport aus dem Bautagebuch"));
+        progress.setProgress(0, 100);
+        progress.yieldToMessage();
+        QVERIFY(!progress.isShowing());
+        bool appeared = false;
+        QEventLoop question;
+        QTimer poll;
+        connect(&poll, &QTimer::timeout, [&] { appeared = appeared || KalDialogAnswer<QProgressDialog>::find(); });
+        poll.start(20);
+        QTimer::singleShot(KalProgressDialog::showDelay() * 4, &question, &QEventLoop::quit);
+        question.exec();
+        QVERIFY(!appeared);
+        progress.end();
+    }
+
     void busyWindowAppearsAfterDelay()
     {
         auto progressWindow = [] {
