@@ -133,7 +133,9 @@ void KalDataImportDefectAssignDialog::setConflict(const JournalDefect &defect, c
         numberItem->setData(Qt::UserRole, id);
         numberItem->setTextAlignment(Qt::AlignLeft | Qt::AlignTop);
         table->setItem(row, NumberColumn, numberItem);
-        table->setItem(row, DetailsColumn, new QTableWidgetItem(projectDefectDetails(id)));
+        auto *detailsItem = new QTableWidgetItem(projectDefectDetails(id));
+        detailsItem->setTextAlignment(Qt::AlignLeft | Qt::AlignTop);
+        table->setItem(row, DetailsColumn, detailsItem);
     }
     table->resizeRowsToContents();
     table->clearSelection();

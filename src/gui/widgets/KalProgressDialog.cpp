@@ -73,6 +73,8 @@ void KalProgressDialog::setText(const QString &text)
     if (m_depth == 0 || !m_window)
         return;
     m_window->setWindowTitle(m_text);
+    // Wide enough for the title beside the frame's buttons.
+    m_window->setMinimumWidth(qMax(320, m_window->fontMetrics().horizontalAdvance(m_text) * 3 / 2 + 120));
     m_window->setLabelText(text);
     if (!m_yielded)
         keepPainting();
