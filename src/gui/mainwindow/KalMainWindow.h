@@ -95,7 +95,6 @@ public:
     // The site-journal program hands over a journal: import it (the user
     // is asked before a link to another journal moves).
     void importGivenSiteJournal(const QString &siteJournalPath);
-    KalSiteJournalImportCommands *importCommands() const { return m_importCommands; }
     // Follows the spell checker created at start-up.
     void updateSpellCheckingAction();
 

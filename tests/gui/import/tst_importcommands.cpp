@@ -6,6 +6,7 @@
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
 #include "gui/import/KalDataImportDefectAssignDialog.h"
+#include "gui/import/KalImportFromAppDialog.h"
 #include "gui/import/KalInitialImportDialog.h"
 #include "gui/mainwindow/KalMainWindow.h"
 #include "gui/widgets/KalFileDialog.h"
@@ -236,6 +237,35 @@ private slots:
                  QStringLiteral("Riss im Flur"));
         QVERIFY(m_window->project()->isModified());
         QCOMPARE(m_window->defectModel()->rowCount(), 2);
+    }
+
+    // An export of the mobile app comes in by the same rules; the project
+    // stays linked to its journal and remembers the export for next time.
+    void appExportLeavesTheLinkAlone()
+    {
+        const QString journal = path("j.sjd");
+        const QString app = path("handy.sjd");
+        QVERIFY(writeJournal(journal, {{"501", "1", "Riss im Putz"}}));
+        QVERIFY(writeJournal(app, {{"9001", "A1", "Kratzer Tür"}}));
+        QVERIFY(KalTestFiles::execute(
+            app, {"UPDATE entry SET id = 900, exported_by_app = 1", "UPDATE entry_progress SET entry_id = 900"}));
+        openSavedProject();
+        importInitially(journal);
+
+        KalDialogAnswer<KalImportFromAppDialog> user([app](KalImportFromAppDialog *d) {
+            KalFileDialog::queueChoice(app);
+            d->findChild<QPushButton *>(QStringLiteral("pbImport"))->click();
+        });
+        m_prompt->queueAnswer(QStringLiteral("Jetzt speichern"));
+        m_window->findChild<QAction *>(QStringLiteral("actionImportFromApp"))->trigger();
+
+        QVERIFY(user.seen());
+        QCOMPARE(defectCount(), 2);
+        const QString projectFile = m_window->project()->projectPath();
+        QCOMPARE(KalTestFiles::scalar(projectFile, "SELECT value FROM meta WHERE key = 'siteJournalDatabasePath'"),
+                 journal);
+        QCOMPARE(KalTestFiles::scalar(projectFile, "SELECT value FROM meta WHERE key = 'appImportlDatabasePath'"), app);
+        QVERIFY(!m_window->project()->isModified());
     }
 
     void automaticImportNeverKeepsTheProjectClosed_data()

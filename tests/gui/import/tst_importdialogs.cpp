@@ -245,18 +245,6 @@ private slots:
         QVERIFY(details.contains(status));
     }
 
-    void fiftyCandidatesAreListedInOrder()
-    {
-        const QList<qint64> candidates = addDefects(50);
-        KalDataImportDefectAssignDialog dialog(m_project.project());
-        dialog.setConflict(journalDefect(), candidates);
-        auto *table = dialog.findChild<QTableWidget *>(QStringLiteral("twDefects"));
-        QCOMPARE(table->rowCount(), 50);
-        for (int row = 0; row < 50; ++row)
-            QCOMPARE(table->item(row, 0)->text(), QStringLiteral("K%1").arg(row));
-        QVERIFY(table->selectedItems().isEmpty());
-    }
-
 private:
     static KalDataImportConflictResolver::JournalDefect journalDefect()
     {
