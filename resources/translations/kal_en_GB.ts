@@ -5219,4 +5219,416 @@ User: %1
 Computer: %2.</translation>
     </message>
 </context>
+<context>
+    <name>KalInitialImportDialog</name>
+    <message>
+        <source>
+Es werden alle Mängel und Firmen aus dem Bautagebuch %1 importiert.
+
+Wenn Sie einen automatischen Import aus dem Bautagebuch bei jedem Öffnen des Projekts wünschen,
+setzen Sie unten das entsprechende Häkchen.
+
+</source>
+        <translation>
+All defects and companies will be imported from the site journal %1.
+
+If you want the site journal to be imported automatically every time the project is opened,
+tick the box below.
+
+</translation>
+    </message>
+    <message>
+        <source>Importieren</source>
+        <translation>Import</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Datenimport aus Bautagebuch</source>
+        <translation>Data import from site journal</translation>
+    </message>
+    <message>
+        <source>Automatischer Import neuer Mängel und Firmen beim Öffnen des Projekts</source>
+        <translation>Automatically import new defects and companies when the project is opened</translation>
+    </message>
+    <message>
+        <source>Zusätzlich auch bereits importierte Daten aktualisieren</source>
+        <translation>Also update data imported before</translation>
+    </message>
+</context>
+<context>
+    <name>KalImportFromAppDialog</name>
+    <message>
+        <source>&lt;h3&gt;Mängel mit der Quellor App erfassen&lt;/h3&gt;&lt;p&gt;Mit der Quellor App erfassen Sie Mängel direkt auf der Baustelle: Beschreibung, Raum, Firma und Frist, dazu Fotos mit der Kamera Ihres Smartphones oder Tablets.&lt;/p&gt;&lt;p&gt;Exportieren Sie die erfassten Daten in der App und übertragen Sie die Export-Datei (*.sjd) auf diesen Computer, zum Beispiel per USB-Kabel, E-Mail oder über einen Cloud-Speicher.&lt;/p&gt;&lt;p&gt;Klicken Sie dann auf &lt;b&gt;Datei importieren&lt;/b&gt; und wählen Sie die Export-Datei aus. Neue Mängel, ihre Fotos und die Firmen werden in das Projekt übernommen; Mängel, die Sie hier bereits geändert haben, werden nicht überschrieben.&lt;/p&gt;&lt;p&gt;Die Verknüpfung des Projekts mit einem Bautagebuch bleibt dabei unverändert.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Recording defects with the Quellor App&lt;/h3&gt;&lt;p&gt;With the Quellor App you record defects right on the building site: description, room, company and deadline, together with photos taken with the camera of your smartphone or tablet.&lt;/p&gt;&lt;p&gt;Export the recorded data in the app and transfer the export file (*.sjd) to this computer, for example by USB cable, e-mail or cloud storage.&lt;/p&gt;&lt;p&gt;Then click &lt;b&gt;Import file&lt;/b&gt; and choose the export file. New defects, their photos and the companies are taken over into the project; defects you have already changed here are not overwritten.&lt;/p&gt;&lt;p&gt;The project&apos;s link to a site journal stays as it is.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Export-Datei der Quellor App auswählen</source>
+        <translation>Choose the Quellor App export file</translation>
+    </message>
+    <message>
+        <source>Export-Dateien der Quellor App (*.sjd)</source>
+        <translation>Quellor App export files (*.sjd)</translation>
+    </message>
+    <message>
+        <source>Import aus der Quellor App</source>
+        <translation>Import from the Quellor App</translation>
+    </message>
+    <message>
+        <source>Datei importieren</source>
+        <translation>Import file</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+</context>
+<context>
+    <name>KalDataImportDefectAssignDialog</name>
+    <message>
+        <source>
+Für folgenden Bautagebuch-Mangel ist beim Import ein Konflikt entstanden.
+Der Mangel konnte keinem Mangel im Pellwick zugeordnet werden.
+Sie können
+- den Bautagebuch-Mangel als neuen Mangel importieren oder
+- den Bautagebuch-Mangel einem im Pellwick bestehenden Mangel zuordnen,
+ um diesen zu aktualisieren.
+
+</source>
+        <translation>
+A conflict arose during the import for the following site-journal defect.
+The defect could not be matched to any defect in Pellwick.
+You can
+- import the site-journal defect as a new defect or
+- assign the site-journal defect to an existing defect in Pellwick,
+ to update that one.
+
+</translation>
+    </message>
+    <message>
+        <source>Mangel</source>
+        <translation>Defect</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>Bericht:</source>
+        <translation>Report:</translation>
+    </message>
+    <message>
+        <source>
+Beschreibung:
+</source>
+        <translation>
+Description:
+</translation>
+    </message>
+    <message>
+        <source>
+Raumname:</source>
+        <translation>
+Room name:</translation>
+    </message>
+    <message>
+        <source>
+Raumbuch-Nr.:</source>
+        <translation>
+Room book no.:</translation>
+    </message>
+    <message>
+        <source>
+Firma:</source>
+        <translation>
+Company:</translation>
+    </message>
+    <message>
+        <source>
+Frist:</source>
+        <translation>
+Deadline:</translation>
+    </message>
+    <message>
+        <source>
+Anzahl Fotos:</source>
+        <translation>
+Number of photos:</translation>
+    </message>
+    <message>
+        <source> - mit Minderung</source>
+        <translation> - with price reduction</translation>
+    </message>
+    <message>
+        <source>Beschreibung:
+</source>
+        <translation>Description:
+</translation>
+    </message>
+    <message>
+        <source>
+Typ:</source>
+        <translation>
+Type:</translation>
+    </message>
+    <message>
+        <source>
+Autor:</source>
+        <translation>
+Author:</translation>
+    </message>
+    <message>
+        <source>
+Erfasst am:</source>
+        <translation>
+Recorded on:</translation>
+    </message>
+    <message>
+        <source>
+Plan:</source>
+        <translation>
+Plan:</translation>
+    </message>
+    <message>
+        <source>
+Beseitigungsanweisung:
+</source>
+        <translation>
+Correction instruction:
+</translation>
+    </message>
+    <message>
+        <source>
+Priorität:</source>
+        <translation>
+Priority:</translation>
+    </message>
+    <message>
+        <source>
+1.Nachfrist:</source>
+        <translation>
+1st extension:</translation>
+    </message>
+    <message>
+        <source>
+2.Nachfrist:</source>
+        <translation>
+2nd extension:</translation>
+    </message>
+    <message>
+        <source>
+Status:</source>
+        <translation>
+Status:</translation>
+    </message>
+    <message>
+        <source>Neuer Mangel</source>
+        <translation>New defect</translation>
+    </message>
+    <message>
+        <source>Sie haben einen Mangel ausgewählt.
+Soll der Bautagebuch-Mangel trotzdem als ein neuer Mangel importiert werden?</source>
+        <translation>You have selected a defect.
+Import the site-journal defect as a new defect anyway?</translation>
+    </message>
+    <message>
+        <source>Als neuen Mangel importieren</source>
+        <translation>Import as new defect</translation>
+    </message>
+    <message>
+        <source>Mangel zuweisen</source>
+        <translation>Assign defect</translation>
+    </message>
+    <message>
+        <source>Sie haben keinen Mangel ausgewählt.</source>
+        <translation>You have not selected a defect.</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Zuordnen eines Mangels</source>
+        <translation>Assigning a defect</translation>
+    </message>
+    <message>
+        <source>Mangel im Bautagebuch</source>
+        <translation>Defect in the site journal</translation>
+    </message>
+    <message>
+        <source>Mängel im Pellwick</source>
+        <translation>Defects in Pellwick</translation>
+    </message>
+    <message>
+        <source>Dem ausgewählten Mangel zuweisen</source>
+        <translation>Assign to the selected defect</translation>
+    </message>
+</context>
+<context>
+    <name>KalSiteJournalImportCommands</name>
+    <message>
+        <source>Datenimport aus Bautagebuch</source>
+        <translation>Data import from site journal</translation>
+    </message>
+    <message>
+        <source>Mängel und Firmen aus dem Bautagebuch aktualisieren</source>
+        <translation>Update defects and companies from the site journal</translation>
+    </message>
+    <message>
+        <source>Das Projekt wurde noch nicht gespeichert.
+Sie müssen das Projekt vor dem Import speichern.</source>
+        <translation>The project has not been saved yet.
+You must save the project before the import.</translation>
+    </message>
+    <message>
+        <source>Projekt speichern</source>
+        <translation>Save project</translation>
+    </message>
+    <message>
+        <source>Pellwick Projekt (*.pwp)</source>
+        <translation>Pellwick project (*.pwp)</translation>
+    </message>
+    <message>
+        <source>Neues Projekt</source>
+        <translation>New project</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!</source>
+        <translation>An error occurred while saving the project!</translation>
+    </message>
+    <message>
+        <source>Das Projekt wurde geändert.
+Vor dem Datenimport werden die Änderungen gespeichert.
+</source>
+        <translation>The project has been changed.
+The changes will be saved before the data import.
+</translation>
+    </message>
+    <message>
+        <source>Speichern und Starten des Imports</source>
+        <translation>Save and start the import</translation>
+    </message>
+    <message>
+        <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!
+Der Import konnte nicht durchgeführt werden.
+</source>
+        <translation>An error occurred while saving the project!
+The import could not be carried out.
+</translation>
+    </message>
+    <message>
+        <source>Zu diesem Projekt ist kein zugehöriges Bautagebuch gespeichert.
+Bitte wählen Sie im folgenden Dateidialog das Bautagebuch aus.
+</source>
+        <translation>No site journal is stored for this project.
+Please choose the site journal in the following file dialog.
+</translation>
+    </message>
+    <message>
+        <source>Die Bautagebuch-Datei %1 existiert nicht.
+Bitte wählen Sie im folgenden Dateidialog das Bautagebuch aus.
+</source>
+        <translation>The site journal file %1 does not exist.
+Please choose the site journal in the following file dialog.
+</translation>
+    </message>
+    <message>
+        <source>Zum Projekt gehöriges Bautagebuch auswählen</source>
+        <translation>Choose the site journal belonging to the project</translation>
+    </message>
+    <message>
+        <source>Bautagebücher (*.sjd)</source>
+        <translation>Site journals (*.sjd)</translation>
+    </message>
+    <message>
+        <source>Der Datenimport wurde abgebrochen.
+Das Projekt wurde nicht verändert.</source>
+        <translation>The data import was cancelled.
+The project was not changed.</translation>
+    </message>
+    <message>
+        <source>Der Datenimport wurde abgebrochen.
+Die Daten der zuletzt gelesenen Datei wurden nicht übernommen.
+
+</source>
+        <translation>The data import was cancelled.
+The data of the file read last were not taken over.
+
+</translation>
+    </message>
+    <message>
+        <source>Jetzt speichern</source>
+        <translation>Save now</translation>
+    </message>
+    <message>
+        <source>Später speichern</source>
+        <translation>Save later</translation>
+    </message>
+    <message>
+        <source>
+Mängel und Firmen aus dem Bautagebuch werden aktualisiert:
+
+- neue Mängel / Firmen werden in den Pellwick übernommen
+- Änderungen an Mängeln / Firmen werden in den Pellwick übernommen, 
+  wenn der betroffene Datensatz im Pellwick nicht geändert wurde
+- im Bautagebuch gelöschte Mängel / Firmen können im Pellwick gelöscht werden
+- im Pellwick gelöschte Mängel / Firmen können erneut importiert werden
+</source>
+        <translation>
+Defects and companies are updated from the site journal:
+
+- new defects / companies are taken over into Pellwick
+- changes to defects / companies are taken over into Pellwick, 
+  if the record concerned was not changed in Pellwick
+- defects / companies deleted in the site journal can be deleted in Pellwick
+- defects / companies deleted in Pellwick can be imported again
+</translation>
+    </message>
+    <message>
+        <source>Mängel und Firmen aktualisieren</source>
+        <translation>Update defects and companies</translation>
+    </message>
+    <message>
+        <source>Nur neue Mängel und Firmen importieren</source>
+        <translation>Import new defects and companies only</translation>
+    </message>
+    <message>
+        <source>Das Projekt ist mit dem Bautagebuch
+%1
+verknüpft.
+
+Das Bautagebuch-Programm hat das Bautagebuch
+%2
+übergeben.
+
+Soll das Projekt jetzt mit diesem Bautagebuch verknüpft und dessen Daten importiert werden?</source>
+        <translation>The project is linked to the site journal
+%1
+
+The site journal program handed over the site journal
+%2
+
+Link the project to this site journal now and import its data?</translation>
+    </message>
+    <message>
+        <source>Neu verknüpfen und importieren</source>
+        <translation>Link anew and import</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Der automatische Import aus dem Bautagebuch wurde übersprungen:
+Die Bautagebuch-Datei %1 existiert nicht.</source>
+        <translation>The automatic import from the site journal was skipped:
+The site journal file %1 does not exist.</translation>
+    </message>
+</context>
 </TS>

@@ -5217,4 +5217,416 @@ Usuario: %1
 Ordenador: %2.</translation>
     </message>
 </context>
+<context>
+    <name>KalInitialImportDialog</name>
+    <message>
+        <source>
+Es werden alle Mängel und Firmen aus dem Bautagebuch %1 importiert.
+
+Wenn Sie einen automatischen Import aus dem Bautagebuch bei jedem Öffnen des Projekts wünschen,
+setzen Sie unten das entsprechende Häkchen.
+
+</source>
+        <translation>
+Se importarán todos los defectos y empresas del diario de obra %1.
+
+Si desea una importación automática del diario de obra cada vez que se abra el proyecto,
+marque la casilla correspondiente más abajo.
+
+</translation>
+    </message>
+    <message>
+        <source>Importieren</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Datenimport aus Bautagebuch</source>
+        <translation>Importación de datos del diario de obra</translation>
+    </message>
+    <message>
+        <source>Automatischer Import neuer Mängel und Firmen beim Öffnen des Projekts</source>
+        <translation>Importar automáticamente defectos y empresas nuevos al abrir el proyecto</translation>
+    </message>
+    <message>
+        <source>Zusätzlich auch bereits importierte Daten aktualisieren</source>
+        <translation>Actualizar también los datos ya importados</translation>
+    </message>
+</context>
+<context>
+    <name>KalImportFromAppDialog</name>
+    <message>
+        <source>&lt;h3&gt;Mängel mit der Quellor App erfassen&lt;/h3&gt;&lt;p&gt;Mit der Quellor App erfassen Sie Mängel direkt auf der Baustelle: Beschreibung, Raum, Firma und Frist, dazu Fotos mit der Kamera Ihres Smartphones oder Tablets.&lt;/p&gt;&lt;p&gt;Exportieren Sie die erfassten Daten in der App und übertragen Sie die Export-Datei (*.sjd) auf diesen Computer, zum Beispiel per USB-Kabel, E-Mail oder über einen Cloud-Speicher.&lt;/p&gt;&lt;p&gt;Klicken Sie dann auf &lt;b&gt;Datei importieren&lt;/b&gt; und wählen Sie die Export-Datei aus. Neue Mängel, ihre Fotos und die Firmen werden in das Projekt übernommen; Mängel, die Sie hier bereits geändert haben, werden nicht überschrieben.&lt;/p&gt;&lt;p&gt;Die Verknüpfung des Projekts mit einem Bautagebuch bleibt dabei unverändert.&lt;/p&gt;</source>
+        <translation>&lt;h3&gt;Registrar defectos con la Quellor App&lt;/h3&gt;&lt;p&gt;Con la Quellor App registra los defectos directamente en la obra: descripción, estancia, empresa y plazo, junto con fotos tomadas con la cámara de su smartphone o tableta.&lt;/p&gt;&lt;p&gt;Exporte los datos registrados en la app y transfiera el archivo de exportación (*.sjd) a este ordenador, por ejemplo por cable USB, correo electrónico o almacenamiento en la nube.&lt;/p&gt;&lt;p&gt;Después haga clic en &lt;b&gt;Importar archivo&lt;/b&gt; y elija el archivo de exportación. Los defectos nuevos, sus fotos y las empresas se incorporan al proyecto; los defectos que ya haya modificado aquí no se sobrescriben.&lt;/p&gt;&lt;p&gt;El vínculo del proyecto con un diario de obra no cambia.&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Export-Datei der Quellor App auswählen</source>
+        <translation>Elegir el archivo de exportación de la Quellor App</translation>
+    </message>
+    <message>
+        <source>Export-Dateien der Quellor App (*.sjd)</source>
+        <translation>Archivos de exportación de la Quellor App (*.sjd)</translation>
+    </message>
+    <message>
+        <source>Import aus der Quellor App</source>
+        <translation>Importación desde la Quellor App</translation>
+    </message>
+    <message>
+        <source>Datei importieren</source>
+        <translation>Importar archivo</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>KalDataImportDefectAssignDialog</name>
+    <message>
+        <source>
+Für folgenden Bautagebuch-Mangel ist beim Import ein Konflikt entstanden.
+Der Mangel konnte keinem Mangel im Pellwick zugeordnet werden.
+Sie können
+- den Bautagebuch-Mangel als neuen Mangel importieren oder
+- den Bautagebuch-Mangel einem im Pellwick bestehenden Mangel zuordnen,
+ um diesen zu aktualisieren.
+
+</source>
+        <translation>
+Durante la importación surgió un conflicto con el siguiente defecto del diario de obra.
+El defecto no se pudo asignar a ningún defecto de Pellwick.
+Puede
+- importar el defecto del diario de obra como defecto nuevo o
+- asignar el defecto del diario de obra a un defecto existente en Pellwick,
+ para actualizarlo.
+
+</translation>
+    </message>
+    <message>
+        <source>Mangel</source>
+        <translation>Defecto</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>Bericht:</source>
+        <translation>Informe:</translation>
+    </message>
+    <message>
+        <source>
+Beschreibung:
+</source>
+        <translation>
+Descripción:
+</translation>
+    </message>
+    <message>
+        <source>
+Raumname:</source>
+        <translation>
+Nombre de la estancia:</translation>
+    </message>
+    <message>
+        <source>
+Raumbuch-Nr.:</source>
+        <translation>
+N.º de libro de estancias:</translation>
+    </message>
+    <message>
+        <source>
+Firma:</source>
+        <translation>
+Empresa:</translation>
+    </message>
+    <message>
+        <source>
+Frist:</source>
+        <translation>
+Plazo:</translation>
+    </message>
+    <message>
+        <source>
+Anzahl Fotos:</source>
+        <translation>
+Número de fotos:</translation>
+    </message>
+    <message>
+        <source> - mit Minderung</source>
+        <translation> - con reducción de precio</translation>
+    </message>
+    <message>
+        <source>Beschreibung:
+</source>
+        <translation>Descripción:
+</translation>
+    </message>
+    <message>
+        <source>
+Typ:</source>
+        <translation>
+Tipo:</translation>
+    </message>
+    <message>
+        <source>
+Autor:</source>
+        <translation>
+Autor:</translation>
+    </message>
+    <message>
+        <source>
+Erfasst am:</source>
+        <translation>
+Registrado el:</translation>
+    </message>
+    <message>
+        <source>
+Plan:</source>
+        <translation>
+Plano:</translation>
+    </message>
+    <message>
+        <source>
+Beseitigungsanweisung:
+</source>
+        <translation>
+Instrucción de subsanación:
+</translation>
+    </message>
+    <message>
+        <source>
+Priorität:</source>
+        <translation>
+Prioridad:</translation>
+    </message>
+    <message>
+        <source>
+1.Nachfrist:</source>
+        <translation>
+1.ª prórroga:</translation>
+    </message>
+    <message>
+        <source>
+2.Nachfrist:</source>
+        <translation>
+2.ª prórroga:</translation>
+    </message>
+    <message>
+        <source>
+Status:</source>
+        <translation>
+Estado:</translation>
+    </message>
+    <message>
+        <source>Neuer Mangel</source>
+        <translation>Defecto nuevo</translation>
+    </message>
+    <message>
+        <source>Sie haben einen Mangel ausgewählt.
+Soll der Bautagebuch-Mangel trotzdem als ein neuer Mangel importiert werden?</source>
+        <translation>Ha seleccionado un defecto.
+¿Importar de todos modos el defecto del diario de obra como defecto nuevo?</translation>
+    </message>
+    <message>
+        <source>Als neuen Mangel importieren</source>
+        <translation>Importar como defecto nuevo</translation>
+    </message>
+    <message>
+        <source>Mangel zuweisen</source>
+        <translation>Asignar defecto</translation>
+    </message>
+    <message>
+        <source>Sie haben keinen Mangel ausgewählt.</source>
+        <translation>No ha seleccionado ningún defecto.</translation>
+    </message>
+    <message>
+        <source>Schließen</source>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Zuordnen eines Mangels</source>
+        <translation>Asignación de un defecto</translation>
+    </message>
+    <message>
+        <source>Mangel im Bautagebuch</source>
+        <translation>Defecto en el diario de obra</translation>
+    </message>
+    <message>
+        <source>Mängel im Pellwick</source>
+        <translation>Defectos en Pellwick</translation>
+    </message>
+    <message>
+        <source>Dem ausgewählten Mangel zuweisen</source>
+        <translation>Asignar al defecto seleccionado</translation>
+    </message>
+</context>
+<context>
+    <name>KalSiteJournalImportCommands</name>
+    <message>
+        <source>Datenimport aus Bautagebuch</source>
+        <translation>Importación de datos del diario de obra</translation>
+    </message>
+    <message>
+        <source>Mängel und Firmen aus dem Bautagebuch aktualisieren</source>
+        <translation>Actualizar defectos y empresas desde el diario de obra</translation>
+    </message>
+    <message>
+        <source>Das Projekt wurde noch nicht gespeichert.
+Sie müssen das Projekt vor dem Import speichern.</source>
+        <translation>El proyecto aún no se ha guardado.
+Debe guardar el proyecto antes de la importación.</translation>
+    </message>
+    <message>
+        <source>Projekt speichern</source>
+        <translation>Guardar proyecto</translation>
+    </message>
+    <message>
+        <source>Pellwick Projekt (*.pwp)</source>
+        <translation>Proyecto Pellwick (*.pwp)</translation>
+    </message>
+    <message>
+        <source>Neues Projekt</source>
+        <translation>Proyecto nuevo</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!</source>
+        <translation>¡Se produjo un error al guardar el proyecto!</translation>
+    </message>
+    <message>
+        <source>Das Projekt wurde geändert.
+Vor dem Datenimport werden die Änderungen gespeichert.
+</source>
+        <translation>El proyecto se ha modificado.
+Los cambios se guardarán antes de la importación de datos.
+</translation>
+    </message>
+    <message>
+        <source>Speichern und Starten des Imports</source>
+        <translation>Guardar e iniciar la importación</translation>
+    </message>
+    <message>
+        <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!
+Der Import konnte nicht durchgeführt werden.
+</source>
+        <translation>¡Se produjo un error al guardar el proyecto!
+No se pudo realizar la importación.
+</translation>
+    </message>
+    <message>
+        <source>Zu diesem Projekt ist kein zugehöriges Bautagebuch gespeichert.
+Bitte wählen Sie im folgenden Dateidialog das Bautagebuch aus.
+</source>
+        <translation>Este proyecto no tiene guardado ningún diario de obra.
+Elija el diario de obra en el siguiente diálogo de archivos.
+</translation>
+    </message>
+    <message>
+        <source>Die Bautagebuch-Datei %1 existiert nicht.
+Bitte wählen Sie im folgenden Dateidialog das Bautagebuch aus.
+</source>
+        <translation>El archivo del diario de obra %1 no existe.
+Elija el diario de obra en el siguiente diálogo de archivos.
+</translation>
+    </message>
+    <message>
+        <source>Zum Projekt gehöriges Bautagebuch auswählen</source>
+        <translation>Elegir el diario de obra del proyecto</translation>
+    </message>
+    <message>
+        <source>Bautagebücher (*.sjd)</source>
+        <translation>Diarios de obra (*.sjd)</translation>
+    </message>
+    <message>
+        <source>Der Datenimport wurde abgebrochen.
+Das Projekt wurde nicht verändert.</source>
+        <translation>La importación de datos se canceló.
+El proyecto no se ha modificado.</translation>
+    </message>
+    <message>
+        <source>Der Datenimport wurde abgebrochen.
+Die Daten der zuletzt gelesenen Datei wurden nicht übernommen.
+
+</source>
+        <translation>La importación de datos se canceló.
+Los datos del último archivo leído no se incorporaron.
+
+</translation>
+    </message>
+    <message>
+        <source>Jetzt speichern</source>
+        <translation>Guardar ahora</translation>
+    </message>
+    <message>
+        <source>Später speichern</source>
+        <translation>Guardar más tarde</translation>
+    </message>
+    <message>
+        <source>
+Mängel und Firmen aus dem Bautagebuch werden aktualisiert:
+
+- neue Mängel / Firmen werden in den Pellwick übernommen
+- Änderungen an Mängeln / Firmen werden in den Pellwick übernommen, 
+  wenn der betroffene Datensatz im Pellwick nicht geändert wurde
+- im Bautagebuch gelöschte Mängel / Firmen können im Pellwick gelöscht werden
+- im Pellwick gelöschte Mängel / Firmen können erneut importiert werden
+</source>
+        <translation>
+Los defectos y empresas se actualizan desde el diario de obra:
+
+- los defectos / empresas nuevos se incorporan a Pellwick
+- los cambios en defectos / empresas se incorporan a Pellwick, 
+  si el registro afectado no se modificó en Pellwick
+- los defectos / empresas eliminados en el diario de obra pueden eliminarse en Pellwick
+- los defectos / empresas eliminados en Pellwick pueden importarse de nuevo
+</translation>
+    </message>
+    <message>
+        <source>Mängel und Firmen aktualisieren</source>
+        <translation>Actualizar defectos y empresas</translation>
+    </message>
+    <message>
+        <source>Nur neue Mängel und Firmen importieren</source>
+        <translation>Importar solo defectos y empresas nuevos</translation>
+    </message>
+    <message>
+        <source>Das Projekt ist mit dem Bautagebuch
+%1
+verknüpft.
+
+Das Bautagebuch-Programm hat das Bautagebuch
+%2
+übergeben.
+
+Soll das Projekt jetzt mit diesem Bautagebuch verknüpft und dessen Daten importiert werden?</source>
+        <translation>El proyecto está vinculado al diario de obra
+%1
+
+El programa del diario de obra ha entregado el diario de obra
+%2
+
+¿Vincular ahora el proyecto a este diario de obra e importar sus datos?</translation>
+    </message>
+    <message>
+        <source>Neu verknüpfen und importieren</source>
+        <translation>Volver a vincular e importar</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Der automatische Import aus dem Bautagebuch wurde übersprungen:
+Die Bautagebuch-Datei %1 existiert nicht.</source>
+        <translation>Se omitió la importación automática del diario de obra:
+El archivo del diario de obra %1 no existe.</translation>
+    </message>
+</context>
 </TS>

@@ -205,25 +205,20 @@ void KalStartup::carryOut(KalMainWindow *window, const KalCommandLine &commandLi
         return;
     }
     const QString project = commandLine.projectFile;
-    bool linked = false;
     if (commandLine.connectMode == KalCommandLine::CreateAndImport && !QFileInfo::exists(project)) {
-        linked = window->createProjectAt(project, commandLine.siteJournalFile);
+        if (!window->createProjectAt(project))
+            return;
     } else {
         // Asked to create a project where one exists: never replace it.
         if (commandLine.connectMode == KalCommandLine::CreateAndImport && !askOpenExistingProject(project))
             return;
-        if (!window->openProject(project) || commandLine.connectMode == KalCommandLine::OpenOnly)
+        // The journal handed over is imported next; an automatic import at
+        // opening would only run the same import twice.
+        const bool openOnly = commandLine.connectMode == KalCommandLine::OpenOnly;
+        if (!window->openProject(project, openOnly) || openOnly)
             return;
-        linked = window->linkSiteJournal(commandLine.siteJournalFile);
     }
-    if (linked) {
-        KalPrompt::information(
-            tr("Datenimport"),
-            tr("Das Projekt wurde mit dem Bautagebuch\n%1\nverknüpft.\n\nDer Import von Mängeln "
-               "und Firmen aus dem Bautagebuch ist in dieser Programmversion noch nicht "
-               "verfügbar.")
-                .arg(QDir::toNativeSeparators(QFileInfo(commandLine.siteJournalFile).absoluteFilePath())));
-    }
+    window->importGivenSiteJournal(commandLine.siteJournalFile);
 }
 
 bool KalStartup::askOpenExistingProject(const QString &path)

@@ -551,7 +551,8 @@ private slots:
             QVERIFY(m_window->linkSiteJournal(path("b.sjd")));
         // The state follows the file also after saving and reopening.
         saveAsFile("p.pwp");
-        QVERIFY(m_window->openProject(path("p.pwp")));
+        // (b.sjd is no journal: no automatic import here.)
+        QVERIFY(m_window->openProject(path("p.pwp"), false));
 
         const QStringList names{"actionInitialDataImport", "actionUpdateDataImport", "actionAutomaticNewRecordsImport",
                                 "actionAutomaticUpdateImport"};
@@ -571,12 +572,7 @@ private slots:
     // has an icon.
     void actionsWithoutFeatureAreDisabled()
     {
-        const QStringList unbuilt{"actionInitialDataImport",
-                                  "actionImportFromApp",
-                                  "actionUpdateTest",
-                                  "actionUpdateDataImport",
-                                  "actionAutomaticNewRecordsImport",
-                                  "actionAutomaticUpdateImport"};
+        const QStringList unbuilt{"actionUpdateTest"};
         QStringList wrong;
         for (QAction *action : m_window->findChildren<QAction *>()) {
             // The recent-files placeholder stands in for file names, which have no
@@ -584,6 +580,10 @@ private slots:
             if (!action->objectName().startsWith("action") || action->menu() ||
                 action->objectName() == "actionFileRecentPlaceholder" ||
                 action->objectName() == "actionStartSpellChecking")
+                continue;
+            // A hidden action counts as disabled (the import menu hides the
+            // entries that do not fit the project's link).
+            if (!action->isVisible())
                 continue;
             const bool noIcon = action->isVisible() && action->icon().pixmap(16, 16).isNull();
             if (action->isEnabled() == unbuilt.contains(action->objectName()) || noIcon)
@@ -804,18 +804,19 @@ private slots:
     {
         QTest::addColumn<QStringList>("args");     // "P:" and "J:" prefixes name files in the test folder
         QTest::addColumn<QString>("projectAfter"); // file name, empty: untitled
-        QTest::addColumn<bool>("linked");
-        QTest::addColumn<QString>("title"); // of the one message, empty: none
+        QTest::addColumn<bool>("importOffered");   // the first-import dialog came (and was cancelled)
+        QTest::addColumn<QString>("title");        // of the one message, empty: none
 
-        auto row = [](const char *name, const QString &args, const char *projectAfter, bool linked, const char *title) {
-            QTest::newRow(name) << args.split(' ') << QString(projectAfter) << linked << QString(title);
+        auto row = [](const char *name, const QString &args, const char *projectAfter, bool offered,
+                      const char *title) {
+            QTest::newRow(name) << args.split(' ') << QString(projectAfter) << offered << QString(title);
         };
         row("single path", "P:p.pwp", "p.pwp", false, "");
         row("103 opens only", "-connectmode 103 -file P:p.pwp -sitejournalfile J:b.sjd", "p.pwp", false, "");
-        row("102 opens and links", "-connectmode 102 -file P:p.pwp -sitejournalfile J:b.sjd", "p.pwp", true,
-            "Datenimport");
-        row("101 creates and links", "-connectmode 101 -file P:neu.pwp -sitejournalfile J:b.sjd", "neu.pwp", true,
-            "Datenimport");
+        row("102 opens and offers the import", "-connectmode 102 -file P:p.pwp -sitejournalfile J:b.sjd", "p.pwp", true,
+            "");
+        row("101 creates and offers the import", "-connectmode 101 -file P:neu.pwp -sitejournalfile J:b.sjd", "neu.pwp",
+            true, "");
         row("104 refused", "-connectmode 104 -file P:p.pwp -sitejournalfile J:b.sjd", "", false, "Info");
     }
 
@@ -823,7 +824,7 @@ private slots:
     {
         QFETCH(QStringList, args);
         QFETCH(QString, projectAfter);
-        QFETCH(bool, linked);
+        QFETCH(bool, importOffered);
         QFETCH(QString, title);
 
         saveAsFile("p.pwp");
@@ -836,17 +837,19 @@ private slots:
         QStringList full{"pellwick"};
         for (const QString &a : args)
             full << (a.startsWith("P:") || a.startsWith("J:") ? path(a.mid(2)) : a);
+        KalDialogAnswer<QDialog> cancel([](QDialog *d) {
+            QCOMPARE(d->objectName(), QStringLiteral("KalInitialImportDialog"));
+            d->reject();
+        });
         KalStartup::carryOut(m_window.get(), KalCommandLine::parse(full));
 
+        QCOMPARE(cancel.seen(), importOffered);
         QCOMPARE(QFileInfo(m_window->project()->projectPath()).fileName(), projectAfter);
+        // A cancelled first import links nothing.
         QSqlQuery q(m_window->project()->database());
         QVERIFY(q.exec("SELECT value FROM meta WHERE key = 'siteJournalDatabasePath'"));
-        QCOMPARE(q.next(), linked);
-        if (linked)
-            QCOMPARE(q.value(0).toString(), path("b.sjd"));
+        QVERIFY(!q.next());
         QCOMPARE(m_prompt->titles(), title.isEmpty() ? QStringList() : QStringList{title});
-        if (title == QLatin1String("Datenimport"))
-            QVERIFY(m_prompt->texts().first().contains(QStringLiteral("noch nicht verfügbar")));
         if (title == QLatin1String("Info"))
             QVERIFY(m_prompt->texts().first().startsWith(
                 QStringLiteral("Die vom Bautagebuch Programm übergebenen Parameter sind fehlerhaft:\n\n\n")));

@@ -1,11 +1,14 @@
 #include "app/KalStartup.h"
 #include "core/project/KalCommandLine.h"
 #include "core/project/KalProject.h"
+#include "gui/import/KalInitialImportDialog.h"
 #include "gui/mainwindow/KalMainWindow.h"
 #include "gui/widgets/KalFileDialog.h"
 #include "gui/widgets/KalResources.h"
+#include "support/KalDialogAnswer.h"
 #include "support/KalScriptedPrompt.h"
 #include "support/KalTestFiles.h"
+#include "support/KalTestJournal.h"
 #include "support/KalTestSettings.h"
 
 #include <QSettings>
@@ -77,14 +80,17 @@ private slots:
         makeProject("p.pwp", 3, QString());
         if (!answer.isEmpty())
             m_prompt->queueAnswer(answer);
+        KalDialogAnswer<KalInitialImportDialog> cancel([](KalInitialImportDialog *d) { d->reject(); });
         carryOut({"-connectmode", "101", "-file", "P:p.pwp", "-sitejournalfile", "P:b.sjd"});
 
+        // Opened instead, the project is offered the import (cancelled here).
+        QCOMPARE(cancel.seen(), opened);
         QCOMPARE(countRows(path("p.pwp"), "defect"), 3);
         QVERIFY(!m_prompt->shown().isEmpty());
         QCOMPARE(m_prompt->shown().first().icon, KalPrompt::Question);
         QVERIFY(m_prompt->texts().first().contains(QStringLiteral("existiert bereits")));
         QCOMPARE(m_window->project()->projectPath(), opened ? path("p.pwp") : QString());
-        QCOMPARE(linkOnDisk(path("p.pwp")), opened ? path("b.sjd") : QString());
+        QCOMPARE(linkOnDisk(path("p.pwp")), QString());
     }
 
     void createProjectAtRefusesExistingFile()
@@ -99,31 +105,61 @@ private slots:
         QCOMPARE(m_window->project()->projectPath(), QString());
     }
 
-    void siteJournalLinkIsSaved_data()
+    // The journal handed over is imported for real; what the user accepts
+    // (and saves at once) is in the file, what he refuses leaves it alone.
+    void handedOverJournalIsImported_data()
     {
         QTest::addColumn<QString>("mode");
-        QTest::addColumn<QString>("link"); // of the existing project p.pwp; "-": none exists
-        QTest::newRow("101 new project") << QString("101") << QString("-");
-        QTest::newRow("102 unlinked project") << QString("102") << QString();
-        QTest::newRow("102 linked elsewhere") << QString("102") << QString("alt.sjd");
-        QTest::newRow("102 already linked") << QString("102") << QString("b.sjd");
+        QTest::addColumn<QString>("link");        // of the existing project p.pwp; "-": none exists
+        QTest::addColumn<QStringList>("answers"); // to the questions, in order
+        QTest::addColumn<bool>("firstImportDialog");
+        QTest::addColumn<QString>("linkAfter");
+        QTest::addColumn<int>("defectsAfter"); // in the file on disk
+        const QStringList saveNow{"Jetzt speichern"};
+        QTest::newRow("101 new project") << "101"
+                                         << "-" << saveNow << true << "b.sjd" << 1;
+        QTest::newRow("102 unlinked project") << "102"
+                                              << "" << saveNow << true << "b.sjd" << 2;
+        QTest::newRow("102 linked elsewhere, moved")
+            << "102"
+            << "alt.sjd" << QStringList{"Neu verknüpfen und importieren", "Jetzt speichern"} << true << "b.sjd" << 2;
+        QTest::newRow("102 linked elsewhere, kept") << "102"
+                                                    << "alt.sjd" << QStringList{"Abbrechen"} << false << "alt.sjd" << 1;
+        QTest::newRow("102 already linked")
+            << "102"
+            << "b.sjd" << QStringList{"Mängel und Firmen aktualisieren", "Jetzt speichern"} << false << "b.sjd" << 2;
     }
 
-    void siteJournalLinkIsSaved()
+    void handedOverJournalIsImported()
     {
         QFETCH(QString, mode);
         QFETCH(QString, link);
+        QFETCH(QStringList, answers);
+        QFETCH(bool, firstImportDialog);
+        QFETCH(QString, linkAfter);
+        QFETCH(int, defectsAfter);
+        {
+            KalTestJournal journal(path("b.sjd"));
+            const qint64 report = journal.addReport(QStringLiteral("3"));
+            journal.addDefect(report, QStringLiteral("1"), QStringLiteral("Riss im Putz"));
+            QVERIFY(journal.ok());
+        }
         if (link != QLatin1String("-"))
             makeProject("p.pwp", 1, link.isEmpty() ? QString() : path(link));
+        for (const QString &answer : answers)
+            m_prompt->queueAnswer(answer);
+        KalDialogAnswer<KalInitialImportDialog> ok(
+            [](KalInitialImportDialog *d) { kalPress(d, QDialogButtonBox::Ok); });
         carryOut({"-connectmode", mode, "-file", "P:p.pwp", "-sitejournalfile", "P:b.sjd"});
 
+        QCOMPARE(ok.seen(), firstImportDialog);
         QCOMPARE(m_window->project()->projectPath(), path("p.pwp"));
-        QCOMPARE(linkOnDisk(path("p.pwp")), path("b.sjd"));
-        QVERIFY(!m_window->project()->isModified());
+        QCOMPARE(linkOnDisk(path("p.pwp")), path(linkAfter));
+        QCOMPARE(countRows(path("p.pwp"), "defect"), defectsAfter);
+        QVERIFY2(!m_window->project()->isModified(), qPrintable(m_prompt->texts().join('|')));
         m_prompt->clear();
         QVERIFY(m_window->closeProject(true));
         QCOMPARE(m_prompt->titles(), QStringList());
-        QCOMPARE(linkOnDisk(path("p.pwp")), path("b.sjd"));
     }
 
 private:

@@ -4,6 +4,7 @@
 #include "core/project/KalPrompt.h"
 #include "core/project/KalRecentFiles.h"
 #include "core/project/KalSqlTableModel.h"
+#include "gui/import/KalSiteJournalImportCommands.h"
 #include "gui/mainwindow/KalDefectTableLayout.h"
 #include "gui/plans/KalPlanPanel.h"
 #include "gui/widgets/KalItemDelegate.h"
@@ -99,15 +100,18 @@ const QVector<KalMainWindow::ActionSpec> &KalMainWindow::actionTable()
          QT_TR_NOOP("Mängelliste detailliert"), nullptr},
         {"actionPrintPreview", "icon-druckvorschau.ico", {}, &M::slotPrintPreview, A::WithProject,
          QT_TR_NOOP("Druckvorschau"), nullptr},
-        {"actionInitialDataImport", "icon-datenimport.ico", {}, nullptr, A::NotBuilt,
+        {"actionInitialDataImport", "icon-datenimport.ico", {}, &M::slotInitialDataImport, A::WithProject,
          QT_TR_NOOP("Mängel und Firmen aus einem Bautagebuch importieren"), nullptr},
-        {"actionUpdateDataImport", "icon-datenimport-aktualisieren.ico", {}, nullptr, A::NotBuilt,
+        {"actionUpdateDataImport", "icon-datenimport-aktualisieren.ico", {}, &M::slotUpdateDataImport,
+         A::WithProject,
          QT_TR_NOOP("Mängel und Firmen aus dem Bautagebuch aktualisieren"), nullptr},
-        {"actionAutomaticNewRecordsImport", "icon-datenimport-automatisch-ein.ico", {}, nullptr, A::NotBuilt,
+        {"actionAutomaticNewRecordsImport", "icon-datenimport-automatisch-ein.ico", {},
+         &M::slotAutomaticNewRecordsImport, A::WithProject,
          QT_TR_NOOP("Automatischen Import neuer Mängel und Firmen einschalten"), nullptr},
-        {"actionAutomaticUpdateImport", "icon-datenimport-automatisch-ein.ico", {}, nullptr, A::NotBuilt,
+        {"actionAutomaticUpdateImport", "icon-datenimport-automatisch-ein.ico", {}, &M::slotAutomaticUpdateImport,
+         A::WithProject,
          QT_TR_NOOP("Automatischen Import und Aktualisierung vorhandener Mängel und Firmen einschalten"), nullptr},
-        {"actionImportFromApp", "icon-datenimport-app.ico", {}, nullptr, A::NotBuilt,
+        {"actionImportFromApp", "icon-datenimport-app.ico", {}, &M::slotImportFromApp, A::WithProject,
          QT_TR_NOOP("Mängel und Firmen aus der Quellor App importieren\n"),
          QT_TR_NOOP("Importiert Mängel aus der Quellor App")},
         {"actionImportDefectManagerCompanies", "icon-firmen-import.ico",
@@ -228,6 +232,8 @@ KalMainWindow::KalMainWindow(QWidget *parent)
             [this] { m_idsBeforeRebuild = selectedDefectIds(); });
     connect(m_fileCommands, &KalProjectFileCommands::modelsRebuilt, this,
             [this] { selectDefects(m_idsBeforeRebuild); });
+    m_importCommands = new KalSiteJournalImportCommands(m_project, m_fileCommands, this);
+    connect(m_fileCommands, &KalProjectFileCommands::projectFileOpened, this, &KalMainWindow::slotProjectFileOpened);
     connect(m_project, &KalProject::projectOpened, this, &KalMainWindow::slotProjectOpened);
     connect(m_project, &KalProject::projectAboutToClose, this, &KalMainWindow::slotProjectClosed);
     connect(m_project, &KalProject::modifiedChanged, this, &KalMainWindow::slotModifiedChanged);

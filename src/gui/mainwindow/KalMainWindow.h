@@ -12,6 +12,7 @@
 #include <QVector>
 
 class KalDefectTableLayout;
+class KalSiteJournalImportCommands;
 class KalPlanPanel;
 class KalProject;
 class KalRecentFiles;
@@ -48,8 +49,9 @@ public:
     // Asks before the open project is given up; see MaybeSaveResult.
     int maybeSave(bool saveAs, bool explicitRequest);
     bool newProject();
-    // Closes the open project (with the save question) and opens `path`.
-    bool openProject(const QString &path);
+    // Closes the open project (with the save question) and opens `path`;
+    // then runs the automatic import the project asks for, unless told not to.
+    bool openProject(const QString &path, bool automaticImport = true);
     bool closeProject(bool ask);
     // Creates a project, links it to a site-journal file when one is given
     // and saves it at once under `path`; never replaces an existing file.
@@ -90,6 +92,9 @@ public:
     // Records the site-journal file this project belongs to ("meta") and
     // saves it with the project.
     bool linkSiteJournal(const QString &siteJournalPath);
+    // The site-journal program hands over a journal: import it (the user
+    // is asked before a link to another journal moves).
+    void importGivenSiteJournal(const QString &siteJournalPath);
     // Follows the spell checker created at start-up.
     void updateSpellCheckingAction();
 
@@ -149,12 +154,21 @@ private slots:
     void slotStandardMarkerText();
     void slotSettingsImageSize();
     void slotFilesDroppedOnDefect(qint64 defectId, const QStringList &files);
+    void slotInitialDataImport();
+    void slotUpdateDataImport();
+    void slotAutomaticNewRecordsImport();
+    void slotAutomaticUpdateImport();
+    void slotImportFromApp();
+    void slotProjectFileOpened();
 
 private:
     struct ActionSpec;
     static const QVector<ActionSpec> &actionTable();
 
     void openMasterData(int page);
+    // Runs an import and shows its outcome: menus, names, the list.
+    template <typename Import> void runImport(Import import);
+    void refreshAfterImport();
     void importCompanies(int source);
     void createActions();
     void createMenus();
@@ -175,6 +189,8 @@ private:
     KalProject *m_project = nullptr;
     KalRecentFiles *m_recentFiles = nullptr;
     KalProjectFileCommands *m_fileCommands = nullptr;
+    KalSiteJournalImportCommands *m_importCommands = nullptr;
+    bool m_automaticImportAllowed = true;
 
     KalTableView *m_tvDefects = nullptr;
     KalPlanPanel *m_planPanel = nullptr;

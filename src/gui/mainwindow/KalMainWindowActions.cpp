@@ -77,9 +77,12 @@ bool KalMainWindow::closeProject(bool ask)
     return m_fileCommands->closeProject(ask);
 }
 
-bool KalMainWindow::openProject(const QString &path)
+bool KalMainWindow::openProject(const QString &path, bool automaticImport)
 {
-    return m_fileCommands->openProject(path);
+    m_automaticImportAllowed = automaticImport;
+    const bool opened = m_fileCommands->openProject(path);
+    m_automaticImportAllowed = true;
+    return opened;
 }
 
 bool KalMainWindow::createProjectAt(const QString &path, const QString &siteJournalPath)

@@ -119,22 +119,29 @@ int KalProjectFileCommands::saveCurrent(bool askForName)
         if (QFileInfo(target).absoluteFilePath() == QFileInfo(m_project->projectPath()).absoluteFilePath())
             target.clear();
     }
+    const int result = saveTo(target);
+    if (result == KalProject::NotSaved)
+        return Cancelled;
+    if (result != KalProject::Saved) {
+        KalPrompt::critical(tr("Fehler"), tr("Beim Speichern des Projekts ist ein Fehler aufgetreten!"));
+        return Failed;
+    }
+    return GoOn;
+}
+
+int KalProjectFileCommands::saveTo(const QString &target)
+{
     // Saving reopens the working copy and rebuilds the models: keep the
     // user's place in the list.
     emit modelsAboutToBeRebuilt();
     const int result = m_project->saveProject(target);
     emit modelsRebuilt();
-    if (result == KalProject::NotSaved)
-        return Cancelled;
-    if (result != KalProject::Saved) {
-        KalPrompt::critical(tr("Fehler"), tr("Beim Speichern des Projekts ist ein Fehler aufgetreten!"));
-        emit projectStateChanged();
-        return Failed;
+    if (result == KalProject::Saved) {
+        m_recentFiles->add(m_project->projectPath());
+        m_project->setModified(false);
     }
-    m_recentFiles->add(m_project->projectPath());
-    m_project->setModified(false);
     emit projectStateChanged();
-    return GoOn;
+    return result;
 }
 
 bool KalProjectFileCommands::newProject()
@@ -189,6 +196,7 @@ bool KalProjectFileCommands::openProject(const QString &path)
     }
     m_recentFiles->add(m_project->projectPath());
     emit projectStateChanged();
+    emit projectFileOpened();
     return true;
 }
 

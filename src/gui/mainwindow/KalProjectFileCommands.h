@@ -36,10 +36,15 @@ public:
     bool linkSiteJournal(const QString &siteJournalPath);
     // Saves first where needed, then compacts the project file.
     void compactDatabase();
+    // Saves in place (empty target) or under `target` without a message of
+    // its own; a saved project goes to the recent list. KalProject::SaveResult.
+    int saveTo(const QString &target = QString());
 
 signals:
     // The project's file or open state may have changed (window title).
     void projectStateChanged();
+    // A project file was opened (not a new or a saved one).
+    void projectFileOpened();
     // Saving and compacting rebuild the models; views keep their place.
     void modelsAboutToBeRebuilt();
     void modelsRebuilt();

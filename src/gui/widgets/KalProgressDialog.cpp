@@ -68,6 +68,18 @@ bool KalProgressDialog::wasCanceled() const
     return m_canceled;
 }
 
+void KalProgressDialog::setText(const QString &text)
+{
+    if (m_depth == 0 || !m_window)
+        return;
+    m_window->setWindowTitle(m_text);
+    // Wide enough for the title beside the frame's buttons.
+    m_window->setMinimumWidth(qMax(320, m_window->fontMetrics().horizontalAdvance(m_text) * 3 / 2 + 120));
+    m_window->setLabelText(text);
+    if (!m_yielded)
+        keepPainting();
+}
+
 void KalProgressDialog::setProgress(qint64 done, qint64 total)
 {
     if (m_depth == 0 || !m_window)
@@ -120,8 +132,12 @@ void KalProgressDialog::yieldToMessage()
         return;
     m_yielded = true;
     m_showTimer->stop();
-    if (m_window)
+    if (m_window) {
+        // The window's own timer, started by a first value before it showed,
+        // would bring it up over the question: reset() stops it.
+        m_window->reset();
         m_window->hide();
+    }
     QApplication::restoreOverrideCursor();
 }
 

@@ -26,6 +26,9 @@ public:
     void yieldToMessage() override;
     void beginCancelable(const QString &text) override;
     bool wasCanceled() const override;
+    // The operation's name (its begin text) moves to the window title; the
+    // phase shows below it.
+    void setText(const QString &text) override;
 
     // Delay before the window shows, in milliseconds.
     static int showDelay() { return 300; }

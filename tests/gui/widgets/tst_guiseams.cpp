@@ -364,6 +364,46 @@ private slots:
         QVERIFY(!QApplication::overrideCursor());
     }
 
+    // A long operation names itself in the title and its phase below.
+    void busyWindowShowsThePhase()
+    {
+        KalProgressDialog progress;
+        progress.beginCancelable(QStringLiteral("Datenimport aus dem Bautagebuch"));
+        QTRY_VERIFY_WITH_TIMEOUT(progress.isShowing(), 3000);
+        progress.setText(QStringLiteral("Mängel werden importiert ...\nMangel 3 von 50"));
+        QProgressDialog *window = nullptr;
+        for (QWidget *w : QApplication::topLevelWidgets()) {
+            if (auto *p = qobject_cast<QProgressDialog *>(w); p && p->isVisible())
+                window = p;
+        }
+        QVERIFY(window);
+        QCOMPARE(window->windowTitle(), QStringLiteral("Datenimport aus dem Bautagebuch"));
+        QCOMPARE(window->labelText(), QStringLiteral("Mängel werden importiert ...\nMangel 3 von 50"));
+        progress.end();
+        QVERIFY(!progress.isShowing());
+    }
+
+    // A question during a long operation (a conflict to resolve, say): the
+    // window goes and stays away while the question's own loop runs, also
+    // after progress had been reported.
+    void busyWindowStaysAwayAfterYielding()
+    {
+        KalProgressDialog progress;
+        progress.beginCancelable(QStringLiteral("Datenimport aus dem Bautagebuch"));
+        progress.setProgress(0, 100);
+        progress.yieldToMessage();
+        QVERIFY(!progress.isShowing());
+        bool appeared = false;
+        QEventLoop question;
+        QTimer poll;
+        connect(&poll, &QTimer::timeout, [&] { appeared = appeared || KalDialogAnswer<QProgressDialog>::find(); });
+        poll.start(20);
+        QTimer::singleShot(KalProgressDialog::showDelay() * 4, &question, &QEventLoop::quit);
+        question.exec();
+        QVERIFY(!appeared);
+        progress.end();
+    }
+
     void busyWindowAppearsAfterDelay()
     {
         auto progressWindow = [] {
