@@ -106,6 +106,12 @@ bool KalSiteJournalImportRun::execute(const KalSiteJournalFile &file, const Sett
     if (!m_project->beginTransaction()) {
         m_result->outcome = KalDataImportResult::Outcome::Failed;
         m_result->errorText = tr("Der Datenimport konnte nicht begonnen werden.");
+        // The counted transactions only log a failed BEGIN; the user must
+        // still learn why nothing was imported.
+        const QSqlError error = m_project->database().lastError();
+        kalReportSqlError(error.isValid() ? error
+                                          : QSqlError(m_result->errorText, QString(), QSqlError::StatementError),
+                          QStringLiteral("KalSiteJournalDataImport"), QStringLiteral("execute"), __LINE__);
         return false;
     }
     bool ok = loadProject() && importCompanies() && importReports() && (!updates() || deletedInJournal()) &&
