@@ -85,9 +85,17 @@ void KalProgressDialog::setProgress(qint64 done, qint64 total)
     if (m_depth == 0 || !m_window)
         return;
     if (m_yielded) {
-        // Setting a value would let the window show itself again.
-        keepPainting();
-        return;
+        if (!m_cancelable) {
+            // Setting a value would let the window show itself again.
+            keepPainting();
+            return;
+        }
+        // Work goes on after the question: a long run must stay cancelable,
+        // so its window returns after the usual delay.
+        m_yielded = false;
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+        m_started.restart();
+        m_showTimer->start(showDelay());
     }
     if (total > 0) {
         // The bar works with int; scale large totals down.

@@ -385,7 +385,7 @@ private slots:
 
     // A question during a long operation (a conflict to resolve, say): the
     // window goes and stays away while the question's own loop runs, also
-    // after progress had been reported.
+    // after progress had been reported; it returns once the work goes on.
     void busyWindowStaysAwayAfterYielding()
     {
         KalProgressDialog progress;
@@ -401,6 +401,9 @@ private slots:
         QTimer::singleShot(KalProgressDialog::showDelay() * 4, &question, &QEventLoop::quit);
         question.exec();
         QVERIFY(!appeared);
+        // Once the work goes on, the cancelable window comes back.
+        progress.setProgress(50, 100);
+        QTRY_VERIFY_WITH_TIMEOUT(progress.isShowing(), 3000);
         progress.end();
     }
 
