@@ -14,11 +14,14 @@
 
 #include <QDir>
 #include <QFile>
+#include <QPdfWriter>
 #include <QProcess>
+#include <QSqlQuery>
 #include <QTemporaryDir>
 #include <QtTest>
 
 Q_DECLARE_METATYPE(KalPrintOptions::Layout)
+Q_DECLARE_METATYPE(KalPrintDefects::Paper)
 
 namespace {
 
@@ -442,6 +445,142 @@ private slots:
         QVERIFY(text.contains("Index: B"));
         QVERIFY(text.contains("SICHTBAR"));
         QVERIFY(!text.contains("VERSTECKT"));
+    }
+
+    // A defect on a plan shows the part of its sheet around its marker in
+    // its block, with its own marker only; nothing without a marker there,
+    // nothing in the compact list.
+    void planExcerpts_data()
+    {
+        QTest::addColumn<KalPrintOptions::Layout>("layout");
+        QTest::addColumn<bool>("onItsSheet");
+        QTest::addColumn<bool>("excerpt");
+        QTest::newRow("detailed") << KalPrintOptions::Detailed << true << true;
+        QTest::newRow("marker on another sheet") << KalPrintOptions::Detailed << false << false;
+        QTest::newRow("compact") << KalPrintOptions::Compact << true << false;
+    }
+    void planExcerpts()
+    {
+        QFETCH(KalPrintOptions::Layout, layout);
+        QFETCH(bool, onItsSheet);
+        QFETCH(bool, excerpt);
+        QImage white(2000, 1400, QImage::Format_RGB32);
+        white.fill(Qt::white);
+        KalPictureStore plans(db(), KalPictureStore::Kind::Plan);
+        QString error;
+        const qint64 plan = plans.insertFromData(KalTestImages::jpeg(white), &error);
+        QVERIFY2(plan > 0, qPrintable(error));
+        const qint64 sheet = m_fx.insert("plan_info", {{"plan_name", "EG"}, {"plan_id", plan}, {"pos", 1}});
+        const qint64 shown = m_fx.addDefect({{"number", "1"}, {"plan_info_id", sheet}});
+        const qint64 other = m_fx.addDefect({{"number", "2"}, {"plan_info_id", sheet}});
+        // Magenta for the printed defect, cyan for its neighbour close by.
+        const QVector<std::tuple<qint64, int, const char *>> markers{{shown, 1000, "#ff00ff"},
+                                                                     {other, 1100, "#00ffff"}};
+        for (const auto &m : markers)
+            QVERIFY(m_fx.insert("marker", {{"type", 1},
+                                           {"pos_x", std::get<1>(m)},
+                                           {"pos_y", 700},
+                                           {"scale_factor", 0.2},
+                                           {"rotation_angle", 0},
+                                           {"color1", std::get<2>(m)},
+                                           {"color2", "#000000"},
+                                           {"linewidth", 2},
+                                           {"transform_point_x", 0},
+                                           {"transform_point_y", 0},
+                                           {"plan_info_id", onItsSheet ? sheet : sheet + 1},
+                                           {"defect_id", std::get<0>(m)}}) > 0);
+        KalPrintOptions options;
+        options.layout = layout;
+        const QString pdf = print({shown}, options);
+        const QVector<PdfImage> found = images(pdf);
+        QCOMPARE(found.size(), excerpt ? 1 : 0);
+        if (!excerpt)
+            return;
+        // A fifth of the plan's shorter side, never enlarged.
+        QSqlQuery stored(db());
+        QVERIFY(stored.exec(QStringLiteral("SELECT plan_width, plan_height FROM plan WHERE id=%1").arg(plan)));
+        QVERIFY(stored.next());
+        QCOMPARE(found.first().width, qRound(qMin(stored.value(0).toInt(), stored.value(1).toInt()) / 5.0));
+        QVERIFY2(found.first().ppi <= 220, qPrintable(QString::number(found.first().ppi)));
+        const QString png = m_dir.filePath("excerpt");
+        run("pdftoppm", {"-r", "50", "-f", "1", "-l", "1", "-singlefile", "-png", pdf, png});
+        const QImage page(png + ".png");
+        QVERIFY(!page.isNull());
+        int magenta = 0;
+        int cyan = 0;
+        for (int y = 0; y < page.height(); ++y)
+            for (int x = 0; x < page.width(); ++x) {
+                const QColor c = page.pixelColor(x, y);
+                magenta += c.red() > 200 && c.blue() > 200 && c.green() < 80;
+                cyan += c.green() > 200 && c.blue() > 200 && c.red() < 80;
+            }
+        QVERIFY(magenta > 0);
+        QCOMPARE(cyan, 0);
+    }
+
+    // A printer's paper and orientation are kept; our PDF files are A4.
+    void paper_data()
+    {
+        QTest::addColumn<KalPrintDefects::Paper>("paper");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("device") << KalPrintDefects::Paper::Device << "792 x 612 pts \\(letter\\)";
+        QTest::newRow("A4") << KalPrintDefects::Paper::A4 << "595 x 842 pts \\(A4\\)";
+    }
+    void paper()
+    {
+        QFETCH(KalPrintDefects::Paper, paper);
+        QFETCH(QString, expected);
+        const QString path = m_dir.filePath("paper.pdf");
+        {
+            QPdfWriter writer(path);
+            writer.setPageSize(QPageSize(QPageSize::Letter));
+            writer.setPageOrientation(QPageLayout::Landscape);
+            KalPrintDefects job(db(), manyDefects(3), KalPrintOptions());
+            job.setupPage(&writer, paper);
+            QString error;
+            QVERIFY2(job.paint(&writer, &error), qPrintable(error));
+        }
+        QVERIFY(run("pdfinfo", {path}).contains(QRegularExpression("Page size:\\s+" + expected)));
+        QVERIFY(pages(path).join("").contains(QRegularExpression("\\n\\s*3\\s+Riss im Putz")));
+    }
+
+    // Long left, centre and right texts of the header or the footer share
+    // the width: every word once, and on every line the left text's words
+    // before the centre's before the right's.
+    void longFrameTexts_data()
+    {
+        QTest::addColumn<QStringList>("columns");
+        QTest::addColumn<QStringList>("groups");
+        const QStringList all{"Links", "Mitte", "Rechts"};
+        QTest::newRow("header") << QStringList{"headline_left", "headline_center", "headline_right"} << all;
+        QTest::newRow("footer") << QStringList{"footer_left", "footer_center", "footer_right"} << all;
+        QTest::newRow("footer without centre")
+            << QStringList{"footer_left", "footer_right"} << QStringList{"Links", "Rechts"};
+    }
+    void longFrameTexts()
+    {
+        QFETCH(QStringList, columns);
+        QFETCH(QStringList, groups);
+        for (int i = 0; i < columns.size(); ++i) {
+            QStringList words;
+            for (int w = 10; w < 40; ++w)
+                words << groups.at(i) + QString::number(w);
+            setFrame(columns.at(i), words.join(' '));
+        }
+        const QString page = pages(print(manyDefects(2), KalPrintOptions())).value(0);
+        const QRegularExpression word("(Links|Mitte|Rechts)(\\d+)");
+        for (const QString &group : groups)
+            for (int w = 10; w < 40; ++w)
+                QVERIFY2(page.count(QRegularExpression("\\b" + group + QString::number(w) + "\\b")) == 1,
+                         qPrintable(page));
+        for (const QString &line : page.split('\n')) {
+            int last = -1;
+            for (auto it = word.globalMatch(line); it.hasNext();) {
+                const int group = groups.indexOf(it.next().captured(1));
+                QVERIFY2(group >= last, qPrintable(line));
+                last = group;
+            }
+        }
     }
 
     // A full disk or a folder without write access leaves the old PDF as it was.
