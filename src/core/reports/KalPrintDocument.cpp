@@ -138,21 +138,21 @@ QImage KalPrintDocument::excerpt(const KalPrintItem &item, const QSize &target)
     const QRect clip = item.clip.intersected(QRect(QPoint(0, 0), item.storedSize));
     if (clip.isEmpty())
         return QImage();
-    const double scale = dctEighths(double(target.width()) / clip.width()) / 8.0;
+    const int eighths = dctEighths(double(target.width()) / clip.width());
     auto found = std::find_if(m_sheets.begin(), m_sheets.end(), [&](const Sheet &s) { return s.planId == item.id; });
     Sheet sheet;
-    if (found != m_sheets.end() && found->scale >= scale - 1e-9) {
+    if (found != m_sheets.end() && found->eighths >= eighths) {
         sheet = *found;
         m_sheets.erase(found);
     } else {
         if (found != m_sheets.end())
             m_sheets.erase(found);
-        const QSize size(item.storedSize.width() * scale, item.storedSize.height() * scale);
+        const QSize size(item.storedSize.width() * eighths / 8, item.storedSize.height() * eighths / 8);
         sheet.planId = item.id;
+        sheet.eighths = eighths;
         sheet.image = decode(storedBytes(item), size, QRect(), true);
         if (sheet.image.isNull())
             return QImage();
-        sheet.scale = double(sheet.image.width()) / item.storedSize.width();
         // Plans are drawings: 16 bits a pixel halve the memory and do not
         // show on paper.
         if (!sheet.image.hasAlphaChannel())
@@ -166,8 +166,8 @@ QImage KalPrintDocument::excerpt(const KalPrintItem &item, const QSize &target)
         bytes -= m_sheets.first().image.sizeInBytes();
         m_sheets.removeFirst();
     }
-    const QRectF cut(clip.x() * sheet.scale, clip.y() * sheet.scale, clip.width() * sheet.scale,
-                     clip.height() * sheet.scale);
+    const double scale = double(sheet.image.width()) / item.storedSize.width();
+    const QRectF cut(clip.x() * scale, clip.y() * scale, clip.width() * scale, clip.height() * scale);
     QImage part = sheet.image.copy(cut.toAlignedRect().intersected(sheet.image.rect()));
     if (part.width() > target.width() * 1.1)
         part = part.scaled(target, Qt::KeepAspectRatio, Qt::SmoothTransformation);

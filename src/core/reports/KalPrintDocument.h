@@ -92,12 +92,12 @@ private:
     QVector<QFont> m_fonts;
     QSet<qint64> m_listed;
     QHash<qint64, QImage> m_logos;
-    // Decoded sheets for excerpts by plan id, with the scale they were
-    // decoded at; least recently used first. Bounded in bytes.
+    // Decoded sheets for excerpts by plan id, with the eighths of the stored
+    // size they were decoded at; least recently used first. Bounded in bytes.
     struct Sheet
     {
         qint64 planId = -1;
-        double scale = 0;
+        int eighths = 0;
         QImage image;
     };
     QVector<Sheet> m_sheets;
