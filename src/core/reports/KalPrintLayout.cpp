@@ -117,8 +117,10 @@ QVector<QPair<qreal, qreal>> KalPrintLayout::frameSlots(const QStringList &texts
     const qreal gap = mm(4);
     const qreal w = m_width;
     qreal need[3];
+    // A little slack: the line breaker must not find a text that was measured
+    // to fit a hair too wide for its own width.
     for (int i = 0; i < 3; ++i)
-        need[i] = texts.value(i).isEmpty() ? 0 : frameTextWidth(texts.value(i));
+        need[i] = texts.value(i).isEmpty() ? 0 : frameTextWidth(texts.value(i)) + mm(0.5);
     if (need[1] <= 0) {
         qreal left = need[0];
         qreal right = need[2];
