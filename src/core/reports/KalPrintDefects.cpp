@@ -162,6 +162,11 @@ int KalPrintDefects::placeholderCount() const
     return m_document ? m_document->placeholderCount() : 0;
 }
 
+int KalPrintDefects::sheetDecodeCount() const
+{
+    return m_document ? m_document->sheetDecodeCount() : 0;
+}
+
 bool KalPrintDefects::paint(QPagedPaintDevice *device, QString *error)
 {
     KalProgress *progress = KalProgress::instance();

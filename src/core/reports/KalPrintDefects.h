@@ -90,6 +90,9 @@ public:
 
     // Pictures that could not be read and were printed as a placeholder.
     int placeholderCount() const;
+    // How often plan sheets were decoded for the excerpts of the last run:
+    // once per sheet while the decoded sheets fit their memory budget.
+    int sheetDecodeCount() const;
 
 private:
     QSqlDatabase m_db;

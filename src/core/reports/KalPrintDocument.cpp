@@ -151,6 +151,7 @@ QImage KalPrintDocument::excerpt(const KalPrintItem &item, const QSize &target)
         sheet.planId = item.id;
         sheet.eighths = eighths;
         sheet.image = decode(storedBytes(item), size, QRect(), true);
+        ++m_sheetDecodes;
         if (sheet.image.isNull())
             return QImage();
         // Plans are drawings: 16 bits a pixel halve the memory and do not

@@ -70,6 +70,7 @@ public:
     // Paints page `index` (0-based) with the painter's origin at the paint area.
     void paintPage(QPainter &painter, int index);
     int placeholderCount() const { return m_placeholders; }
+    int sheetDecodeCount() const { return m_sheetDecodes; }
 
     // Decodes stored picture bytes scaled to about `target` pixels (never
     // enlarged; a JPEG to the nearest size its decoder reaches cheaply unless
@@ -102,4 +103,5 @@ private:
     };
     QVector<Sheet> m_sheets;
     int m_placeholders = 0;
+    int m_sheetDecodes = 0;
 };
