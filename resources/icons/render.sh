@@ -46,7 +46,7 @@ convert "$tmp/pellwick-16.png" "$tmp/pellwick-32.png" "$tmp/pellwick-48.png" "$t
     for f in "$out"/*; do
         name=$(basename "$f")
         [ "$name" = "Pellwick.ico" ] && continue
-        alias=$(printf '%s' "$name" | sed 's/datei-oeffnen/datei-öffnen/')
+        alias=$(printf '%s' "$name" | sed -e 's/datei-oeffnen/datei-öffnen/' -e 's/icon-liste-drucken-lang/icon-liste drucken lang/')
         echo "    <file alias=\"Resources/$alias\">$out/$name</file>"
     done
     echo '    <file alias="Resources/pellwick.png">pellwick.png</file>'

@@ -147,7 +147,7 @@ QString KalDefectFilter::title()
 
 QString KalDefectFilter::iconPath()
 {
-    return QStringLiteral(":/KalMainWindow/Resources/icon-drucken-kompakt.ico");
+    return QStringLiteral(":/KalMainWindow/Resources/icon-liste-drucken.ico");
 }
 
 QVector<KalDefectFilter::Item> KalDefectFilter::values(State::List list) const

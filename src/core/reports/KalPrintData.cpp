@@ -1,6 +1,7 @@
 #include "KalPrintData.h"
 
 #include "core/photos/KalPictureStore.h"
+#include "core/plans/KalMarkerShapes.h"
 #include "core/project/KalCompanyFormat.h"
 
 #include <QBuffer>
@@ -10,6 +11,7 @@
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <QVariant>
+#include <limits>
 
 namespace {
 
@@ -36,7 +38,62 @@ QString joined(const QStringList &parts, const QString &separator)
 bool KalPrintData::read(QSqlDatabase db, const QVector<qint64> &ids, bool withPhotos, QString *error)
 {
     return readPageInfo(db, error) && readDefects(db, ids, error) && (!withPhotos || readPhotos(db, error)) &&
-           readCompanies(db, error) && readSheets(db, error);
+           readCompanies(db, error) && readSheets(db, error) && readMarkers(db, error);
+}
+
+QRect KalPrintData::excerpt(const QSize &plan, const QRectF &markers)
+{
+    if (markers.isNull() || plan.isEmpty())
+        return QRect();
+    const int shorter = qMin(plan.width(), plan.height());
+    // Room around the markers, so that the reader sees where they stand.
+    const qreal wanted = qMax<qreal>(shorter / 5.0, qMax(markers.width(), markers.height()) * 1.5);
+    const int side = qBound(1, qRound(wanted), shorter);
+    QRect rect(0, 0, side, side);
+    rect.moveCenter(markers.center().toPoint());
+    rect.moveLeft(qBound(0, rect.left(), plan.width() - side));
+    rect.moveTop(qBound(0, rect.top(), plan.height() - side));
+    return rect;
+}
+
+// One pass over all marker rows (no index on defect_id); a marker counts
+// only on the sheet its defect is placed on, as the plan editor shows it.
+bool KalPrintData::readMarkers(QSqlDatabase db, QString *error)
+{
+    if (sheets.isEmpty())
+        return true;
+    QSqlQuery q(db);
+    if (!run(q,
+             QStringLiteral("SELECT defect_id, plan_info_id, type, pos_x, pos_y, scale_factor, rotation_angle, "
+                            "transform_point_x, transform_point_y FROM marker"),
+             error))
+        return false;
+    QHash<qint64, int> index;
+    for (int i = 0; i < defects.size(); ++i)
+        if (defects.at(i).planInfoId > 0)
+            index.insert(defects.at(i).id, i);
+    auto real = [&q](int i) {
+        return q.value(i).isNull() ? std::numeric_limits<double>::quiet_NaN() : q.value(i).toDouble();
+    };
+    while (q.next()) {
+        const auto at = index.constFind(q.value(0).toLongLong());
+        if (at == index.constEnd())
+            continue;
+        KalPrintDefect &d = defects[at.value()];
+        if (q.value(1).toLongLong() != d.planInfoId)
+            continue;
+        KalPlanGeometry g;
+        g.pos = QPointF(real(3), real(4));
+        g.scale = real(5);
+        g.rotation = q.value(6).isNull() ? 0.0 : q.value(6).toDouble();
+        g.transformPoint = QPointF(q.value(7).toDouble(), q.value(8).toDouble());
+        const int type = q.value(2).toInt();
+        if (!KalMarkerShapes::isKnownType(type) || !KalPlanTransform::isDrawable(g))
+            continue;
+        const QRectF bounds = KalPlanTransform::toPlan(g).map(KalMarkerShapes::paths(type).body).boundingRect();
+        d.markerBounds = d.markerBounds.isNull() ? bounds : d.markerBounds.united(bounds);
+    }
+    return true;
 }
 
 bool KalPrintData::readDefects(QSqlDatabase db, const QVector<qint64> &ids, QString *error)

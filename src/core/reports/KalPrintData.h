@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QDate>
 #include <QHash>
+#include <QRectF>
 #include <QSize>
 #include <QSqlDatabase>
 #include <QString>
@@ -45,6 +46,9 @@ struct KalPrintDefect
     QColor statusColor;
     bool reduction = false;
     QVector<KalPrintPhoto> photos; // in `pos` order
+    // Where the defect's markers stand on its sheet, in plan pixels; null
+    // when it has none there that can be drawn.
+    QRectF markerBounds;
 };
 
 struct KalPrintSheet
@@ -86,6 +90,11 @@ public:
 
     // The logo rows of the master record that hold a picture that can be
     // printed: not a picture, truncated or over 100 megapixels is skipped.
+    // The part of a plan of `plan` pixels shown beside a defect: a square of
+    // a fifth of the plan's shorter side (larger when the markers are)
+    // centred on the markers, moved inside the plan. Null without markers.
+    static QRect excerpt(const QSize &plan, const QRectF &markers);
+
     static QVector<KalPrintLogo> readLogos(QSqlDatabase db, const QVariant &first, int firstAlign,
                                            const QVariant &second, int secondAlign);
 
@@ -94,5 +103,6 @@ private:
     bool readPhotos(QSqlDatabase db, QString *error);
     bool readCompanies(QSqlDatabase db, QString *error);
     bool readSheets(QSqlDatabase db, QString *error);
+    bool readMarkers(QSqlDatabase db, QString *error);
     bool readPageInfo(QSqlDatabase db, QString *error);
 };

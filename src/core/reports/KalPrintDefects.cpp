@@ -108,13 +108,21 @@ QVector<qint64> KalPrintDefects::allByNumber(QSqlDatabase db, QString *error)
     return ids;
 }
 
-void KalPrintDefects::setupPage(QPagedPaintDevice *device) const
+void KalPrintDefects::setupPage(QPagedPaintDevice *device, Paper paper) const
 {
-    if (auto *pdf = dynamic_cast<QPdfWriter *>(device))
-        pdf->setResolution(pdfDpi);
     const QVector<int> &m = m_options.marginsMm;
-    const QPageLayout layout(QPageSize(QPageSize::A4), QPageLayout::Portrait, QMarginsF(m[0], m[1], m[2], m[3]),
-                             QPageLayout::Millimeter);
+    const QMarginsF margins(m[0], m[1], m[2], m[3]);
+    QPageLayout layout = device->pageLayout();
+    if (paper == Paper::A4 || !layout.isValid()) {
+        if (auto *pdf = dynamic_cast<QPdfWriter *>(device))
+            pdf->setResolution(pdfDpi);
+        layout = QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Portrait, margins, QPageLayout::Millimeter);
+    } else {
+        layout.setUnits(QPageLayout::Millimeter);
+        const QMarginsF least = layout.minimumMargins();
+        layout.setMargins(QMarginsF(qMax(margins.left(), least.left()), qMax(margins.top(), least.top()),
+                                    qMax(margins.right(), least.right()), qMax(margins.bottom(), least.bottom())));
+    }
     device->setPageLayout(layout);
 }
 
@@ -152,6 +160,11 @@ int KalPrintDefects::pageCount() const
 int KalPrintDefects::placeholderCount() const
 {
     return m_document ? m_document->placeholderCount() : 0;
+}
+
+int KalPrintDefects::sheetDecodeCount() const
+{
+    return m_document ? m_document->sheetDecodeCount() : 0;
 }
 
 bool KalPrintDefects::paint(QPagedPaintDevice *device, QString *error)
@@ -194,7 +207,7 @@ bool KalPrintDefects::writePdf(QIODevice *out, QString *error)
     QPdfWriter writer(&check);
     writer.setCreator(QStringLiteral("Pellwick"));
     writer.setTitle(KalPrintTexts::text(KalPrintTexts::ListTitle));
-    setupPage(&writer);
+    setupPage(&writer, Paper::A4);
     if (!paint(&writer, error))
         return false;
     if (check.failed()) {

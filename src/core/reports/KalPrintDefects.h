@@ -59,9 +59,13 @@ public:
     // "10"); empty with `error` set on a database error.
     static QVector<qint64> allByNumber(QSqlDatabase db, QString *error);
 
-    // A4, portrait, the margins of the options; 600 dpi where the device
-    // takes a resolution (QPdfWriter).
-    void setupPage(QPagedPaintDevice *device) const;
+    // The paper a list is laid out on: A4 portrait at 600 dpi (our PDF
+    // files), or the paper and orientation the device has already been given
+    // (a printer set up in its dialog).
+    enum class Paper { A4, Device };
+    // The margins of the options on the chosen paper; the device's own
+    // minimum margins win where they are wider.
+    void setupPage(QPagedPaintDevice *device, Paper paper) const;
 
     // Lays out for `device` (page set up already) without painting. False with
     // `error` set on a database error or when the device has no page area.
@@ -86,6 +90,9 @@ public:
 
     // Pictures that could not be read and were printed as a placeholder.
     int placeholderCount() const;
+    // How often plan sheets were decoded for the excerpts of the last run:
+    // once per sheet while the decoded sheets fit their memory budget.
+    int sheetDecodeCount() const;
 
 private:
     QSqlDatabase m_db;

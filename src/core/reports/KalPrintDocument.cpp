@@ -5,11 +5,14 @@
 #include "core/reports/KalPrintTexts.h"
 
 #include <QBuffer>
+#include <QFontMetricsF>
 #include <QImageReader>
 #include <QPaintDevice>
 #include <QPainter>
 #include <QSqlQuery>
+#include <QTextLayout>
 #include <QVariant>
+#include <cmath>
 #include <limits>
 
 namespace {
@@ -33,6 +36,25 @@ KalPlanGeometry geometry(const QSqlQuery &q)
     return g;
 }
 
+// libjpeg decodes at n/8 of the stored size at a fraction of the full cost,
+// and any size in between costs a second, smoothing pass. The step just
+// below `wanted` (a fraction of the stored size) is taken while it keeps four
+// fifths of the wanted pixels (160 dpi on paper), else the one above.
+int dctEighths(double wanted)
+{
+    const int above = qBound(1, int(std::ceil(wanted * 8 - 1e-9)), 8);
+    return above > 1 && (above - 1) / 8.0 >= wanted * 0.8 ? above - 1 : above;
+}
+
+// The PDF engine turns every other format into ARGB32 and scans it for
+// alpha; opaque pictures go in as RGB32.
+QImage opaque(QImage image)
+{
+    if (image.format() == QImage::Format_RGB32 || image.hasAlphaChannel())
+        return image;
+    return image.convertToFormat(QImage::Format_RGB32);
+}
+
 } // namespace
 
 KalPrintDocument::KalPrintDocument(QSqlDatabase db, const QVector<QFont> &fonts, const QSet<qint64> &listed)
@@ -48,7 +70,7 @@ QSize KalPrintDocument::printSize(const QSizeF &rect, int dpi)
     return QSize(qMax(1, qRound(rect.width() * factor)), qMax(1, qRound(rect.height() * factor)));
 }
 
-QImage KalPrintDocument::decode(const QByteArray &data, const QSize &target, const QRect &clip)
+QImage KalPrintDocument::decode(const QByteArray &data, const QSize &target, const QRect &clip, bool exact)
 {
     if (data.isEmpty() || KalPictureStore::isTruncatedJpeg(data))
         return QImage();
@@ -64,16 +86,21 @@ QImage KalPrintDocument::decode(const QByteArray &data, const QSize &target, con
         return QImage();
     if (!clip.isNull())
         reader.setClipRect(part);
-    const QSize wanted = part.size().scaled(target, Qt::KeepAspectRatio);
+    QSize wanted = part.size().scaled(target, Qt::KeepAspectRatio).expandedTo(QSize(1, 1));
+    if (!exact && clip.isNull() && wanted.width() < part.width() && reader.format() == "jpeg") {
+        // Rounded down, so that the decoder picks exactly this step.
+        const int n = dctEighths(double(wanted.width()) / part.width());
+        wanted = QSize(qMax(1, part.width() * n / 8), qMax(1, part.height() * n / 8));
+    }
     if (wanted.width() < part.width())
-        reader.setScaledSize(wanted.expandedTo(QSize(1, 1)));
+        reader.setScaledSize(wanted);
     QImage image = reader.read();
     if (image.isNull())
         return image;
     // Formats without scaling in the decoder arrive at full size.
     if (image.width() > wanted.width() * 1.1)
-        image = image.scaled(wanted.expandedTo(QSize(1, 1)), Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    return image;
+        image = image.scaled(wanted, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    return opaque(image);
 }
 
 QByteArray KalPrintDocument::storedBytes(const KalPrintItem &item)
@@ -100,8 +127,58 @@ QByteArray KalPrintDocument::storedBytes(const KalPrintItem &item)
     return query.value(0).toByteArray();
 }
 
+// Sheets decoded for excerpts stay within this many bytes: twenty plans of
+// 5000 pixels at half size.
+namespace {
+constexpr qint64 sheetBudget = 192 * 1024 * 1024;
+}
+
+QImage KalPrintDocument::excerpt(const KalPrintItem &item, const QSize &target)
+{
+    const QRect clip = item.clip.intersected(QRect(QPoint(0, 0), item.storedSize));
+    if (clip.isEmpty())
+        return QImage();
+    const int eighths = dctEighths(double(target.width()) / clip.width());
+    auto found = std::find_if(m_sheets.begin(), m_sheets.end(), [&](const Sheet &s) { return s.planId == item.id; });
+    Sheet sheet;
+    if (found != m_sheets.end() && found->eighths >= eighths) {
+        sheet = *found;
+        m_sheets.erase(found);
+    } else {
+        if (found != m_sheets.end())
+            m_sheets.erase(found);
+        const QSize size(item.storedSize.width() * eighths / 8, item.storedSize.height() * eighths / 8);
+        sheet.planId = item.id;
+        sheet.eighths = eighths;
+        sheet.image = decode(storedBytes(item), size, QRect(), true);
+        ++m_sheetDecodes;
+        if (sheet.image.isNull())
+            return QImage();
+        // Plans are drawings: 16 bits a pixel halve the memory and do not
+        // show on paper.
+        if (!sheet.image.hasAlphaChannel())
+            sheet.image = sheet.image.convertToFormat(QImage::Format_RGB16);
+    }
+    m_sheets.append(sheet);
+    qint64 bytes = 0;
+    for (const Sheet &s : qAsConst(m_sheets))
+        bytes += s.image.sizeInBytes();
+    while (bytes > sheetBudget && m_sheets.size() > 1) {
+        bytes -= m_sheets.first().image.sizeInBytes();
+        m_sheets.removeFirst();
+    }
+    const double scale = double(sheet.image.width()) / item.storedSize.width();
+    const QRectF cut(clip.x() * scale, clip.y() * scale, clip.width() * scale, clip.height() * scale);
+    QImage part = sheet.image.copy(cut.toAlignedRect().intersected(sheet.image.rect()));
+    if (part.width() > target.width() * 1.1)
+        part = part.scaled(target, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    return opaque(part);
+}
+
 QImage KalPrintDocument::picture(const KalPrintItem &item, const QSize &target)
 {
+    if (item.source == KalPrintItem::PlanPicture && !item.clip.isNull())
+        return excerpt(item, target);
     if (item.source != KalPrintItem::Logo)
         return decode(storedBytes(item), target, item.clip);
     // One image object per logo for the whole run: the PDF engine stores an
@@ -137,6 +214,13 @@ void KalPrintDocument::paintPicture(QPainter &painter, const KalPrintItem &item)
     painter.drawImage(item.rect, image);
     if (item.planInfoId >= 0)
         paintPlanItems(painter, item);
+    if (item.defectId >= 0) {
+        painter.save();
+        painter.setPen(QPen(Qt::gray, 0));
+        painter.setBrush(Qt::NoBrush);
+        painter.drawRect(item.rect);
+        painter.restore();
+    }
 }
 
 // Markers and texts of the listed defects only, as vectors over the picture.
@@ -150,6 +234,9 @@ void KalPrintDocument::paintPlanItems(QPainter &painter, const KalPrintItem &ite
     painter.translate(item.rect.topLeft());
     painter.scale(item.rect.width() / shown.width(), item.rect.height() / shown.height());
     painter.translate(-shown.topLeft());
+    auto shows = [&](qint64 defect) {
+        return item.defectId >= 0 ? defect == item.defectId : m_listed.contains(defect);
+    };
     QSqlQuery markers(m_db);
     markers.setForwardOnly(true);
     markers.prepare(QStringLiteral(
@@ -160,7 +247,7 @@ void KalPrintDocument::paintPlanItems(QPainter &painter, const KalPrintItem &ite
     markers.bindValue(QStringLiteral(":id"), item.planInfoId);
     if (markers.exec()) {
         while (markers.next()) {
-            if (!m_listed.contains(markers.value(11).toLongLong()))
+            if (!shows(markers.value(11).toLongLong()))
                 continue;
             KalMarkerRow row;
             row.geometry = geometry(markers);
@@ -183,7 +270,7 @@ void KalPrintDocument::paintPlanItems(QPainter &painter, const KalPrintItem &ite
     texts.bindValue(QStringLiteral(":id"), item.planInfoId);
     if (texts.exec()) {
         while (texts.next()) {
-            if (!m_listed.contains(texts.value(11).toLongLong()))
+            if (!shows(texts.value(11).toLongLong()))
                 continue;
             KalMarkerTextRow row;
             row.geometry = geometry(texts);
@@ -198,17 +285,47 @@ void KalPrintDocument::paintPlanItems(QPainter &painter, const KalPrintItem &ite
     painter.restore();
 }
 
+// Wrapped as the layout measured it: at word boundaries, and inside a word
+// only where the word alone is wider than the box, so nothing runs into the
+// text beside it.
+void KalPrintDocument::paintWrapped(QPainter &painter, const KalPrintItem &item, const QString &text)
+{
+    QString prepared = text;
+    prepared.remove(QLatin1Char('\r'));
+    prepared.replace(QLatin1Char('\n'), QChar::LineSeparator);
+    QTextLayout layout(prepared, m_fonts.value(item.font), painter.device());
+    QTextOption option;
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    option.setAlignment(Qt::Alignment(item.flags & Qt::AlignHorizontal_Mask));
+    layout.setTextOption(option);
+    const qreal spacing = QFontMetricsF(m_fonts.value(item.font), painter.device()).lineSpacing();
+    qreal y = 0;
+    layout.beginLayout();
+    for (QTextLine line = layout.createLine(); line.isValid(); line = layout.createLine()) {
+        line.setLineWidth(qMax<qreal>(1, item.rect.width()));
+        line.setPosition(QPointF(0, y));
+        y += spacing;
+    }
+    layout.endLayout();
+    const qreal top = item.flags & Qt::AlignBottom ? item.rect.bottom() - y : item.rect.top();
+    layout.draw(&painter, QPointF(item.rect.left(), top));
+}
+
 void KalPrintDocument::paintPage(QPainter &painter, int index)
 {
     const int count = pages.size();
     for (const KalPrintItem &item : pages.at(index).items) {
         switch (item.kind) {
-        case KalPrintItem::Text:
+        case KalPrintItem::Text: {
             painter.setFont(m_fonts.value(item.font));
             painter.setPen(item.color.isValid() ? item.color : QColor(Qt::black));
-            painter.drawText(item.rect, item.flags,
-                             item.pageText ? KalPrintTexts::pageText(item.text, index + 1, count) : item.text);
+            const QString text = item.pageText ? KalPrintTexts::pageText(item.text, index + 1, count) : item.text;
+            if (item.flags & Qt::TextWordWrap)
+                paintWrapped(painter, item, text);
+            else
+                painter.drawText(item.rect, item.flags, text);
             break;
+        }
         case KalPrintItem::Fill:
             painter.fillRect(item.rect, item.color);
             break;

@@ -34,12 +34,14 @@ struct KalPrintItem
     QColor color;
     // Picture: the stored row and its stored size; `clip` (stored pixels,
     // null: all) is the part shown. Plan pictures get the markers and texts
-    // of the defects in the run's list over them (`planInfoId`).
+    // of the defects in the run's list over them (`planInfoId`), or those of
+    // `defectId` alone when it is set (the excerpt beside a defect).
     Source source = Photo;
     qint64 id = -1;
     QSize storedSize;
     QRect clip;
     qint64 planInfoId = -1;
+    qint64 defectId = -1;
 };
 Q_DECLARE_TYPEINFO(KalPrintItem, Q_MOVABLE_TYPE);
 
@@ -52,7 +54,10 @@ struct KalPrintPage
 // of one page at a time. Pictures are decoded only when their page is
 // painted, at about 200 dpi of their printed size, and dropped afterwards;
 // logos, which stand on every page, are decoded once per run so that the
-// PDF holds each of them once.
+// PDF holds each of them once. Plan excerpts are cut from one decoded copy
+// of their sheet kept for the run: the list visits the sheets in the order
+// of its defects, so a sheet decoded per excerpt would be decoded again and
+// again.
 class KalPrintDocument
 {
     Q_DECLARE_TR_FUNCTIONS(KalPrintDocument)
@@ -65,24 +70,38 @@ public:
     // Paints page `index` (0-based) with the painter's origin at the paint area.
     void paintPage(QPainter &painter, int index);
     int placeholderCount() const { return m_placeholders; }
+    int sheetDecodeCount() const { return m_sheetDecodes; }
 
-    // Decodes stored picture bytes scaled to `target` pixels (never enlarged),
-    // cut to `clip` first when it is not null. Refuses more than 100
-    // megapixels and truncated JPEGs without decoding them; null then.
-    static QImage decode(const QByteArray &data, const QSize &target, const QRect &clip = QRect());
+    // Decodes stored picture bytes scaled to about `target` pixels (never
+    // enlarged; a JPEG to the nearest size its decoder reaches cheaply unless
+    // `exact`), cut to `clip` first when it is not null. Refuses more than
+    // 100 megapixels and truncated JPEGs without decoding them; null then.
+    static QImage decode(const QByteArray &data, const QSize &target, const QRect &clip = QRect(), bool exact = false);
     // Pixel size of a picture printed in `rect` of a device with `dpi`.
     static QSize printSize(const QSizeF &rect, int dpi);
 
 private:
     QImage picture(const KalPrintItem &item, const QSize &target);
+    QImage excerpt(const KalPrintItem &item, const QSize &target);
     QByteArray storedBytes(const KalPrintItem &item);
     void paintPicture(QPainter &painter, const KalPrintItem &item);
     void paintPlanItems(QPainter &painter, const KalPrintItem &item);
     void paintPlaceholder(QPainter &painter, const QRectF &rect);
+    void paintWrapped(QPainter &painter, const KalPrintItem &item, const QString &text);
 
     QSqlDatabase m_db;
     QVector<QFont> m_fonts;
     QSet<qint64> m_listed;
     QHash<qint64, QImage> m_logos;
+    // Decoded sheets for excerpts by plan id, with the eighths of the stored
+    // size they were decoded at; least recently used first. Bounded in bytes.
+    struct Sheet
+    {
+        qint64 planId = -1;
+        int eighths = 0;
+        QImage image;
+    };
+    QVector<Sheet> m_sheets;
     int m_placeholders = 0;
+    int m_sheetDecodes = 0;
 };

@@ -99,24 +99,71 @@ QString KalPrintLayout::elide(const QString &text, int font, qreal width) const
     return line.left(good).trimmed() + ending;
 }
 
-qreal KalPrintLayout::frameTextHeight(const QStringList &texts) const
+// The widest line of a frame text as printed on a page of four-digit numbers.
+qreal KalPrintLayout::frameTextWidth(const QString &text) const
+{
+    qreal width = 0;
+    for (const QString &line : KalPrintTexts::pageText(text, 9999, 9999).split(QLatin1Char('\n')))
+        width = qMax(width, textWidth(line, Font7));
+    return width;
+}
+
+// Left, centre and right text share the width without overlapping: each
+// keeps its own width while all three fit on a line; otherwise the centre
+// stays centred with at least a third of the page (or what it needs) and the
+// sides share the rest, and texts wrap inside their slot.
+QVector<QPair<qreal, qreal>> KalPrintLayout::frameSlots(const QStringList &texts) const
+{
+    const qreal gap = mm(4);
+    const qreal w = m_width;
+    qreal need[3];
+    // A little slack: the line breaker must not find a text that was measured
+    // to fit a hair too wide for its own width.
+    for (int i = 0; i < 3; ++i)
+        need[i] = texts.value(i).isEmpty() ? 0 : frameTextWidth(texts.value(i)) + mm(0.5);
+    if (need[1] <= 0) {
+        qreal left = need[0];
+        qreal right = need[2];
+        const qreal half = (w - gap) / 2;
+        if (left + right + gap > w) {
+            left = right <= half ? w - gap - right : qMin(left, half);
+            right = w - gap - left;
+        } else if (right > 0) {
+            left = w - gap - right;
+        } else {
+            left = w;
+        }
+        return {{0, left}, {0, 0}, {w - right, right}};
+    }
+    const qreal side = qMax(need[0], need[2]);
+    qreal centre = need[1];
+    if (side <= 0)
+        centre = w;
+    else if (centre + 2 * (side + gap) > w)
+        centre = qMin(centre, qMax(w / 3, w - 2 * (side + gap)));
+    const qreal rest = qMax<qreal>(0, (w - centre) / 2 - gap);
+    return {{0, rest}, {(w - centre) / 2, centre}, {w - rest, rest}};
+}
+
+qreal KalPrintLayout::frameTextHeight(const QStringList &texts, const QVector<QPair<qreal, qreal>> &spans) const
 {
     qreal height = 0;
-    for (const QString &text : texts) {
+    for (int i = 0; i < 3; ++i) {
+        const QString text = texts.value(i);
         if (text.isEmpty())
             continue;
         const QString sample = KalPrintTexts::pageText(text, 9999, 9999);
-        const QRectF box = metrics(Font7).boundingRect(QRectF(0, 0, m_width, m_height),
-                                                       Qt::TextWordWrap | Qt::AlignLeft | Qt::AlignTop, sample);
-        height = qMax(height, box.height());
+        height = qMax(height, wrap(sample, Font7, spans.at(i).second).size() * lineHeight(Font7));
     }
     return height;
 }
 
 void KalPrintLayout::planFrame()
 {
-    m_headerHeight = frameTextHeight(m_data.header);
-    m_footerHeight = frameTextHeight(m_data.footer);
+    m_headerSlots = frameSlots(m_data.header);
+    m_footerSlots = frameSlots(m_data.footer);
+    m_headerHeight = frameTextHeight(m_data.header, m_headerSlots);
+    m_footerHeight = frameTextHeight(m_data.footer, m_footerSlots);
     // The body keeps at least half the page, whatever height the logos ask for.
     m_logoHeight = m_data.logos.isEmpty() ? 0 : qBound<qreal>(0, mm(m_options.logoHeightMm), m_height / 4);
     const qreal gap = mm(3);
@@ -172,12 +219,13 @@ void KalPrintLayout::addFrame(KalPrintPage &page) const
         item.pageText = true;
         item.text = m_data.header.value(i);
         item.flags = aligns[i] | Qt::AlignTop | Qt::TextWordWrap;
-        item.rect = QRectF(0, headerTop, m_width, m_headerHeight);
+        item.rect = QRectF(m_headerSlots.at(i).first, headerTop, m_headerSlots.at(i).second, m_headerHeight);
         if (!item.text.isEmpty())
             page.items << item;
         item.text = m_data.footer.value(i);
         item.flags = aligns[i] | Qt::AlignBottom | Qt::TextWordWrap;
-        item.rect = QRectF(0, m_height - m_footerHeight, m_width, m_footerHeight);
+        item.rect =
+            QRectF(m_footerSlots.at(i).first, m_height - m_footerHeight, m_footerSlots.at(i).second, m_footerHeight);
         if (!item.text.isEmpty())
             page.items << item;
     }

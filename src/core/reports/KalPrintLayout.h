@@ -41,7 +41,9 @@ private:
     qreal textWidth(const QString &text, int font) const { return metrics(font).horizontalAdvance(text); }
 
     void planFrame();
-    qreal frameTextHeight(const QStringList &texts) const;
+    qreal frameTextWidth(const QString &text) const;
+    QVector<QPair<qreal, qreal>> frameSlots(const QStringList &texts) const;
+    qreal frameTextHeight(const QStringList &texts, const QVector<QPair<qreal, qreal>> &spans) const;
     void addFrame(KalPrintPage &page) const;
     void addLogos(KalPrintPage &page, qreal top) const;
 
@@ -60,6 +62,7 @@ private:
     void detailedList();
     void detailedBlock(const KalPrintDefect &defect);
     void thumbnails(const KalPrintDefect &defect, qreal x);
+    void planExcerpt(const KalPrintDefect &defect, qreal x);
     void photoAnnex();
     struct AnnexCell
     {
@@ -80,6 +83,9 @@ private:
     int m_dpi = 600;
     qreal m_width = 0;
     qreal m_height = 0;
+    // Left edge and width of the left, centre and right frame texts.
+    QVector<QPair<qreal, qreal>> m_headerSlots;
+    QVector<QPair<qreal, qreal>> m_footerSlots;
     qreal m_headerHeight = 0;
     qreal m_footerHeight = 0;
     qreal m_logoHeight = 0;

@@ -9,6 +9,10 @@ namespace {
 // Rows stay short: a longer description is cut with "usw...".
 constexpr int compactDescriptionLines = 6;
 
+// Plan excerpts in a block: large enough to find the place again on site,
+// small enough to keep a block short.
+constexpr qreal excerptMm = 45;
+
 enum Column { NumberColumn, DescriptionColumn, RoomColumn, CompanyColumn, DeadlineColumn, StatusColumn, ColumnCount };
 
 QDate currentDeadline(const KalPrintDefect &d)
@@ -171,10 +175,38 @@ void KalPrintLayout::detailedBlock(const KalPrintDefect &d)
         }
         addLines(wrap(field.second, Font9, width), Font9, x, width, T::text(field.first));
     }
+    planExcerpt(d, x);
     if (m_options.photosInList && !d.photos.isEmpty())
         thumbnails(d, x);
     m_y += mm(1.5);
     addRule();
+}
+
+// The part of the defect's sheet around its markers, planned from the
+// stored plan size; the picture is decoded only when its page is painted.
+void KalPrintLayout::planExcerpt(const KalPrintDefect &d, qreal x)
+{
+    const auto sheet = m_data.sheets.constFind(d.planInfoId);
+    if (sheet == m_data.sheets.constEnd() || sheet->planId < 0)
+        return;
+    const QRect clip = KalPrintData::excerpt(sheet->size, d.markerBounds);
+    if (clip.isEmpty())
+        return;
+    const qreal side = qMin(mm(excerptMm), m_width - x);
+    const QSizeF shown = QSizeF(clip.size()).scaled(QSizeF(side, side), Qt::KeepAspectRatio);
+    m_y += mm(1);
+    need(shown.height());
+    KalPrintItem item;
+    item.kind = KalPrintItem::Picture;
+    item.source = KalPrintItem::PlanPicture;
+    item.id = sheet->planId;
+    item.storedSize = sheet->size;
+    item.clip = clip;
+    item.planInfoId = sheet->planInfoId;
+    item.defectId = d.id;
+    item.rect = QRectF(QPointF(x, m_y), shown);
+    m_document.pages.last().items << item;
+    m_y += shown.height() + mm(1);
 }
 
 // Thumbnails in `pos` order, in rows from `x` to the right edge.

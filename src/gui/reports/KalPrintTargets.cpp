@@ -43,13 +43,13 @@ void KalPrintTargets::preparePrinter(QPrinter *printer) const
     // breaks pages exactly as the file will.
     printer->setResolution(PdfResolution);
     printer->setFullPage(false);
-    KalPrintDefects(m_db, m_ids, m_options).setupPage(printer);
+    KalPrintDefects(m_db, m_ids, m_options).setupPage(printer, KalPrintDefects::Paper::Device);
 }
 
 bool KalPrintTargets::printOn(QPrinter *printer)
 {
     KalPrintDefects document(m_db, m_ids, m_options);
-    document.setupPage(printer);
+    document.setupPage(printer, KalPrintDefects::Paper::Device);
     QString error;
     const bool painted = document.paint(printer, &error);
     if (document.wasCanceled())

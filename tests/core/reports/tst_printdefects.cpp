@@ -14,11 +14,13 @@
 
 #include <QDir>
 #include <QFile>
+#include <QPdfWriter>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
 Q_DECLARE_METATYPE(KalPrintOptions::Layout)
+Q_DECLARE_METATYPE(KalPrintDefects::Paper)
 
 namespace {
 
@@ -137,6 +139,33 @@ private:
         for (int i = 1; i <= count; ++i)
             ids << m_fx.addDefect({{"number", QString::number(i)}, {"description", description}});
         return ids;
+    }
+
+    // A sheet with a white plan of `size` pixels.
+    qint64 addSheet(const QSize &size)
+    {
+        QImage white(size, QImage::Format_RGB32);
+        white.fill(Qt::white);
+        KalPictureStore plans(db(), KalPictureStore::Kind::Plan);
+        QString error;
+        const qint64 plan = plans.insertFromData(KalTestImages::jpeg(white), &error);
+        return plan > 0 ? m_fx.insert("plan_info", {{"plan_name", "EG"}, {"plan_id", plan}, {"pos", 1}}) : -1;
+    }
+
+    void addMarker(qint64 defect, qint64 sheet, const QPointF &at, const QString &fill)
+    {
+        QVERIFY(m_fx.insert("marker", {{"type", 1},
+                                       {"pos_x", at.x()},
+                                       {"pos_y", at.y()},
+                                       {"scale_factor", 0.2},
+                                       {"rotation_angle", 0},
+                                       {"color1", fill},
+                                       {"color2", "#000000"},
+                                       {"linewidth", 2},
+                                       {"transform_point_x", 0},
+                                       {"transform_point_y", 0},
+                                       {"plan_info_id", sheet},
+                                       {"defect_id", defect}}) > 0);
     }
 
     void setFrame(const QString &column, const QString &text)
@@ -442,6 +471,145 @@ private slots:
         QVERIFY(text.contains("Index: B"));
         QVERIFY(text.contains("SICHTBAR"));
         QVERIFY(!text.contains("VERSTECKT"));
+    }
+
+    // A defect on a plan shows the part of its sheet around its marker in
+    // its block, with its own marker only; nothing without a marker there,
+    // nothing in the compact list.
+    void planExcerpts_data()
+    {
+        QTest::addColumn<KalPrintOptions::Layout>("layout");
+        QTest::addColumn<bool>("onItsSheet");
+        QTest::addColumn<bool>("excerpt");
+        QTest::newRow("detailed") << KalPrintOptions::Detailed << true << true;
+        QTest::newRow("marker on another sheet") << KalPrintOptions::Detailed << false << false;
+        QTest::newRow("compact") << KalPrintOptions::Compact << true << false;
+    }
+    void planExcerpts()
+    {
+        QFETCH(KalPrintOptions::Layout, layout);
+        QFETCH(bool, onItsSheet);
+        QFETCH(bool, excerpt);
+        const qint64 sheet = addSheet(QSize(2000, 1400));
+        const qint64 shown = m_fx.addDefect({{"number", "1"}, {"plan_info_id", sheet}});
+        const qint64 other = m_fx.addDefect({{"number", "2"}, {"plan_info_id", sheet}});
+        // Magenta for the printed defect, cyan for its neighbour close by.
+        addMarker(shown, onItsSheet ? sheet : sheet + 1, QPointF(1000, 700), "#ff00ff");
+        addMarker(other, sheet, QPointF(1100, 700), "#00ffff");
+        KalPrintOptions options;
+        options.layout = layout;
+        const QString pdf = print({shown}, options);
+        const QVector<PdfImage> found = images(pdf);
+        QCOMPARE(found.size(), excerpt ? 1 : 0);
+        if (!excerpt)
+            return;
+        // A fifth of the plan's shorter side, never enlarged.
+        QCOMPARE(found.first().width, 280);
+        QVERIFY2(found.first().ppi <= 220, qPrintable(QString::number(found.first().ppi)));
+        const QString png = m_dir.filePath("excerpt");
+        run("pdftoppm", {"-r", "50", "-f", "1", "-l", "1", "-singlefile", "-png", pdf, png});
+        const QImage page(png + ".png");
+        QVERIFY(!page.isNull());
+        int magenta = 0;
+        int cyan = 0;
+        for (int y = 0; y < page.height(); ++y)
+            for (int x = 0; x < page.width(); ++x) {
+                const QColor c = page.pixelColor(x, y);
+                magenta += c.red() > 200 && c.blue() > 200 && c.green() < 80;
+                cyan += c.green() > 200 && c.blue() > 200 && c.red() < 80;
+            }
+        QVERIFY(magenta > 0);
+        QCOMPARE(cyan, 0);
+    }
+
+    // A list that goes back and forth between two sheets decodes each once,
+    // also when the decoder's step does not divide the plan's size evenly.
+    void oneDecodePerSheet()
+    {
+        const qint64 sheets[2] = {addSheet(QSize(4001, 2801)), addSheet(QSize(4001, 2801))};
+        QVector<qint64> ids;
+        for (int i = 0; i < 6; ++i) {
+            ids << m_fx.addDefect({{"number", QString::number(i + 1)}, {"plan_info_id", sheets[i % 2]}});
+            addMarker(ids.last(), sheets[i % 2], QPointF(600 + 500 * i, 1000), "#ff00ff");
+        }
+        KalPrintOptions options;
+        options.layout = KalPrintOptions::Detailed;
+        KalPrintDefects job(db(), ids, options);
+        QString error;
+        QVERIFY2(job.writePdf(m_dir.filePath("sheets.pdf"), &error), qPrintable(error));
+        QCOMPARE(images(m_dir.filePath("sheets.pdf")).size(), 6);
+        QCOMPARE(job.sheetDecodeCount(), 2);
+    }
+
+    // A printer's paper and orientation are kept; our PDF files are A4.
+    void paper_data()
+    {
+        QTest::addColumn<KalPrintDefects::Paper>("paper");
+        QTest::addColumn<QString>("expected");
+        QTest::newRow("device") << KalPrintDefects::Paper::Device << "792 x 612 pts \\(letter\\)";
+        QTest::newRow("A4") << KalPrintDefects::Paper::A4 << "595 x 842 pts \\(A4\\)";
+    }
+    void paper()
+    {
+        QFETCH(KalPrintDefects::Paper, paper);
+        QFETCH(QString, expected);
+        const QString path = m_dir.filePath("paper.pdf");
+        {
+            QPdfWriter writer(path);
+            writer.setPageSize(QPageSize(QPageSize::Letter));
+            writer.setPageOrientation(QPageLayout::Landscape);
+            KalPrintDefects job(db(), manyDefects(3), KalPrintOptions());
+            job.setupPage(&writer, paper);
+            QString error;
+            QVERIFY2(job.paint(&writer, &error), qPrintable(error));
+        }
+        QVERIFY(run("pdfinfo", {path}).contains(QRegularExpression("Page size:\\s+" + expected)));
+        QVERIFY(pages(path).join("").contains(QRegularExpression("\\n\\s*3\\s+Riss im Putz")));
+    }
+
+    // Left, centre and right texts of the header or the footer share the
+    // width: every word once and whole, and on every line the left text's
+    // words before the centre's before the right's; short ones on one line.
+    void longFrameTexts_data()
+    {
+        QTest::addColumn<QStringList>("columns");
+        QTest::addColumn<QStringList>("texts");
+        auto words = [](const QString &group) {
+            QStringList text;
+            for (int w = 10; w < 40; ++w)
+                text << group + QString::number(w);
+            return text.join(' ');
+        };
+        const QStringList three{words("Links"), words("Mitte"), words("Rechts")};
+        const QStringList footer{"footer_left", "footer_center", "footer_right"};
+        QTest::newRow("header") << QStringList{"headline_left", "headline_center", "headline_right"} << three;
+        QTest::newRow("footer") << footer << three;
+        QTest::newRow("footer without centre")
+            << QStringList{"footer_left", "footer_right"} << QStringList{words("Links"), words("Rechts")};
+        QTest::newRow("short") << footer << QStringList{"Quellor", "Pellwick", "www.quellor.de"};
+    }
+    void longFrameTexts()
+    {
+        QFETCH(QStringList, columns);
+        QFETCH(QStringList, texts);
+        QHash<QString, int> column;
+        for (int i = 0; i < columns.size(); ++i) {
+            setFrame(columns.at(i), texts.at(i));
+            for (const QString &word : texts.at(i).split(' '))
+                column.insert(word, i);
+        }
+        const QString page = pages(print(manyDefects(2), KalPrintOptions())).value(0);
+        for (auto it = column.constBegin(); it != column.constEnd(); ++it)
+            QVERIFY2(page.count(QRegularExpression("(^|\\s)" + QRegularExpression::escape(it.key()) + "(\\s|$)")) == 1,
+                     qPrintable(page));
+        for (const QString &line : page.split('\n')) {
+            int last = -1;
+            for (const QString &word : line.simplified().split(' ')) {
+                const int at = column.value(word, last);
+                QVERIFY2(at >= last, qPrintable(line));
+                last = at;
+            }
+        }
     }
 
     // A full disk or a folder without write access leaves the old PDF as it was.
