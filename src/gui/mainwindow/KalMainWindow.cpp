@@ -5,6 +5,7 @@
 #include "core/project/KalRecentFiles.h"
 #include "core/project/KalSqlTableModel.h"
 #include "gui/mainwindow/KalDefectTableLayout.h"
+#include "gui/mainwindow/KalUpdateTestCommand.h"
 #include "gui/plans/KalPlanPanel.h"
 #include "gui/widgets/KalItemDelegate.h"
 #include "gui/widgets/KalTableView.h"
@@ -143,7 +144,7 @@ const QVector<KalMainWindow::ActionSpec> &KalMainWindow::actionTable()
          QT_TR_NOOP("Wie übernehme ich Mängel und Firmen\nvon einem Mobilgerät?"), nullptr},
         {"actionProgramInfoDialog", "icon-info.ico", {}, &M::slotProgramInfoDialog, A::Always,
          QT_TR_NOOP("Info über Pellwick"), nullptr},
-        {"actionUpdateTest", "icon-update.ico", {}, nullptr, A::NotBuilt,
+        {"actionUpdateTest", "icon-update.ico", {}, nullptr, A::Always,
          QT_TR_NOOP("Auf Updates prüfen"), nullptr},
     };
     // clang-format on
@@ -218,6 +219,7 @@ KalMainWindow::KalMainWindow(QWidget *parent)
     connect(m_recentFiles, &KalRecentFiles::changed, this, &KalMainWindow::rebuildRecentMenu);
 
     createActions();
+    new KalUpdateTestCommand(action("actionUpdateTest"), this);
     createMenus();
     createCentralWidget();
 
