@@ -135,5 +135,23 @@ bool KalCompanies::releaseDefects(KalModelHost &host, const QSqlRecord &company,
     }
     if (query.numRowsAffected() > 0)
         changedTables->append(QStringLiteral("defect"));
+
+    // A company from the site journal leaves a note that it was deleted
+    // here, or the next import would bring it back unasked.
+    const QVariant siteJournalId = company.value(QStringLiteral("site_journal_id"));
+    if (siteJournalId.isNull() || siteJournalId.toLongLong() < 0)
+        return true;
+    const qint64 id = host.nextId(QStringLiteral("deleted_site_journal_company"));
+    if (id <= 0)
+        return false;
+    query.prepare(QStringLiteral("INSERT INTO deleted_site_journal_company (id, site_journal_id, restore_on_import) "
+                                 "VALUES (:id, :site_journal_id, 1)"));
+    query.bindValue(QStringLiteral(":id"), id);
+    query.bindValue(QStringLiteral(":site_journal_id"), siteJournalId);
+    if (!query.exec()) {
+        qCDebug(kalSqlLog, "SQL-Error: %s", qPrintable(query.lastError().text()));
+        return false;
+    }
+    changedTables->append(QStringLiteral("deleted_site_journal_company"));
     return true;
 }

@@ -40,7 +40,8 @@ public:
     int defectCount(const QList<qint64> &companyIds) const;
 
     // The removal rule of the company model: the defects of a removed company
-    // are left without one (NULL, as a new defect starts).
+    // are left without one (NULL, as a new defect starts); a company from the
+    // site journal leaves its tombstone.
     static bool releaseDefects(KalModelHost &host, const QSqlRecord &company, QStringList *changedTables);
 
     // The text columns of `company`, in schema order.

@@ -19,6 +19,8 @@ public:
     // operation polls wasCanceled() between steps.
     virtual void beginCancelable(const QString &text) { begin(text); }
     virtual bool wasCanceled() const { return false; }
+    // Replaces the text of the running operation (its current phase).
+    virtual void setText(const QString &text) { Q_UNUSED(text) }
 
     static KalProgress *instance();
     static void install(KalProgress *progress); // takes ownership

@@ -1,0 +1,693 @@
+#include "KalSiteJournalImportRun.h"
+
+#include "core/project/KalProgress.h"
+#include "core/project/KalProject.h"
+#include "core/project/KalProjectModels.h"
+#include "core/project/KalSqlError.h"
+#include "core/project/KalSqlTableModel.h"
+
+#include <QSqlError>
+#include <QSqlQuery>
+#include <QSqlRecord>
+#include <algorithm>
+
+namespace {
+
+using Mode = KalSiteJournalDataImport::Mode;
+
+// Values as the project stores them, for telling whether anything changed:
+// NULL and empty text are the same, and so are the "no company" forms.
+QString comparable(const QString &column, const QVariant &value)
+{
+    if (value.isNull())
+        return QString();
+    if (column == QLatin1String("company_id") && value.toLongLong() <= 0)
+        return QString();
+    return value.toString();
+}
+
+bool differs(const QVariantMap &journal, const QVariantMap &project)
+{
+    for (auto it = journal.constBegin(); it != journal.constEnd(); ++it) {
+        if (comparable(it.key(), it.value()) != comparable(it.key(), project.value(it.key())))
+            return true;
+    }
+    return false;
+}
+
+bool sameRecord(const KalCompanyRecord &a, const KalCompanyRecord &b)
+{
+    for (int field = 0; field < KalCompanyRecord::FieldCount; ++field) {
+        if (a.value(field) != b.value(field))
+            return false;
+    }
+    return true;
+}
+
+const char *const kModelTables[] = {"company",
+                                    "defect",
+                                    "photo_info",
+                                    "image",
+                                    "imported_report",
+                                    "imported_closed_report_company",
+                                    "deleted_site_journal_defect",
+                                    "deleted_site_journal_photo_info",
+                                    "deleted_site_journal_company"};
+
+} // namespace
+
+KalSiteJournalImportRun::KalSiteJournalImportRun(KalProject *project, KalProgress *progress,
+                                                 KalDataImportConflictResolver *resolver,
+                                                 KalDataImportQuestions *questions, KalDataImportResult *result)
+    : m_project(project)
+    , m_progress(progress)
+    , m_resolver(resolver)
+    , m_questions(questions)
+    , m_result(result)
+    , m_writer(project)
+{
+}
+
+bool KalSiteJournalImportRun::updates() const
+{
+    return m_settings.mode == Mode::Update || m_settings.mode == Mode::App;
+}
+
+bool KalSiteJournalImportRun::newOnly() const
+{
+    return m_settings.mode == Mode::NewOnly;
+}
+
+bool KalSiteJournalImportRun::canceled()
+{
+    if (!m_canceled && m_progress && m_progress->wasCanceled())
+        m_canceled = true;
+    return m_canceled;
+}
+
+bool KalSiteJournalImportRun::fail(const QString &what)
+{
+    if (!m_canceled) {
+        m_result->outcome = KalDataImportResult::Outcome::Failed;
+        m_result->errorText = tr("Der Datenimport aus dem Bautagebuch ist fehlgeschlagen; das Projekt bleibt, wie "
+                                 "es war.\n%1")
+                                  .arg(m_writer.lastError());
+        kalReportSqlError(QSqlError(m_writer.lastError(), QString(), QSqlError::StatementError),
+                          QStringLiteral("KalSiteJournalDataImport"), what, __LINE__);
+    }
+    return false;
+}
+
+bool KalSiteJournalImportRun::execute(const KalSiteJournalFile &file, const Settings &settings)
+{
+    m_file = &file;
+    m_settings = settings;
+    const KalDataImportResult before = *m_result;
+    const bool wasModified = m_project->isModified();
+    if (!m_project->beginTransaction()) {
+        m_result->outcome = KalDataImportResult::Outcome::Failed;
+        m_result->errorText = tr("Der Datenimport konnte nicht begonnen werden.");
+        return false;
+    }
+    bool ok = loadProject() && importCompanies() && importReports() && (!updates() || deletedInJournal()) &&
+              closedReportCompanies();
+    for (auto it = m_touchedDefects.constBegin(); ok && it != m_touchedDefects.constEnd(); ++it)
+        ok = m_writer.setImageCount(*it) || fail(QStringLiteral("setImageCount"));
+    ok = ok && writeLink() && (m_writer.flushIds() || fail(QStringLiteral("flushIds"))) && !canceled();
+    if (ok && !m_project->commitTransaction()) {
+        ok = false;
+        m_result->outcome = KalDataImportResult::Outcome::Failed;
+        m_result->errorText = tr("Die importierten Daten konnten nicht gespeichert werden.");
+    }
+    if (!ok) {
+        m_project->rollbackTransaction();
+        m_project->setModified(wasModified);
+        const KalDataImportResult::Outcome outcome =
+            m_canceled ? KalDataImportResult::Outcome::Canceled : m_result->outcome;
+        const QString error = m_result->errorText;
+        *m_result = before;
+        m_result->outcome = outcome;
+        m_result->errorText = error;
+        return false;
+    }
+    m_result->files << file.path();
+    if (m_writer.writes() > 0) {
+        m_project->markModified();
+        if (KalProjectModels *models = m_project->models()) {
+            for (const char *table : kModelTables) {
+                if (KalSqlTableModel *model = models->model(QLatin1String(table)))
+                    model->select();
+            }
+        }
+    }
+    return true;
+}
+
+bool KalSiteJournalImportRun::loadProject()
+{
+    QSqlQuery query(m_project->database());
+    query.setForwardOnly(true);
+    const auto run = [&](const char *sql) { return query.exec(QLatin1String(sql)); };
+    const auto failed = [&](const char *what) {
+        kalReportSqlError(query.lastError(), QStringLiteral("KalSiteJournalDataImport"), QLatin1String(what), __LINE__);
+        m_result->outcome = KalDataImportResult::Outcome::Failed;
+        m_result->errorText = query.lastError().text();
+        return false;
+    };
+    if (!run("SELECT key, value FROM meta"))
+        return failed("loadProject");
+    while (query.next())
+        m_meta.insert(query.value(0).toString(), query.value(1).toString());
+    m_minReportId = m_settings.minReportId >= 0 ? m_settings.minReportId
+                                                : m_meta.value(QStringLiteral("siteJournalMinReportId")).toLongLong();
+    if (m_settings.mode == Mode::App)
+        m_minReportId = 0;
+
+    if (!run("SELECT id, type, firstname, lastname, company, street, plz, city, telephone, telefax, mobile, email, "
+             "modified, site_journal_id, delete_on_import FROM company WHERE site_journal_id >= 0"))
+        return failed("loadProject");
+    while (query.next()) {
+        ProjectCompany company;
+        company.id = query.value(0).toLongLong();
+        for (int field = 0; field < KalCompanyRecord::FieldCount; ++field)
+            company.record.setValue(field, query.value(1 + field).toString());
+        company.modified = query.value(12).toInt() == 1;
+        company.deleteOnImport = query.value(14).isNull() ? 1 : query.value(14).toInt();
+        m_companies.insert(query.value(13).toLongLong(), company);
+    }
+    const struct
+    {
+        const char *sql;
+        QHash<qint64, Tomb> *into;
+    } tombs[] = {
+        {"SELECT id, site_journal_id, restore_on_import, -1 FROM deleted_site_journal_company", &m_companyTombs},
+        {"SELECT id, site_journal_id, restore_on_import, -1 FROM deleted_site_journal_defect", &m_defectTombs},
+        {"SELECT id, site_journal_id, restore_on_import, defect_id FROM deleted_site_journal_photo_info",
+         &m_photoTombs},
+    };
+    for (const auto &tomb : tombs) {
+        if (!run(tomb.sql))
+            return failed("loadProject");
+        while (query.next()) {
+            const qint64 siteJournalId = query.value(1).toLongLong();
+            if (siteJournalId >= 0 && !tomb.into->contains(siteJournalId))
+                tomb.into->insert(siteJournalId,
+                                  {query.value(0).toLongLong(), query.value(2).isNull() ? 1 : query.value(2).toInt(),
+                                   query.value(3).toLongLong()});
+        }
+    }
+    if (!run("SELECT id, site_journal_id, delete_on_import, exported_by_app, number, locked, user_id, "
+             "creation_date, import_version FROM imported_report WHERE site_journal_id >= 0"))
+        return failed("loadProject");
+    while (query.next()) {
+        ProjectReport report;
+        report.id = query.value(0).toLongLong();
+        report.deleteOnImport = query.value(2).isNull() ? 1 : query.value(2).toInt();
+        report.fromApp = query.value(3).toInt() == 1;
+        report.number = query.value(4).toString();
+        report.locked = query.value(5).toInt();
+        report.userId = query.value(6).toString();
+        report.creationDate = query.value(7).toString();
+        report.importVersion = query.value(8).toString();
+        m_reports.insert(query.value(1).toLongLong(), report);
+    }
+    if (!run("SELECT id, imported_report_id, site_journal_data_modified, delete_on_import, number, description, "
+             "company_id, user_id, creation_date, roomname, roombook_number, correction_date, site_journal_id "
+             "FROM defect WHERE site_journal_id >= 0"))
+        return failed("loadProject");
+    while (query.next()) {
+        ProjectDefect defect;
+        defect.id = query.value(0).toLongLong();
+        defect.reportId = query.value(1).toLongLong();
+        defect.modified = query.value(2).toInt() == 1;
+        defect.deleteOnImport = query.value(3).isNull() ? 1 : query.value(3).toInt();
+        const QSqlRecord record = query.record();
+        for (int i = 4; i < record.count(); ++i)
+            defect.values.insert(record.fieldName(i), query.value(i));
+        defect.values.insert(QStringLiteral("imported_report_id"), defect.reportId);
+        m_defects.insert(query.value(12).toLongLong(), defect);
+    }
+    if (!run("SELECT id, defect_id, image_id, site_journal_data_modified, delete_on_import, caption, date, "
+             "site_journal_id FROM photo_info WHERE site_journal_id >= 0"))
+        return failed("loadProject");
+    while (query.next()) {
+        ProjectPhoto photo;
+        photo.id = query.value(0).toLongLong();
+        photo.defectId = query.value(1).toLongLong();
+        photo.imageId = query.value(2).toLongLong();
+        photo.modified = query.value(3).toInt() == 1;
+        photo.deleteOnImport = query.value(4).isNull() ? 1 : query.value(4).toInt();
+        photo.caption = query.value(5).toString();
+        photo.date = KalSiteJournalFile::parseDate(query.value(6));
+        m_photos.insert(query.value(7).toLongLong(), photo);
+    }
+    if (!run("SELECT site_journal_id, pellwick_id FROM imported_closed_report_company"))
+        return failed("loadProject");
+    while (query.next())
+        m_closedPairs.insert(query.value(0).toString() + QLatin1Char(':') + query.value(1).toString());
+
+    for (const KalSiteJournalFile::Defect &defect : m_file->defects())
+        m_journalDefectIds.insert(defect.id);
+    const QVector<KalSiteJournalFile::Photo> &photos = m_file->photos();
+    for (int i = 0; i < photos.size(); ++i) {
+        m_photosOf[photos.at(i).relationId] << i;
+        m_journalPhotoIds.insert(photos.at(i).id);
+    }
+    return true;
+}
+
+QVariant KalSiteJournalImportRun::projectCompanyFor(qint64 journalCompanyId) const
+{
+    const auto it = m_companyMap.constFind(journalCompanyId);
+    return it == m_companyMap.constEnd() ? QVariant() : QVariant(it.value());
+}
+
+bool KalSiteJournalImportRun::importCompanies()
+{
+    if (m_progress)
+        m_progress->setText(tr("Firmendaten werden importiert ..."));
+    for (const KalSiteJournalFile::Company &company : m_file->companies()) {
+        if (canceled())
+            return false;
+        const auto known = m_companies.constFind(company.id);
+        if (company.category == QLatin1String("-2")) {
+            if (known == m_companies.constEnd())
+                continue;
+            m_companyMap.insert(company.id, known->id);
+            if (!updates() || known->deleteOnImport != 1)
+                continue;
+            if (m_questions->askCompany(KalDataImportQuestions::DeleteCompany, company.record)) {
+                if (!m_writer.deleteCompany(known->id))
+                    return fail(QStringLiteral("deleteCompany"));
+                m_companyMap.remove(company.id);
+                ++m_result->companies.deleted;
+            } else if (!m_writer.setFlag(QStringLiteral("company"), QStringLiteral("delete_on_import"), known->id, 0)) {
+                return fail(QStringLiteral("setFlag"));
+            }
+            continue;
+        }
+        if (company.category != QLatin1String("2"))
+            continue;
+        if (known != m_companies.constEnd()) {
+            m_companyMap.insert(company.id, known->id);
+            if (newOnly() || sameRecord(known->record, company.record))
+                continue;
+            if (known->modified) {
+                m_result->notUpdatedCompanies << known->record.displayText();
+                continue;
+            }
+            if (!m_writer.updateCompany(known->id, company.record))
+                return fail(QStringLiteral("updateCompany"));
+            ++m_result->companies.updated;
+            continue;
+        }
+        const auto tomb = m_companyTombs.constFind(company.id);
+        if (tomb != m_companyTombs.constEnd()) {
+            if (!updates() || tomb->restore != 1)
+                continue;
+            if (!m_questions->askCompany(KalDataImportQuestions::RestoreCompany, company.record)) {
+                if (!m_writer.setFlag(QStringLiteral("deleted_site_journal_company"),
+                                      QStringLiteral("restore_on_import"), tomb->id, 0))
+                    return fail(QStringLiteral("setFlag"));
+                continue;
+            }
+            if (!m_writer.deleteRow(QStringLiteral("deleted_site_journal_company"), tomb->id))
+                return fail(QStringLiteral("deleteRow"));
+            ++m_result->companies.restored;
+        } else {
+            ++m_result->companies.added;
+        }
+        const qint64 id = m_writer.insertCompany(company.id, company.record);
+        if (id < 0)
+            return fail(QStringLiteral("insertCompany"));
+        m_companyMap.insert(company.id, id);
+    }
+    return true;
+}
+
+bool KalSiteJournalImportRun::inScope(const KalSiteJournalFile::Report &report) const
+{
+    return report.id >= m_minReportId;
+}
+
+bool KalSiteJournalImportRun::importReports()
+{
+    const bool appFile = m_settings.mode == Mode::App;
+    QHash<qint64, QList<int>> defectsOf;
+    const QVector<KalSiteJournalFile::Defect> &defects = m_file->defects();
+    for (int i = 0; i < defects.size(); ++i)
+        defectsOf[defects.at(i).entryId] << i;
+    QList<const KalSiteJournalFile::Report *> reports;
+    for (const KalSiteJournalFile::Report &report : m_file->reports()) {
+        const auto known = m_reports.constFind(report.id);
+        // The app and the journal share one id space; neither touches the
+        // reports the other brought.
+        if (!inScope(report) || (known != m_reports.constEnd() && known->fromApp != appFile))
+            continue;
+        reports << &report;
+        m_total += defectsOf.value(report.id).size();
+    }
+    if (m_progress)
+        m_progress->setText(tr("Mängel werden importiert ..."));
+    for (const KalSiteJournalFile::Report *report : qAsConst(reports)) {
+        const auto known = m_reports.constFind(report->id);
+        const bool reportKnown = known != m_reports.constEnd();
+        qint64 rowId = reportKnown ? known->id : -1;
+        if (!reportKnown) {
+            rowId = m_writer.insertReport(*report);
+            if (rowId < 0)
+                return fail(QStringLiteral("insertReport"));
+            ++m_result->reports;
+        } else if (!newOnly() && (known->number != report->number || known->locked != report->locked ||
+                                  known->userId != report->userId || known->creationDate != report->creationDate ||
+                                  known->importVersion != report->importVersion)) {
+            if (!m_writer.updateReport(rowId, *report))
+                return fail(QStringLiteral("updateReport"));
+        }
+        m_presentReports.insert(rowId);
+        QList<qint64> orphans;
+        if (reportKnown) {
+            for (const ProjectDefect &defect : qAsConst(m_defects)) {
+                if (defect.reportId == rowId &&
+                    !m_journalDefectIds.contains(defect.values.value(QStringLiteral("site_journal_id")).toLongLong()))
+                    orphans << defect.id;
+            }
+        }
+        for (int index : defectsOf.value(report->id)) {
+            if (!importDefect(defects.at(index), *report, rowId, reportKnown, &orphans))
+                return false;
+        }
+    }
+    return true;
+}
+
+QString KalSiteJournalImportRun::defectLine(const QVariantMap &values) const
+{
+    QString description = values.value(QStringLiteral("description")).toString().simplified();
+    if (description.size() > 60)
+        description = description.left(57) + QStringLiteral("...");
+    return tr("Mangel %1: %2").arg(values.value(QStringLiteral("number")).toString(), description);
+}
+
+bool KalSiteJournalImportRun::importDefect(const KalSiteJournalFile::Defect &defect,
+                                           const KalSiteJournalFile::Report &report, qint64 reportRowId,
+                                           bool reportKnown, QList<qint64> *orphans)
+{
+    if (canceled())
+        return false;
+    ++m_done;
+    if (m_progress) {
+        m_progress->setText(tr("Mängel werden importiert ...") + QLatin1Char('\n') +
+                            tr("Mangel %1 von %2").arg(m_done).arg(m_total));
+        m_progress->setProgress(m_done, m_total);
+    }
+    const QVariantMap values =
+        KalSiteJournalImportWriter::defectValues(defect, report, projectCompanyFor(defect.companyId), reportRowId);
+    const auto known = m_defects.constFind(defect.id);
+    if (known != m_defects.constEnd()) {
+        m_claimed.insert(known->id);
+        if (!newOnly() && differs(values, known->values)) {
+            if (known->modified) {
+                m_result->notUpdatedDefects << defectLine(known->values);
+            } else {
+                if (!m_writer.updateDefect(known->id, values))
+                    return fail(QStringLiteral("updateDefect"));
+                ++m_result->defects.updated;
+            }
+        }
+        return importPhotos(defect.id, known->id, false);
+    }
+    const auto tomb = m_defectTombs.constFind(defect.id);
+    if (tomb != m_defectTombs.constEnd()) {
+        if (!updates() || tomb->restore != 1)
+            return true;
+        if (!m_questions->askDefect(KalDataImportQuestions::RestoreDefect, defect.number)) {
+            return m_writer.setFlag(QStringLiteral("deleted_site_journal_defect"), QStringLiteral("restore_on_import"),
+                                    tomb->id, 0) ||
+                   fail(QStringLiteral("setFlag"));
+        }
+        if (!m_writer.deleteRow(QStringLiteral("deleted_site_journal_defect"), tomb->id))
+            return fail(QStringLiteral("deleteRow"));
+        const qint64 id = m_writer.insertDefect(values);
+        if (id < 0)
+            return fail(QStringLiteral("insertDefect"));
+        ++m_result->defects.restored;
+        m_claimed.insert(id);
+        return importPhotos(defect.id, id, true);
+    }
+    const qint64 target = reportKnown ? matchDefect(defect, report, orphans) : -1;
+    if (target > 0) {
+        m_claimed.insert(target);
+        ProjectDefect &project = *std::find_if(m_defects.begin(), m_defects.end(),
+                                               [target](const ProjectDefect &d) { return d.id == target; });
+        // A defect changed here keeps its values; it only learns its new journal id.
+        QVariantMap written = project.modified ? project.values : values;
+        written.insert(QStringLiteral("site_journal_id"), defect.id);
+        written.insert(QStringLiteral("imported_report_id"), reportRowId);
+        if (!m_writer.updateDefect(target, written))
+            return fail(QStringLiteral("updateDefect"));
+        ++m_result->defects.updated;
+        return importPhotos(defect.id, target, false);
+    }
+    const qint64 id = m_writer.insertDefect(values);
+    if (id < 0)
+        return fail(QStringLiteral("insertDefect"));
+    ++m_result->defects.added;
+    m_claimed.insert(id);
+    return importPhotos(defect.id, id, true);
+}
+
+qint64 KalSiteJournalImportRun::matchDefect(const KalSiteJournalFile::Defect &defect,
+                                            const KalSiteJournalFile::Report &report, QList<qint64> *orphans)
+{
+    QList<qint64> candidates;
+    QList<qint64> sameNumber;
+    for (qint64 id : qAsConst(*orphans)) {
+        if (m_claimed.contains(id))
+            continue;
+        candidates << id;
+        for (const ProjectDefect &project : qAsConst(m_defects)) {
+            if (project.id == id &&
+                project.values.value(QStringLiteral("number")).toString().trimmed() == defect.number.trimmed())
+                sameNumber << id;
+        }
+    }
+    qint64 chosen = -1;
+    if (sameNumber.size() == 1) {
+        chosen = sameNumber.first();
+    } else if (!candidates.isEmpty() && m_resolver) {
+        KalDataImportConflictResolver::JournalDefect shown;
+        shown.siteJournalId = defect.id;
+        shown.reportNumber = report.number;
+        shown.number = defect.number;
+        shown.description = defect.description;
+        shown.roomName = defect.roomName;
+        shown.roombookNumber = defect.roombookNumber;
+        for (const KalSiteJournalFile::Company &company : m_file->companies()) {
+            if (company.id == defect.companyId)
+                shown.company = company.record.displayText();
+        }
+        shown.correctionDate = defect.correctionDate;
+        shown.photoCount = m_photosOf.value(defect.id).size();
+        if (m_progress)
+            m_progress->yieldToMessage();
+        const qint64 answer = m_resolver->assign(shown, candidates);
+        chosen = candidates.contains(answer) ? answer : -1;
+    }
+    if (chosen > 0)
+        orphans->removeAll(chosen);
+    return chosen;
+}
+
+bool KalSiteJournalImportRun::importPhotos(qint64 journalDefectId, qint64 projectDefectId, bool defectIsNew)
+{
+    const QVector<KalSiteJournalFile::Photo> &photos = m_file->photos();
+    for (int index : m_photosOf.value(journalDefectId)) {
+        const KalSiteJournalFile::Photo &photo = photos.at(index);
+        const auto known = m_photos.constFind(photo.id);
+        if (!defectIsNew && known != m_photos.constEnd()) {
+            if (!newOnly() && !updatePhoto(photo, *known))
+                return false;
+            continue;
+        }
+        const auto tomb = m_photoTombs.constFind(photo.id);
+        if (!defectIsNew && tomb != m_photoTombs.constEnd()) {
+            if (!updates() || tomb->restore != 1)
+                continue;
+            if (!m_questions->askPhoto(KalDataImportQuestions::RestorePhoto, photo.caption, photo.date)) {
+                if (!m_writer.setFlag(QStringLiteral("deleted_site_journal_photo_info"),
+                                      QStringLiteral("restore_on_import"), tomb->id, 0))
+                    return fail(QStringLiteral("setFlag"));
+                continue;
+            }
+            if (!m_writer.deleteRow(QStringLiteral("deleted_site_journal_photo_info"), tomb->id))
+                return fail(QStringLiteral("deleteRow"));
+        }
+        bool imported = false;
+        if (!importPhoto(photo, projectDefectId, &imported))
+            return false;
+        if (imported && !defectIsNew && tomb != m_photoTombs.constEnd())
+            ++m_result->photos.restored;
+        else if (imported)
+            ++m_result->photos.added;
+        if (canceled())
+            return false;
+    }
+    m_touchedDefects.insert(projectDefectId);
+    return true;
+}
+
+bool KalSiteJournalImportRun::importPhoto(const KalSiteJournalFile::Photo &photo, qint64 projectDefectId,
+                                          bool *imported)
+{
+    KalSiteJournalFile::Picture picture;
+    QString reason;
+    qint64 id = 0;
+    if (photo.imageId < 0 || !m_file->readPicture(photo.imageId, &picture, &reason)) {
+        if (reason.isEmpty())
+            reason = KalSiteJournalFile::tr("Das Bild fehlt im Bautagebuch.");
+    } else {
+        id = m_writer.insertPhoto(projectDefectId, photo, picture, &reason);
+        if (id < 0)
+            return fail(QStringLiteral("insertPhoto"));
+    }
+    if (id == 0) {
+        const QString caption = photo.caption.trimmed().isEmpty() ? tr("Ohne Titel") : photo.caption;
+        const QString date =
+            photo.date.isValid() ? photo.date.toString(QStringLiteral("dd.MM.yyyy")) : tr("'Ohne Datum'");
+        m_result->skippedPhotos << tr("Foto \"%1\" vom %2: %3").arg(caption, date, reason);
+        return true;
+    }
+    *imported = true;
+    return true;
+}
+
+bool KalSiteJournalImportRun::updatePhoto(const KalSiteJournalFile::Photo &photo, const ProjectPhoto &known)
+{
+    const bool textChanged = photo.caption != known.caption || photo.date != known.date;
+    bool pictureChanged = false;
+    if (photo.modified) {
+        // Told from the byte count and thumbnail, never by decoding.
+        qint64 journalBytes = -1;
+        QByteArray journalThumbnail;
+        QSqlQuery query(m_project->database());
+        query.prepare(QStringLiteral("SELECT length(image), thumbnail FROM image WHERE id = :id"));
+        query.bindValue(QStringLiteral(":id"), known.imageId);
+        if (m_file->readPictureKey(photo.imageId, &journalBytes, &journalThumbnail) && query.exec() && query.next())
+            pictureChanged =
+                query.value(0).toLongLong() != journalBytes || query.value(1).toByteArray() != journalThumbnail;
+    }
+    if (!textChanged && !pictureChanged)
+        return true;
+    if (known.modified) {
+        ++m_result->notUpdatedPhotos;
+        return true;
+    }
+    if (textChanged && !m_writer.updatePhotoText(known.id, photo))
+        return fail(QStringLiteral("updatePhotoText"));
+    if (pictureChanged) {
+        KalSiteJournalFile::Picture picture;
+        QString reason;
+        if (m_file->readPicture(photo.imageId, &picture, &reason) &&
+            !m_writer.replacePicture(known.imageId, picture, &reason))
+            return fail(QStringLiteral("replacePicture"));
+        if (!reason.isEmpty())
+            m_result->skippedPhotos << tr("Foto \"%1\": %2").arg(photo.caption, reason);
+    }
+    ++m_result->photos.updated;
+    return true;
+}
+
+bool KalSiteJournalImportRun::deletedInJournal()
+{
+    const bool appFile = m_settings.mode == Mode::App;
+    QSet<qint64> knownFileReports;
+    for (const KalSiteJournalFile::Report &report : m_file->reports())
+        knownFileReports.insert(report.id);
+    QSet<qint64> deletedDefects;
+    // An app export carries only what it exports: a report missing from it
+    // was not deleted.
+    for (auto it = m_reports.constBegin(); !appFile && it != m_reports.constEnd(); ++it) {
+        if (it->fromApp || it.key() < m_minReportId || knownFileReports.contains(it.key()) || it->deleteOnImport != 1)
+            continue;
+        if (!m_questions->askReport(it->number)) {
+            if (!m_writer.setFlag(QStringLiteral("imported_report"), QStringLiteral("delete_on_import"), it->id, 0))
+                return fail(QStringLiteral("setFlag"));
+            continue;
+        }
+        for (const ProjectDefect &defect : qAsConst(m_defects)) {
+            if (defect.reportId != it->id)
+                continue;
+            if (!m_writer.deleteDefect(defect.id))
+                return fail(QStringLiteral("deleteDefect"));
+            deletedDefects.insert(defect.id);
+            ++m_result->defects.deleted;
+        }
+        if (!m_writer.deleteReport(it->id))
+            return fail(QStringLiteral("deleteReport"));
+    }
+    for (const ProjectDefect &defect : qAsConst(m_defects)) {
+        if (!m_presentReports.contains(defect.reportId) || m_claimed.contains(defect.id) || defect.deleteOnImport != 1)
+            continue;
+        if (!m_questions->askDefect(KalDataImportQuestions::DeleteDefect,
+                                    defect.values.value(QStringLiteral("number")).toString())) {
+            if (!m_writer.setFlag(QStringLiteral("defect"), QStringLiteral("delete_on_import"), defect.id, 0))
+                return fail(QStringLiteral("setFlag"));
+            continue;
+        }
+        if (!m_writer.deleteDefect(defect.id))
+            return fail(QStringLiteral("deleteDefect"));
+        deletedDefects.insert(defect.id);
+        ++m_result->defects.deleted;
+    }
+    for (auto it = m_photos.constBegin(); it != m_photos.constEnd(); ++it) {
+        if (m_journalPhotoIds.contains(it.key()) || !m_claimed.contains(it->defectId) ||
+            deletedDefects.contains(it->defectId) || it->deleteOnImport != 1)
+            continue;
+        if (!m_questions->askPhoto(KalDataImportQuestions::DeletePhoto, it->caption, it->date)) {
+            if (!m_writer.setFlag(QStringLiteral("photo_info"), QStringLiteral("delete_on_import"), it->id, 0))
+                return fail(QStringLiteral("setFlag"));
+            continue;
+        }
+        if (!m_writer.deletePhoto(it->id))
+            return fail(QStringLiteral("deletePhoto"));
+        m_touchedDefects.insert(it->defectId);
+        ++m_result->photos.deleted;
+    }
+    return !canceled();
+}
+
+bool KalSiteJournalImportRun::closedReportCompanies()
+{
+    for (qint64 journalId : m_file->closedReportCompanies()) {
+        const auto it = m_companyMap.constFind(journalId);
+        if (it == m_companyMap.constEnd())
+            continue;
+        const QString key = QString::number(journalId) + QLatin1Char(':') + QString::number(it.value());
+        if (m_closedPairs.contains(key))
+            continue;
+        if (!m_writer.addClosedReportCompany(journalId, it.value()))
+            return fail(QStringLiteral("closedReportCompanies"));
+        m_closedPairs.insert(key);
+    }
+    return true;
+}
+
+bool KalSiteJournalImportRun::writeLink()
+{
+    QList<QPair<QString, QString>> values;
+    if (!m_settings.linkKey.isEmpty())
+        values << qMakePair(m_settings.linkKey, m_settings.linkValue);
+    if (m_settings.mode == Mode::Initial && m_settings.automaticImportMode >= 0)
+        values << qMakePair(QStringLiteral("automaticImportMode"), QString::number(m_settings.automaticImportMode));
+    if (m_settings.mode != Mode::App && m_settings.minReportId >= 0)
+        values << qMakePair(QStringLiteral("siteJournalMinReportId"), QString::number(m_settings.minReportId));
+    for (const auto &value : qAsConst(values)) {
+        const auto stored = m_meta.constFind(value.first);
+        if (stored != m_meta.constEnd() && stored.value() == value.second)
+            continue;
+        if (!m_writer.setMeta(value.first, value.second))
+            return fail(QStringLiteral("writeLink"));
+    }
+    return true;
+}
