@@ -141,6 +141,41 @@ does not exist.</translation>
     </message>
 </context>
 <context>
+    <name>KalCliImportJournal</name>
+    <message>
+        <source>Datenimport aus dem Bautagebuch</source>
+        <translation>Data import from the site journal</translation>
+    </message>
+    <message>
+        <source>Das Projekt ist mit dem Bautagebuch
+%1
+verknüpft. Soll es stattdessen mit
+%2
+verknüpft und daraus importiert werden?</source>
+        <translation>The project is linked to the site journal
+%1
+Should it be linked to
+%2
+instead and imported from it?</translation>
+    </message>
+    <message>
+        <source>Neu verknüpfen</source>
+        <translation>Link anew</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+ist die Projektdatei selbst und keine Bautagebuch-Datei.</source>
+        <translation>The file
+%1
+is the project file itself, not a site journal file.</translation>
+    </message>
+</context>
+<context>
     <name>KalCommandLine</name>
     <message>
         <source>

@@ -141,6 +141,41 @@ no existe.</translation>
     </message>
 </context>
 <context>
+    <name>KalCliImportJournal</name>
+    <message>
+        <source>Datenimport aus dem Bautagebuch</source>
+        <translation>Importación de datos del diario de obra</translation>
+    </message>
+    <message>
+        <source>Das Projekt ist mit dem Bautagebuch
+%1
+verknüpft. Soll es stattdessen mit
+%2
+verknüpft und daraus importiert werden?</source>
+        <translation>El proyecto está vinculado al diario de obra
+%1
+¿Desea vincularlo en su lugar a
+%2
+e importar desde él?</translation>
+    </message>
+    <message>
+        <source>Neu verknüpfen</source>
+        <translation>Volver a vincular</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+ist die Projektdatei selbst und keine Bautagebuch-Datei.</source>
+        <translation>El archivo
+%1
+es el propio archivo del proyecto y no un archivo de diario de obra.</translation>
+    </message>
+</context>
+<context>
     <name>KalCommandLine</name>
     <message>
         <source>
