@@ -4789,4 +4789,529 @@ Download page: %3</translation>
         <translation>Your Qt installation does not support SQLite. Please contact the software manufacturer.</translation>
     </message>
 </context>
+<context>
+    <name>KalDataImportQuestions</name>
+    <message>
+        <source>Die Firma
+
+Gewerk: %1
+Vorname: %2
+Nachname: %3
+Firma: %4
+Straße: %5
+PLZ: %6
+Stadt: %7
+Telefon: %8
+Fax: %9
+Mobil: %10
+E-Mail: %11
+
+wurde im Bautagebuch gelöscht.
+Soll diese Firma auch im Pellwick gelöscht werden?
+</source>
+        <translation>The company
+
+Trade: %1
+First name: %2
+Last name: %3
+Company: %4
+Street: %5
+Postcode: %6
+City: %7
+Telephone: %8
+Fax: %9
+Mobile: %10
+Email: %11
+
+was deleted in the site journal.
+Should this company be deleted in Pellwick as well?
+</translation>
+    </message>
+    <message>
+        <source>Firma im Pellwick löschen</source>
+        <translation>Delete company in Pellwick</translation>
+    </message>
+    <message>
+        <source>Alle weiteren gelöschten Firmen genauso behandeln</source>
+        <translation>Treat all further deleted companies the same way</translation>
+    </message>
+    <message>
+        <source>Der Bericht %1 wurde im Bautagebuch gelöscht.
+Sollen die Mängel dieses Berichts im Pellwick gelöscht werden?
+</source>
+        <translation>Report %1 was deleted in the site journal.
+Should the defects of this report be deleted in Pellwick?
+</translation>
+    </message>
+    <message>
+        <source>Mängel im Pellwick löschen</source>
+        <translation>Delete defects in Pellwick</translation>
+    </message>
+    <message>
+        <source>Alle weiteren im Bautagebuch gelöschten Berichte genauso behandeln</source>
+        <translation>Treat all further reports deleted in the site journal the same way</translation>
+    </message>
+    <message>
+        <source>Der Mangel %1 wurde im Bautagebuch gelöscht.
+Soll dieser Mangel im Pellwick ebenfalls gelöscht werden?
+</source>
+        <translation>Defect %1 was deleted in the site journal.
+Should this defect be deleted in Pellwick as well?
+</translation>
+    </message>
+    <message>
+        <source>Mangel im Pellwick löschen</source>
+        <translation>Delete defect in Pellwick</translation>
+    </message>
+    <message>
+        <source>Alle weiteren im Bautagebuch gelöschten Mängel genauso behandeln</source>
+        <translation>Treat all further defects deleted in the site journal the same way</translation>
+    </message>
+    <message>
+        <source>Das Foto &quot;%1&quot; vom %2 wurde im Bautagebuch aus dem Mangel entfernt.
+Soll dieses Foto im Pellwick ebenfalls entfernt werden?
+</source>
+        <translation>The photo &quot;%1&quot; of %2 was removed from the defect in the site journal.
+Should this photo be removed in Pellwick as well?
+</translation>
+    </message>
+    <message>
+        <source>Foto im Pellwick entfernen</source>
+        <translation>Remove photo in Pellwick</translation>
+    </message>
+    <message>
+        <source>Alle weiteren im Bautagebuch gelöschten Fotos genauso behandeln</source>
+        <translation>Treat all further photos deleted in the site journal the same way</translation>
+    </message>
+    <message>
+        <source>Die Firma
+
+Gewerk: %1
+Vorname: %2
+Nachname: %3
+Firma: %4
+Straße: %5
+PLZ: %6
+Stadt: %7
+Telefon: %8
+Fax: %9
+Mobil: %10
+E-Mail: %11
+
+wurde im Pellwick gelöscht.
+Soll diese Firma erneut importiert werden?
+</source>
+        <translation>The company
+
+Trade: %1
+First name: %2
+Last name: %3
+Company: %4
+Street: %5
+Postcode: %6
+City: %7
+Telephone: %8
+Fax: %9
+Mobile: %10
+Email: %11
+
+was deleted in Pellwick.
+Should this company be imported again?
+</translation>
+    </message>
+    <message>
+        <source>Firma erneut importieren</source>
+        <translation>Import company again</translation>
+    </message>
+    <message>
+        <source>Der Mangel %1 wurde im Pellwick gelöscht.
+Soll dieser Mangel erneut importiert werden?
+</source>
+        <translation>Defect %1 was deleted in Pellwick.
+Should this defect be imported again?
+</translation>
+    </message>
+    <message>
+        <source>Mangel erneut importieren</source>
+        <translation>Import defect again</translation>
+    </message>
+    <message>
+        <source>Alle weiteren gelöschten Mängel genauso behandeln</source>
+        <translation>Treat all further deleted defects the same way</translation>
+    </message>
+    <message>
+        <source>Das Foto &quot;%1&quot; vom %2 wurde im Pellwick gelöscht.
+Soll dieses Foto erneut importiert werden?
+</source>
+        <translation>The photo &quot;%1&quot; of %2 was deleted in Pellwick.
+Should this photo be imported again?
+</translation>
+    </message>
+    <message>
+        <source>Foto erneut importieren</source>
+        <translation>Import photo again</translation>
+    </message>
+    <message>
+        <source>Alle weiteren gelöschten Fotos genauso behandeln</source>
+        <translation>Treat all further deleted photos the same way</translation>
+    </message>
+    <message>
+        <source>Datenimport aus dem Bautagebuch</source>
+        <translation>Data import from the site journal</translation>
+    </message>
+    <message>
+        <source>Nein</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Ohne Titel</source>
+        <translation>Untitled</translation>
+    </message>
+    <message>
+        <source>&apos;Ohne Datum&apos;</source>
+        <translation>&apos;No date&apos;</translation>
+    </message>
+</context>
+<context>
+    <name>KalDataImportResult</name>
+    <message>
+        <source>Firma</source>
+        <translation>company</translation>
+    </message>
+    <message>
+        <source>Firmen</source>
+        <translation>companies</translation>
+    </message>
+    <message>
+        <source>Mangel</source>
+        <translation>defect</translation>
+    </message>
+    <message>
+        <source>Mängel</source>
+        <translation>defects</translation>
+    </message>
+    <message>
+        <source>Foto</source>
+        <translation>photo</translation>
+    </message>
+    <message>
+        <source>Fotos</source>
+        <translation>photos</translation>
+    </message>
+    <message>
+        <source>Die Daten wurden aktualisiert.</source>
+        <translation>The data has been updated.</translation>
+    </message>
+    <message>
+        <source>Es wurden %1 %2 und %3 %4 mit %5 %6 importiert.</source>
+        <translation>%1 %2 and %3 %4 with %5 %6 were imported.</translation>
+    </message>
+    <message>
+        <source>
+
+Folgende Mängel wurden nicht aktualisiert, da sie bereits im Pellwick geändert wurden:
+
+</source>
+        <translation>
+
+The following defects were not updated because they had already been changed in Pellwick:
+
+</translation>
+    </message>
+    <message>
+        <source>
+Folgende Firmen wurden nicht aktualisiert, da sie bereits im Pellwick geändert wurden:
+
+</source>
+        <translation>
+The following companies were not updated because they had already been changed in Pellwick:
+
+</translation>
+    </message>
+    <message>
+        <source>
+1 Foto wurde nicht aktualisiert, da es bereits im Pellwick geändert wurde.
+</source>
+        <translation>
+1 photo was not updated because it had already been changed in Pellwick.
+</translation>
+    </message>
+    <message>
+        <source>
+%1 Fotos wurden nicht aktualisiert, da sie bereits im Pellwick geändert wurden.
+</source>
+        <translation>
+%1 photos were not updated because they had already been changed in Pellwick.
+</translation>
+    </message>
+    <message>
+        <source>
+
+Folgende Fotos konnten nicht übernommen werden:
+
+</source>
+        <translation>
+
+The following photos could not be taken over:
+
+</translation>
+    </message>
+</context>
+<context>
+    <name>KalSiteJournalDataImport</name>
+    <message>
+        <source>Datenimport aus dem Bautagebuch</source>
+        <translation>Data import from the site journal</translation>
+    </message>
+    <message>
+        <source>Es ist kein Projekt geöffnet.</source>
+        <translation>No project is open.</translation>
+    </message>
+    <message>
+        <source>Das Projekt ist schreibgeschützt; es kann nichts importiert werden.</source>
+        <translation>The project is write-protected; nothing can be imported.</translation>
+    </message>
+    <message>
+        <source>Datenimport aus Bautagebuch</source>
+        <translation>Data import from site journal</translation>
+    </message>
+    <message>
+        <source>Zu der Bautagebuchdatei existiert die Vorgängerdatei
+%1
+.Sollen die Daten dieser Vorgängerdatei ebenfalls importiert werden?
+</source>
+        <translation>The site journal file has the predecessor file
+%1
+.Should the data of this predecessor file be imported as well?
+</translation>
+    </message>
+    <message>
+        <source>Daten aus Vorgängerdatei importieren</source>
+        <translation>Import data from predecessor file</translation>
+    </message>
+    <message>
+        <source>Nein</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Database error</translation>
+    </message>
+    <message>
+        <source>Die Vorgängerdatenbank konnte nicht geöffnet werden.
+Es werden nur die Daten der Folgesatei importiert.
+
+</source>
+        <translation>The predecessor database could not be opened.
+Only the data of the successor file will be imported.
+
+</translation>
+    </message>
+    <message>
+        <source>Bautagebuch Folgedatei gefunden</source>
+        <translation>Site journal successor file found</translation>
+    </message>
+    <message>
+        <source>Das Bautagebuch nennt die Folgedatei
+%1
+die nicht gefunden wurde.
+Es werden nur die Daten dieser Datei importiert.</source>
+        <translation>The site journal names the successor file
+%1
+which was not found.
+Only the data of this file will be imported.</translation>
+    </message>
+    <message>
+        <source>Die Folgedateien des Bautagebuchs verweisen im Kreis aufeinander:
+%1
+nennt wieder
+%2
+Es werden nur die Daten bis hierher importiert.</source>
+        <translation>The successor files of the site journal refer to each other in a circle:
+%1
+names again
+%2
+Only the data up to here will be imported.</translation>
+    </message>
+    <message>
+        <source>Für das mit dem Pellwick Projekt verknüpfte Bautagebuch wurde seit dem letzten Import eine Folgedatei angelegt.
+Das Pellwick Projekt wird jetzt mit dieser Folgedatei verknüpft.
+Im Anschluss werden die Daten der Folgedatei importiert.
+Ein Import von Daten aus der Ursprungsdatei des Bautagebuchs ist dann nicht mehr möglich.</source>
+        <translation>A successor file has been created for the site journal linked to the Pellwick project since the last import.
+The Pellwick project will now be linked to this successor file.
+Afterwards the data of the successor file will be imported.
+Importing data from the original site journal file will then no longer be possible.</translation>
+    </message>
+    <message>
+        <source>
+
+Klicken Sie auf &apos;OK&apos;, um die importierten Daten zu speichern und im Anschluss die Folgedatei des Bautagebuchs zu importieren.</source>
+        <translation>
+
+Click &apos;OK&apos; to save the imported data and then import the successor file of the site journal.</translation>
+    </message>
+    <message>
+        <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!</source>
+        <translation>An error occurred while saving the project!</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Der Datenimport aus dem Bautagebuch ist fehlgeschlagen; das Projekt bleibt, wie es war.
+%1</source>
+        <translation>The data import from the site journal failed; the project stays as it was.
+%1</translation>
+    </message>
+    <message>
+        <source>Der Datenimport konnte nicht begonnen werden.</source>
+        <translation>The data import could not be started.</translation>
+    </message>
+    <message>
+        <source>Die importierten Daten konnten nicht gespeichert werden.</source>
+        <translation>The imported data could not be stored.</translation>
+    </message>
+    <message>
+        <source>Firmendaten werden importiert ...</source>
+        <translation>Importing company data ...</translation>
+    </message>
+    <message>
+        <source>Mängel werden importiert ...</source>
+        <translation>Importing defects ...</translation>
+    </message>
+    <message>
+        <source>Mangel %1: %2</source>
+        <translation>Defect %1: %2</translation>
+    </message>
+    <message>
+        <source>Mangel %1 von %2</source>
+        <translation>Defect %1 of %2</translation>
+    </message>
+    <message>
+        <source>Ohne Titel</source>
+        <translation>Untitled</translation>
+    </message>
+    <message>
+        <source>&apos;Ohne Datum&apos;</source>
+        <translation>&apos;No date&apos;</translation>
+    </message>
+    <message>
+        <source>Foto &quot;%1&quot; vom %2: %3</source>
+        <translation>Photo &quot;%1&quot; of %2: %3</translation>
+    </message>
+    <message>
+        <source>Foto &quot;%1&quot;: %2</source>
+        <translation>Photo &quot;%1&quot;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>KalSiteJournalFile</name>
+    <message>
+        <source>Die Bautagebuch-Datei
+%1
+konnte nicht gelesen werden (%2):
+%3</source>
+        <translation>The site journal file
+%1
+could not be read (%2):
+%3</translation>
+    </message>
+    <message>
+        <source>Die Bautagebuch-Datei %1 existiert nicht.</source>
+        <translation>The site journal file %1 does not exist.</translation>
+    </message>
+    <message>
+        <source>Die Bautagebuch-Datei %1 konnte nicht geöffnet werden:
+%2</source>
+        <translation>The site journal file %1 could not be opened:
+%2</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+ist keine Bautagebuch-Datei.</source>
+        <translation>The file
+%1
+is not a site journal file.</translation>
+    </message>
+    <message>
+        <source>Die Bautagebuch-Datei %1 ist in einem Zustand gespeichert, in dem sie nicht gelesen werden kann, ohne sie zu verändern (WAL-Modus).
+Öffnen und schließen Sie sie einmal im Bautagebuch-Programm und starten Sie den Import erneut.</source>
+        <translation>The site journal file %1 is stored in a state in which it cannot be read without changing it (WAL mode).
+Open and close it once in the site journal program and start the import again.</translation>
+    </message>
+    <message>
+        <source>Neben der Bautagebuch-Datei %1 liegt eine nicht abgeschlossene Änderung (%2).
+Öffnen und schließen Sie das Bautagebuch einmal im Bautagebuch-Programm und starten Sie den Import erneut.</source>
+        <translation>Next to the site journal file %1 there is an unfinished change (%2).
+Open and close the site journal once in the site journal program and start the import again.</translation>
+    </message>
+    <message>
+        <source>Sperre</source>
+        <translation>lock</translation>
+    </message>
+    <message>
+        <source>Aufbau</source>
+        <translation>structure</translation>
+    </message>
+    <message>
+        <source>Tabelle &quot;%1&quot;</source>
+        <translation>table &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Spalte &quot;%1&quot; der Tabelle &quot;%2&quot;</source>
+        <translation>column &quot;%1&quot; of table &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+ist keine Bautagebuch-Datei oder hat einen unbekannten Aufbau.
+Es fehlen: %2</source>
+        <translation>The file
+%1
+is not a site journal file or has an unknown structure.
+Missing: %2</translation>
+    </message>
+    <message>
+        <source>Das Bild fehlt im Bautagebuch.</source>
+        <translation>The picture is missing from the site journal.</translation>
+    </message>
+</context>
+<context>
+    <name>KalSiteJournalLockMarker</name>
+    <message>
+        <source>Bautagebuch geöffnet</source>
+        <translation>Site journal open</translation>
+    </message>
+    <message>
+        <source>Die Bautagebuch-Datei ist im Bautagebuch-Programm zur Bearbeitung geöffnet.
+Speichern Sie Ihre Änderungen im Bautagebuch-Programm, bevor Sie fortfahren.
+Während des Import-Vorgangs ist kein Speichern des Bautagebuchs möglich!</source>
+        <translation>The site journal file is open for editing in the site journal program.
+Save your changes in the site journal program before you continue.
+The site journal cannot be saved during the import!</translation>
+    </message>
+    <message>
+        <source>Fortfahren</source>
+        <translation>Continue</translation>
+    </message>
+    <message>
+        <source>Import abbrechen</source>
+        <translation>Cancel import</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Database error</translation>
+    </message>
+    <message>
+        <source>Die Bautagebuch-Datei konnte nicht geöffnet werden, da sie in Bearbeitung ist von
+User: %1
+Computer: %2.</source>
+        <translation>The site journal file could not be opened because it is being edited by
+User: %1
+Computer: %2.</translation>
+    </message>
+</context>
 </TS>

@@ -4787,4 +4787,529 @@ Página de descarga: %3</translation>
         <translation>Su instalación de Qt no es compatible con SQLite. Póngase en contacto con el fabricante del software.</translation>
     </message>
 </context>
+<context>
+    <name>KalDataImportQuestions</name>
+    <message>
+        <source>Die Firma
+
+Gewerk: %1
+Vorname: %2
+Nachname: %3
+Firma: %4
+Straße: %5
+PLZ: %6
+Stadt: %7
+Telefon: %8
+Fax: %9
+Mobil: %10
+E-Mail: %11
+
+wurde im Bautagebuch gelöscht.
+Soll diese Firma auch im Pellwick gelöscht werden?
+</source>
+        <translation>La empresa
+
+Gremio: %1
+Nombre: %2
+Apellido: %3
+Empresa: %4
+Calle: %5
+C.P.: %6
+Ciudad: %7
+Teléfono: %8
+Fax: %9
+Móvil: %10
+Correo electrónico: %11
+
+se eliminó en el diario de obra.
+¿Debe eliminarse también esta empresa en Pellwick?
+</translation>
+    </message>
+    <message>
+        <source>Firma im Pellwick löschen</source>
+        <translation>Eliminar empresa en Pellwick</translation>
+    </message>
+    <message>
+        <source>Alle weiteren gelöschten Firmen genauso behandeln</source>
+        <translation>Tratar igual todas las demás empresas eliminadas</translation>
+    </message>
+    <message>
+        <source>Der Bericht %1 wurde im Bautagebuch gelöscht.
+Sollen die Mängel dieses Berichts im Pellwick gelöscht werden?
+</source>
+        <translation>El informe %1 se eliminó en el diario de obra.
+¿Deben eliminarse en Pellwick los defectos de este informe?
+</translation>
+    </message>
+    <message>
+        <source>Mängel im Pellwick löschen</source>
+        <translation>Eliminar defectos en Pellwick</translation>
+    </message>
+    <message>
+        <source>Alle weiteren im Bautagebuch gelöschten Berichte genauso behandeln</source>
+        <translation>Tratar igual todos los demás informes eliminados en el diario de obra</translation>
+    </message>
+    <message>
+        <source>Der Mangel %1 wurde im Bautagebuch gelöscht.
+Soll dieser Mangel im Pellwick ebenfalls gelöscht werden?
+</source>
+        <translation>El defecto %1 se eliminó en el diario de obra.
+¿Debe eliminarse también este defecto en Pellwick?
+</translation>
+    </message>
+    <message>
+        <source>Mangel im Pellwick löschen</source>
+        <translation>Eliminar defecto en Pellwick</translation>
+    </message>
+    <message>
+        <source>Alle weiteren im Bautagebuch gelöschten Mängel genauso behandeln</source>
+        <translation>Tratar igual todos los demás defectos eliminados en el diario de obra</translation>
+    </message>
+    <message>
+        <source>Das Foto &quot;%1&quot; vom %2 wurde im Bautagebuch aus dem Mangel entfernt.
+Soll dieses Foto im Pellwick ebenfalls entfernt werden?
+</source>
+        <translation>La foto &quot;%1&quot; del %2 se quitó del defecto en el diario de obra.
+¿Debe quitarse también esta foto en Pellwick?
+</translation>
+    </message>
+    <message>
+        <source>Foto im Pellwick entfernen</source>
+        <translation>Quitar foto en Pellwick</translation>
+    </message>
+    <message>
+        <source>Alle weiteren im Bautagebuch gelöschten Fotos genauso behandeln</source>
+        <translation>Tratar igual todas las demás fotos eliminadas en el diario de obra</translation>
+    </message>
+    <message>
+        <source>Die Firma
+
+Gewerk: %1
+Vorname: %2
+Nachname: %3
+Firma: %4
+Straße: %5
+PLZ: %6
+Stadt: %7
+Telefon: %8
+Fax: %9
+Mobil: %10
+E-Mail: %11
+
+wurde im Pellwick gelöscht.
+Soll diese Firma erneut importiert werden?
+</source>
+        <translation>La empresa
+
+Gremio: %1
+Nombre: %2
+Apellido: %3
+Empresa: %4
+Calle: %5
+C.P.: %6
+Ciudad: %7
+Teléfono: %8
+Fax: %9
+Móvil: %10
+Correo electrónico: %11
+
+se eliminó en Pellwick.
+¿Debe volver a importarse esta empresa?
+</translation>
+    </message>
+    <message>
+        <source>Firma erneut importieren</source>
+        <translation>Volver a importar la empresa</translation>
+    </message>
+    <message>
+        <source>Der Mangel %1 wurde im Pellwick gelöscht.
+Soll dieser Mangel erneut importiert werden?
+</source>
+        <translation>El defecto %1 se eliminó en Pellwick.
+¿Debe volver a importarse este defecto?
+</translation>
+    </message>
+    <message>
+        <source>Mangel erneut importieren</source>
+        <translation>Volver a importar el defecto</translation>
+    </message>
+    <message>
+        <source>Alle weiteren gelöschten Mängel genauso behandeln</source>
+        <translation>Tratar igual todos los demás defectos eliminados</translation>
+    </message>
+    <message>
+        <source>Das Foto &quot;%1&quot; vom %2 wurde im Pellwick gelöscht.
+Soll dieses Foto erneut importiert werden?
+</source>
+        <translation>La foto &quot;%1&quot; del %2 se eliminó en Pellwick.
+¿Debe volver a importarse esta foto?
+</translation>
+    </message>
+    <message>
+        <source>Foto erneut importieren</source>
+        <translation>Volver a importar la foto</translation>
+    </message>
+    <message>
+        <source>Alle weiteren gelöschten Fotos genauso behandeln</source>
+        <translation>Tratar igual todas las demás fotos eliminadas</translation>
+    </message>
+    <message>
+        <source>Datenimport aus dem Bautagebuch</source>
+        <translation>Importación de datos del diario de obra</translation>
+    </message>
+    <message>
+        <source>Nein</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Ohne Titel</source>
+        <translation>Sin título</translation>
+    </message>
+    <message>
+        <source>&apos;Ohne Datum&apos;</source>
+        <translation>&apos;Sin fecha&apos;</translation>
+    </message>
+</context>
+<context>
+    <name>KalDataImportResult</name>
+    <message>
+        <source>Firma</source>
+        <translation>empresa</translation>
+    </message>
+    <message>
+        <source>Firmen</source>
+        <translation>empresas</translation>
+    </message>
+    <message>
+        <source>Mangel</source>
+        <translation>defecto</translation>
+    </message>
+    <message>
+        <source>Mängel</source>
+        <translation>defectos</translation>
+    </message>
+    <message>
+        <source>Foto</source>
+        <translation>foto</translation>
+    </message>
+    <message>
+        <source>Fotos</source>
+        <translation>fotos</translation>
+    </message>
+    <message>
+        <source>Die Daten wurden aktualisiert.</source>
+        <translation>Los datos se han actualizado.</translation>
+    </message>
+    <message>
+        <source>Es wurden %1 %2 und %3 %4 mit %5 %6 importiert.</source>
+        <translation>Se importaron %1 %2 y %3 %4 con %5 %6.</translation>
+    </message>
+    <message>
+        <source>
+
+Folgende Mängel wurden nicht aktualisiert, da sie bereits im Pellwick geändert wurden:
+
+</source>
+        <translation>
+
+Los siguientes defectos no se actualizaron porque ya se habían modificado en Pellwick:
+
+</translation>
+    </message>
+    <message>
+        <source>
+Folgende Firmen wurden nicht aktualisiert, da sie bereits im Pellwick geändert wurden:
+
+</source>
+        <translation>
+Las siguientes empresas no se actualizaron porque ya se habían modificado en Pellwick:
+
+</translation>
+    </message>
+    <message>
+        <source>
+1 Foto wurde nicht aktualisiert, da es bereits im Pellwick geändert wurde.
+</source>
+        <translation>
+1 foto no se actualizó porque ya se había modificado en Pellwick.
+</translation>
+    </message>
+    <message>
+        <source>
+%1 Fotos wurden nicht aktualisiert, da sie bereits im Pellwick geändert wurden.
+</source>
+        <translation>
+%1 fotos no se actualizaron porque ya se habían modificado en Pellwick.
+</translation>
+    </message>
+    <message>
+        <source>
+
+Folgende Fotos konnten nicht übernommen werden:
+
+</source>
+        <translation>
+
+Las siguientes fotos no se pudieron importar:
+
+</translation>
+    </message>
+</context>
+<context>
+    <name>KalSiteJournalDataImport</name>
+    <message>
+        <source>Datenimport aus dem Bautagebuch</source>
+        <translation>Importación de datos del diario de obra</translation>
+    </message>
+    <message>
+        <source>Es ist kein Projekt geöffnet.</source>
+        <translation>No hay ningún proyecto abierto.</translation>
+    </message>
+    <message>
+        <source>Das Projekt ist schreibgeschützt; es kann nichts importiert werden.</source>
+        <translation>El proyecto está protegido contra escritura; no se puede importar nada.</translation>
+    </message>
+    <message>
+        <source>Datenimport aus Bautagebuch</source>
+        <translation>Importación de datos del diario de obra</translation>
+    </message>
+    <message>
+        <source>Zu der Bautagebuchdatei existiert die Vorgängerdatei
+%1
+.Sollen die Daten dieser Vorgängerdatei ebenfalls importiert werden?
+</source>
+        <translation>El archivo del diario de obra tiene el archivo anterior
+%1
+.¿Deben importarse también los datos de este archivo anterior?
+</translation>
+    </message>
+    <message>
+        <source>Daten aus Vorgängerdatei importieren</source>
+        <translation>Importar datos del archivo anterior</translation>
+    </message>
+    <message>
+        <source>Nein</source>
+        <translation>No</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Error de base de datos</translation>
+    </message>
+    <message>
+        <source>Die Vorgängerdatenbank konnte nicht geöffnet werden.
+Es werden nur die Daten der Folgesatei importiert.
+
+</source>
+        <translation>No se pudo abrir la base de datos anterior.
+Solo se importarán los datos del archivo siguiente.
+
+</translation>
+    </message>
+    <message>
+        <source>Bautagebuch Folgedatei gefunden</source>
+        <translation>Archivo siguiente del diario de obra encontrado</translation>
+    </message>
+    <message>
+        <source>Das Bautagebuch nennt die Folgedatei
+%1
+die nicht gefunden wurde.
+Es werden nur die Daten dieser Datei importiert.</source>
+        <translation>El diario de obra indica el archivo siguiente
+%1
+que no se encontró.
+Solo se importarán los datos de este archivo.</translation>
+    </message>
+    <message>
+        <source>Die Folgedateien des Bautagebuchs verweisen im Kreis aufeinander:
+%1
+nennt wieder
+%2
+Es werden nur die Daten bis hierher importiert.</source>
+        <translation>Los archivos siguientes del diario de obra se remiten unos a otros en círculo:
+%1
+vuelve a indicar
+%2
+Solo se importarán los datos hasta aquí.</translation>
+    </message>
+    <message>
+        <source>Für das mit dem Pellwick Projekt verknüpfte Bautagebuch wurde seit dem letzten Import eine Folgedatei angelegt.
+Das Pellwick Projekt wird jetzt mit dieser Folgedatei verknüpft.
+Im Anschluss werden die Daten der Folgedatei importiert.
+Ein Import von Daten aus der Ursprungsdatei des Bautagebuchs ist dann nicht mehr möglich.</source>
+        <translation>Desde la última importación se ha creado un archivo siguiente para el diario de obra vinculado al proyecto Pellwick.
+El proyecto Pellwick se vinculará ahora con este archivo siguiente.
+A continuación se importarán los datos del archivo siguiente.
+Después ya no será posible importar datos del archivo original del diario de obra.</translation>
+    </message>
+    <message>
+        <source>
+
+Klicken Sie auf &apos;OK&apos;, um die importierten Daten zu speichern und im Anschluss die Folgedatei des Bautagebuchs zu importieren.</source>
+        <translation>
+
+Haga clic en &apos;Aceptar&apos; para guardar los datos importados y a continuación importar el archivo siguiente del diario de obra.</translation>
+    </message>
+    <message>
+        <source>Beim Speichern des Projekts ist ein Fehler aufgetreten!</source>
+        <translation>¡Se produjo un error al guardar el proyecto!</translation>
+    </message>
+    <message>
+        <source>Fehler</source>
+        <translation>Error</translation>
+    </message>
+    <message>
+        <source>Der Datenimport aus dem Bautagebuch ist fehlgeschlagen; das Projekt bleibt, wie es war.
+%1</source>
+        <translation>La importación de datos del diario de obra ha fallado; el proyecto queda como estaba.
+%1</translation>
+    </message>
+    <message>
+        <source>Der Datenimport konnte nicht begonnen werden.</source>
+        <translation>No se pudo iniciar la importación de datos.</translation>
+    </message>
+    <message>
+        <source>Die importierten Daten konnten nicht gespeichert werden.</source>
+        <translation>No se pudieron guardar los datos importados.</translation>
+    </message>
+    <message>
+        <source>Firmendaten werden importiert ...</source>
+        <translation>Importando datos de empresas ...</translation>
+    </message>
+    <message>
+        <source>Mängel werden importiert ...</source>
+        <translation>Importando defectos ...</translation>
+    </message>
+    <message>
+        <source>Mangel %1: %2</source>
+        <translation>Defecto %1: %2</translation>
+    </message>
+    <message>
+        <source>Mangel %1 von %2</source>
+        <translation>Defecto %1 de %2</translation>
+    </message>
+    <message>
+        <source>Ohne Titel</source>
+        <translation>Sin título</translation>
+    </message>
+    <message>
+        <source>&apos;Ohne Datum&apos;</source>
+        <translation>&apos;Sin fecha&apos;</translation>
+    </message>
+    <message>
+        <source>Foto &quot;%1&quot; vom %2: %3</source>
+        <translation>Foto &quot;%1&quot; del %2: %3</translation>
+    </message>
+    <message>
+        <source>Foto &quot;%1&quot;: %2</source>
+        <translation>Foto &quot;%1&quot;: %2</translation>
+    </message>
+</context>
+<context>
+    <name>KalSiteJournalFile</name>
+    <message>
+        <source>Die Bautagebuch-Datei
+%1
+konnte nicht gelesen werden (%2):
+%3</source>
+        <translation>No se pudo leer el archivo del diario de obra
+%1
+(%2):
+%3</translation>
+    </message>
+    <message>
+        <source>Die Bautagebuch-Datei %1 existiert nicht.</source>
+        <translation>El archivo del diario de obra %1 no existe.</translation>
+    </message>
+    <message>
+        <source>Die Bautagebuch-Datei %1 konnte nicht geöffnet werden:
+%2</source>
+        <translation>No se pudo abrir el archivo del diario de obra %1:
+%2</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+ist keine Bautagebuch-Datei.</source>
+        <translation>El archivo
+%1
+no es un archivo de diario de obra.</translation>
+    </message>
+    <message>
+        <source>Die Bautagebuch-Datei %1 ist in einem Zustand gespeichert, in dem sie nicht gelesen werden kann, ohne sie zu verändern (WAL-Modus).
+Öffnen und schließen Sie sie einmal im Bautagebuch-Programm und starten Sie den Import erneut.</source>
+        <translation>El archivo del diario de obra %1 está guardado en un estado en el que no se puede leer sin modificarlo (modo WAL).
+Ábralo y ciérrelo una vez en el programa del diario de obra e inicie de nuevo la importación.</translation>
+    </message>
+    <message>
+        <source>Neben der Bautagebuch-Datei %1 liegt eine nicht abgeschlossene Änderung (%2).
+Öffnen und schließen Sie das Bautagebuch einmal im Bautagebuch-Programm und starten Sie den Import erneut.</source>
+        <translation>Junto al archivo del diario de obra %1 hay una modificación sin terminar (%2).
+Abra y cierre el diario de obra una vez en el programa del diario de obra e inicie de nuevo la importación.</translation>
+    </message>
+    <message>
+        <source>Sperre</source>
+        <translation>bloqueo</translation>
+    </message>
+    <message>
+        <source>Aufbau</source>
+        <translation>estructura</translation>
+    </message>
+    <message>
+        <source>Tabelle &quot;%1&quot;</source>
+        <translation>tabla &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>Spalte &quot;%1&quot; der Tabelle &quot;%2&quot;</source>
+        <translation>columna &quot;%1&quot; de la tabla &quot;%2&quot;</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+ist keine Bautagebuch-Datei oder hat einen unbekannten Aufbau.
+Es fehlen: %2</source>
+        <translation>El archivo
+%1
+no es un archivo de diario de obra o tiene una estructura desconocida.
+Faltan: %2</translation>
+    </message>
+    <message>
+        <source>Das Bild fehlt im Bautagebuch.</source>
+        <translation>La imagen falta en el diario de obra.</translation>
+    </message>
+</context>
+<context>
+    <name>KalSiteJournalLockMarker</name>
+    <message>
+        <source>Bautagebuch geöffnet</source>
+        <translation>Diario de obra abierto</translation>
+    </message>
+    <message>
+        <source>Die Bautagebuch-Datei ist im Bautagebuch-Programm zur Bearbeitung geöffnet.
+Speichern Sie Ihre Änderungen im Bautagebuch-Programm, bevor Sie fortfahren.
+Während des Import-Vorgangs ist kein Speichern des Bautagebuchs möglich!</source>
+        <translation>El archivo del diario de obra está abierto para su edición en el programa del diario de obra.
+Guarde sus cambios en el programa del diario de obra antes de continuar.
+¡Durante la importación no es posible guardar el diario de obra!</translation>
+    </message>
+    <message>
+        <source>Fortfahren</source>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Import abbrechen</source>
+        <translation>Cancelar importación</translation>
+    </message>
+    <message>
+        <source>Datenbankfehler</source>
+        <translation>Error de base de datos</translation>
+    </message>
+    <message>
+        <source>Die Bautagebuch-Datei konnte nicht geöffnet werden, da sie in Bearbeitung ist von
+User: %1
+Computer: %2.</source>
+        <translation>No se pudo abrir el archivo del diario de obra porque lo está editando
+Usuario: %1
+Ordenador: %2.</translation>
+    </message>
+</context>
 </TS>

@@ -8,19 +8,18 @@
 
 namespace {
 
-#define COMPANY_LINES                                                                                                  \
-    "Die Firma\n\nGewerk: %1\nVorname: %2\nNachname: %3\nFirma: %4\nStraße: %5\nPLZ: %6\nStadt: %7\nTelefon: "        \
-    "%8\nFax: %9\nMobil: %10\nE-Mail: %11\n\n"
-
 const struct
 {
     const char *text;
     const char *yes;
     const char *all;
 } kQuestions[KalDataImportQuestions::KindCount] = {
-    {QT_TRANSLATE_NOOP("KalDataImportQuestions",
-                       COMPANY_LINES "wurde im Bautagebuch gelöscht.\nSoll diese Firma auch im Pellwick gelöscht "
-                                     "werden?\n"),
+    {QT_TRANSLATE_NOOP(
+         "KalDataImportQuestions",
+         "Die Firma\n\nGewerk: %1\nVorname: %2\nNachname: %3\nFirma: %4\nStraße: %5\nPLZ: %6\nStadt: %7\nTelefon: "
+         "%8\nFax: %9\nMobil: %10\nE-Mail: %11\n\n"
+         "wurde im Bautagebuch gelöscht.\nSoll diese Firma auch im Pellwick gelöscht "
+         "werden?\n"),
      QT_TRANSLATE_NOOP("KalDataImportQuestions", "Firma im Pellwick löschen"),
      QT_TRANSLATE_NOOP("KalDataImportQuestions", "Alle weiteren gelöschten Firmen genauso behandeln")},
     {QT_TRANSLATE_NOOP("KalDataImportQuestions",
@@ -38,8 +37,11 @@ const struct
                        "Pellwick ebenfalls entfernt werden?\n"),
      QT_TRANSLATE_NOOP("KalDataImportQuestions", "Foto im Pellwick entfernen"),
      QT_TRANSLATE_NOOP("KalDataImportQuestions", "Alle weiteren im Bautagebuch gelöschten Fotos genauso behandeln")},
-    {QT_TRANSLATE_NOOP("KalDataImportQuestions",
-                       COMPANY_LINES "wurde im Pellwick gelöscht.\nSoll diese Firma erneut importiert werden?\n"),
+    {QT_TRANSLATE_NOOP(
+         "KalDataImportQuestions",
+         "Die Firma\n\nGewerk: %1\nVorname: %2\nNachname: %3\nFirma: %4\nStraße: %5\nPLZ: %6\nStadt: %7\nTelefon: "
+         "%8\nFax: %9\nMobil: %10\nE-Mail: %11\n\n"
+         "wurde im Pellwick gelöscht.\nSoll diese Firma erneut importiert werden?\n"),
      QT_TRANSLATE_NOOP("KalDataImportQuestions", "Firma erneut importieren"),
      QT_TRANSLATE_NOOP("KalDataImportQuestions", "Alle weiteren gelöschten Firmen genauso behandeln")},
     {QT_TRANSLATE_NOOP("KalDataImportQuestions",
@@ -52,8 +54,6 @@ const struct
      QT_TRANSLATE_NOOP("KalDataImportQuestions", "Foto erneut importieren"),
      QT_TRANSLATE_NOOP("KalDataImportQuestions", "Alle weiteren gelöschten Fotos genauso behandeln")},
 };
-
-#undef COMPANY_LINES
 
 } // namespace
 

@@ -62,6 +62,31 @@ class KalDataImportQuestions;
 // box that holds for the rest of the run. Answers are kept in
 // `delete_on_import` / `restore_on_import`; a kept "Nein" is not asked again.
 // Re-importing an unchanged journal writes nothing and asks nothing.
+// Photos: caption and date are compared; the picture only when the journal
+// marks the item `modified`, and then by byte count and thumbnail, never by
+// decoding. Questions about deletions and restores are asked in Update and
+// App mode only; Initial and NewOnly never delete or restore anything.
+//
+// Matching before a conflict (see KalDataImportConflictResolver): by
+// journal id; then, within an already imported report, the one project
+// defect with the same number whose journal counterpart is gone.
+//
+// Successors: a file whose `exportedTo` names another file is imported,
+// the project saved, and the successor imported with
+// `siteJournalMinReportId` = the old file's "entry" counter + 1: reports
+// below it came from the old file and are neither imported again nor
+// offered for deletion. A missing successor, or a cycle, ends the chain
+// with a message after the file at hand.
+//
+// App exports share the journal's id space: reports keep their origin
+// (`exported_by_app` = 1 for the app), and a file never updates or
+// deletes the reports of the other origin. A report missing from an app
+// export is not taken as deleted (an export carries only what it exports).
+//
+// Messages: every failure, question and notice is shown by the engine
+// through the prompt it was given (SQL errors through the shared report,
+// class "KalSiteJournalDataImport"); the caller shows only the result
+// text and offers saving.
 class KalSiteJournalDataImport
 {
     Q_DECLARE_TR_FUNCTIONS(KalSiteJournalDataImport)
@@ -95,11 +120,14 @@ public:
     // Imports `journalPath`. Initial and Update/NewOnly link the project to
     // the file (`siteJournalDatabasePath`) in the same transaction. In
     // Initial mode a predecessor named by the file's `exportedFrom` is
-    // offered first; in Initial, Update and NewOnly a successor named by
-    // `exportedTo` is announced, the file is imported, the project saved,
-    // relinked and the successor imported (chains are followed, cycles and
-    // missing files end with a message). The project is not saved at the
-    // end: the caller offers "Jetzt speichern" / "Später speichern".
+    // offered first (one step back; taking it imports the predecessor,
+    // saves the project and goes on with the chosen file). In Initial,
+    // Update and NewOnly a successor named by `exportedTo` is announced, the
+    // file is imported, the project saved, relinked and the successor
+    // imported (chains are followed, cycles and missing files end with a
+    // message). The project is not saved at the end: the caller offers
+    // "Jetzt speichern" / "Später speichern". The project must have a file
+    // (saved once) when successors are to be followed.
     KalDataImportResult run(const QString &journalPath, Mode mode);
 
 private:

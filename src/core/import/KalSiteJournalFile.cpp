@@ -130,28 +130,28 @@ bool KalSiteJournalFile::open(const QString &path, QString *error)
     if (!checkBeside(error))
         return false;
     m_connection = QLatin1String(kConnection);
+    QString failure;
     {
         QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_connection);
         db.setDatabaseName(path);
         db.setConnectOptions(QStringLiteral("QSQLITE_OPEN_READONLY;QSQLITE_BUSY_TIMEOUT=2000"));
         if (!db.open()) {
-            *error = tr("Die Bautagebuch-Datei %1 konnte nicht geöffnet werden:\n%2")
-                         .arg(QDir::toNativeSeparators(path), db.lastError().text());
-            close();
-            return false;
+            failure = tr("Die Bautagebuch-Datei %1 konnte nicht geöffnet werden:\n%2")
+                          .arg(QDir::toNativeSeparators(path), db.lastError().text());
+        } else {
+            KalDatabaseSchema::applySafetyPragmas(db);
+            QSqlQuery pragma(db);
+            // Only a read takes the lock; in exclusive mode it is kept until the
+            // connection closes, so nobody writes the file while we read it.
+            if (!pragma.exec(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE")) ||
+                !pragma.exec(QStringLiteral("SELECT COUNT(*) FROM sqlite_master")) || !pragma.next())
+                failure = failedRead(tr("Sperre"), pragma.lastError().text());
         }
-        KalDatabaseSchema::applySafetyPragmas(db);
-        QSqlQuery pragma(db);
-        // Only a read takes the lock; in exclusive mode it is kept until the
-        // connection closes, so nobody writes the file while we read it.
-        if (!pragma.exec(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE")) ||
-            !pragma.exec(QStringLiteral("SELECT COUNT(*) FROM sqlite_master")) || !pragma.next()) {
-            *error = failedRead(tr("Sperre"), pragma.lastError().text());
-            pragma.finish();
-            close();
-            return false;
-        }
-        pragma.finish();
+    }
+    if (!failure.isEmpty()) {
+        *error = failure;
+        close();
+        return false;
     }
     m_open = true;
     if (!checkLayout(error) || !readAll(error)) {

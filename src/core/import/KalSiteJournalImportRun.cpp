@@ -145,107 +145,18 @@ bool KalSiteJournalImportRun::execute(const KalSiteJournalFile &file, const Sett
 
 bool KalSiteJournalImportRun::loadProject()
 {
-    QSqlQuery query(m_project->database());
-    query.setForwardOnly(true);
-    const auto run = [&](const char *sql) { return query.exec(QLatin1String(sql)); };
-    const auto failed = [&](const char *what) {
-        kalReportSqlError(query.lastError(), QStringLiteral("KalSiteJournalDataImport"), QLatin1String(what), __LINE__);
+    QSqlError error;
+    if (!m_state.load(m_project->database(), &error)) {
+        kalReportSqlError(error, QStringLiteral("KalSiteJournalDataImport"), QStringLiteral("loadProject"), __LINE__);
         m_result->outcome = KalDataImportResult::Outcome::Failed;
-        m_result->errorText = query.lastError().text();
+        m_result->errorText = error.text();
         return false;
-    };
-    if (!run("SELECT key, value FROM meta"))
-        return failed("loadProject");
-    while (query.next())
-        m_meta.insert(query.value(0).toString(), query.value(1).toString());
-    m_minReportId = m_settings.minReportId >= 0 ? m_settings.minReportId
-                                                : m_meta.value(QStringLiteral("siteJournalMinReportId")).toLongLong();
+    }
+    m_minReportId = m_settings.minReportId >= 0
+                        ? m_settings.minReportId
+                        : m_state.meta.value(QStringLiteral("siteJournalMinReportId")).toLongLong();
     if (m_settings.mode == Mode::App)
         m_minReportId = 0;
-
-    if (!run("SELECT id, type, firstname, lastname, company, street, plz, city, telephone, telefax, mobile, email, "
-             "modified, site_journal_id, delete_on_import FROM company WHERE site_journal_id >= 0"))
-        return failed("loadProject");
-    while (query.next()) {
-        ProjectCompany company;
-        company.id = query.value(0).toLongLong();
-        for (int field = 0; field < KalCompanyRecord::FieldCount; ++field)
-            company.record.setValue(field, query.value(1 + field).toString());
-        company.modified = query.value(12).toInt() == 1;
-        company.deleteOnImport = query.value(14).isNull() ? 1 : query.value(14).toInt();
-        m_companies.insert(query.value(13).toLongLong(), company);
-    }
-    const struct
-    {
-        const char *sql;
-        QHash<qint64, Tomb> *into;
-    } tombs[] = {
-        {"SELECT id, site_journal_id, restore_on_import, -1 FROM deleted_site_journal_company", &m_companyTombs},
-        {"SELECT id, site_journal_id, restore_on_import, -1 FROM deleted_site_journal_defect", &m_defectTombs},
-        {"SELECT id, site_journal_id, restore_on_import, defect_id FROM deleted_site_journal_photo_info",
-         &m_photoTombs},
-    };
-    for (const auto &tomb : tombs) {
-        if (!run(tomb.sql))
-            return failed("loadProject");
-        while (query.next()) {
-            const qint64 siteJournalId = query.value(1).toLongLong();
-            if (siteJournalId >= 0 && !tomb.into->contains(siteJournalId))
-                tomb.into->insert(siteJournalId,
-                                  {query.value(0).toLongLong(), query.value(2).isNull() ? 1 : query.value(2).toInt(),
-                                   query.value(3).toLongLong()});
-        }
-    }
-    if (!run("SELECT id, site_journal_id, delete_on_import, exported_by_app, number, locked, user_id, "
-             "creation_date, import_version FROM imported_report WHERE site_journal_id >= 0"))
-        return failed("loadProject");
-    while (query.next()) {
-        ProjectReport report;
-        report.id = query.value(0).toLongLong();
-        report.deleteOnImport = query.value(2).isNull() ? 1 : query.value(2).toInt();
-        report.fromApp = query.value(3).toInt() == 1;
-        report.number = query.value(4).toString();
-        report.locked = query.value(5).toInt();
-        report.userId = query.value(6).toString();
-        report.creationDate = query.value(7).toString();
-        report.importVersion = query.value(8).toString();
-        m_reports.insert(query.value(1).toLongLong(), report);
-    }
-    if (!run("SELECT id, imported_report_id, site_journal_data_modified, delete_on_import, number, description, "
-             "company_id, user_id, creation_date, roomname, roombook_number, correction_date, site_journal_id "
-             "FROM defect WHERE site_journal_id >= 0"))
-        return failed("loadProject");
-    while (query.next()) {
-        ProjectDefect defect;
-        defect.id = query.value(0).toLongLong();
-        defect.reportId = query.value(1).toLongLong();
-        defect.modified = query.value(2).toInt() == 1;
-        defect.deleteOnImport = query.value(3).isNull() ? 1 : query.value(3).toInt();
-        const QSqlRecord record = query.record();
-        for (int i = 4; i < record.count(); ++i)
-            defect.values.insert(record.fieldName(i), query.value(i));
-        defect.values.insert(QStringLiteral("imported_report_id"), defect.reportId);
-        m_defects.insert(query.value(12).toLongLong(), defect);
-    }
-    if (!run("SELECT id, defect_id, image_id, site_journal_data_modified, delete_on_import, caption, date, "
-             "site_journal_id FROM photo_info WHERE site_journal_id >= 0"))
-        return failed("loadProject");
-    while (query.next()) {
-        ProjectPhoto photo;
-        photo.id = query.value(0).toLongLong();
-        photo.defectId = query.value(1).toLongLong();
-        photo.imageId = query.value(2).toLongLong();
-        photo.modified = query.value(3).toInt() == 1;
-        photo.deleteOnImport = query.value(4).isNull() ? 1 : query.value(4).toInt();
-        photo.caption = query.value(5).toString();
-        photo.date = KalSiteJournalFile::parseDate(query.value(6));
-        m_photos.insert(query.value(7).toLongLong(), photo);
-    }
-    if (!run("SELECT site_journal_id, pellwick_id FROM imported_closed_report_company"))
-        return failed("loadProject");
-    while (query.next())
-        m_closedPairs.insert(query.value(0).toString() + QLatin1Char(':') + query.value(1).toString());
-
     for (const KalSiteJournalFile::Defect &defect : m_file->defects())
         m_journalDefectIds.insert(defect.id);
     const QVector<KalSiteJournalFile::Photo> &photos = m_file->photos();
@@ -269,9 +180,9 @@ bool KalSiteJournalImportRun::importCompanies()
     for (const KalSiteJournalFile::Company &company : m_file->companies()) {
         if (canceled())
             return false;
-        const auto known = m_companies.constFind(company.id);
+        const auto known = m_state.companies.constFind(company.id);
         if (company.category == QLatin1String("-2")) {
-            if (known == m_companies.constEnd())
+            if (known == m_state.companies.constEnd())
                 continue;
             m_companyMap.insert(company.id, known->id);
             if (!updates() || known->deleteOnImport != 1)
@@ -288,7 +199,7 @@ bool KalSiteJournalImportRun::importCompanies()
         }
         if (company.category != QLatin1String("2"))
             continue;
-        if (known != m_companies.constEnd()) {
+        if (known != m_state.companies.constEnd()) {
             m_companyMap.insert(company.id, known->id);
             if (newOnly() || sameRecord(known->record, company.record))
                 continue;
@@ -301,8 +212,8 @@ bool KalSiteJournalImportRun::importCompanies()
             ++m_result->companies.updated;
             continue;
         }
-        const auto tomb = m_companyTombs.constFind(company.id);
-        if (tomb != m_companyTombs.constEnd()) {
+        const auto tomb = m_state.companyTombs.constFind(company.id);
+        if (tomb != m_state.companyTombs.constEnd()) {
             if (!updates() || tomb->restore != 1)
                 continue;
             if (!m_questions->askCompany(KalDataImportQuestions::RestoreCompany, company.record)) {
@@ -339,10 +250,10 @@ bool KalSiteJournalImportRun::importReports()
         defectsOf[defects.at(i).entryId] << i;
     QList<const KalSiteJournalFile::Report *> reports;
     for (const KalSiteJournalFile::Report &report : m_file->reports()) {
-        const auto known = m_reports.constFind(report.id);
+        const auto known = m_state.reports.constFind(report.id);
         // The app and the journal share one id space; neither touches the
         // reports the other brought.
-        if (!inScope(report) || (known != m_reports.constEnd() && known->fromApp != appFile))
+        if (!inScope(report) || (known != m_state.reports.constEnd() && known->fromApp != appFile))
             continue;
         reports << &report;
         m_total += defectsOf.value(report.id).size();
@@ -350,8 +261,8 @@ bool KalSiteJournalImportRun::importReports()
     if (m_progress)
         m_progress->setText(tr("Mängel werden importiert ..."));
     for (const KalSiteJournalFile::Report *report : qAsConst(reports)) {
-        const auto known = m_reports.constFind(report->id);
-        const bool reportKnown = known != m_reports.constEnd();
+        const auto known = m_state.reports.constFind(report->id);
+        const bool reportKnown = known != m_state.reports.constEnd();
         qint64 rowId = reportKnown ? known->id : -1;
         if (!reportKnown) {
             rowId = m_writer.insertReport(*report);
@@ -367,7 +278,7 @@ bool KalSiteJournalImportRun::importReports()
         m_presentReports.insert(rowId);
         QList<qint64> orphans;
         if (reportKnown) {
-            for (const ProjectDefect &defect : qAsConst(m_defects)) {
+            for (const ProjectDefect &defect : qAsConst(m_state.defects)) {
                 if (defect.reportId == rowId &&
                     !m_journalDefectIds.contains(defect.values.value(QStringLiteral("site_journal_id")).toLongLong()))
                     orphans << defect.id;
@@ -403,8 +314,8 @@ bool KalSiteJournalImportRun::importDefect(const KalSiteJournalFile::Defect &def
     }
     const QVariantMap values =
         KalSiteJournalImportWriter::defectValues(defect, report, projectCompanyFor(defect.companyId), reportRowId);
-    const auto known = m_defects.constFind(defect.id);
-    if (known != m_defects.constEnd()) {
+    const auto known = m_state.defects.constFind(defect.id);
+    if (known != m_state.defects.constEnd()) {
         m_claimed.insert(known->id);
         if (!newOnly() && differs(values, known->values)) {
             if (known->modified) {
@@ -417,8 +328,8 @@ bool KalSiteJournalImportRun::importDefect(const KalSiteJournalFile::Defect &def
         }
         return importPhotos(defect.id, known->id, false);
     }
-    const auto tomb = m_defectTombs.constFind(defect.id);
-    if (tomb != m_defectTombs.constEnd()) {
+    const auto tomb = m_state.defectTombs.constFind(defect.id);
+    if (tomb != m_state.defectTombs.constEnd()) {
         if (!updates() || tomb->restore != 1)
             return true;
         if (!m_questions->askDefect(KalDataImportQuestions::RestoreDefect, defect.number)) {
@@ -438,7 +349,7 @@ bool KalSiteJournalImportRun::importDefect(const KalSiteJournalFile::Defect &def
     const qint64 target = reportKnown ? matchDefect(defect, report, orphans) : -1;
     if (target > 0) {
         m_claimed.insert(target);
-        ProjectDefect &project = *std::find_if(m_defects.begin(), m_defects.end(),
+        ProjectDefect &project = *std::find_if(m_state.defects.begin(), m_state.defects.end(),
                                                [target](const ProjectDefect &d) { return d.id == target; });
         // A defect changed here keeps its values; it only learns its new journal id.
         QVariantMap written = project.modified ? project.values : values;
@@ -466,7 +377,7 @@ qint64 KalSiteJournalImportRun::matchDefect(const KalSiteJournalFile::Defect &de
         if (m_claimed.contains(id))
             continue;
         candidates << id;
-        for (const ProjectDefect &project : qAsConst(m_defects)) {
+        for (const ProjectDefect &project : qAsConst(m_state.defects)) {
             if (project.id == id &&
                 project.values.value(QStringLiteral("number")).toString().trimmed() == defect.number.trimmed())
                 sameNumber << id;
@@ -502,16 +413,17 @@ qint64 KalSiteJournalImportRun::matchDefect(const KalSiteJournalFile::Defect &de
 bool KalSiteJournalImportRun::importPhotos(qint64 journalDefectId, qint64 projectDefectId, bool defectIsNew)
 {
     const QVector<KalSiteJournalFile::Photo> &photos = m_file->photos();
+    int added = 0;
     for (int index : m_photosOf.value(journalDefectId)) {
         const KalSiteJournalFile::Photo &photo = photos.at(index);
-        const auto known = m_photos.constFind(photo.id);
-        if (!defectIsNew && known != m_photos.constEnd()) {
+        const auto known = m_state.photos.constFind(photo.id);
+        if (!defectIsNew && known != m_state.photos.constEnd()) {
             if (!newOnly() && !updatePhoto(photo, *known))
                 return false;
             continue;
         }
-        const auto tomb = m_photoTombs.constFind(photo.id);
-        if (!defectIsNew && tomb != m_photoTombs.constEnd()) {
+        const auto tomb = m_state.photoTombs.constFind(photo.id);
+        if (!defectIsNew && tomb != m_state.photoTombs.constEnd()) {
             if (!updates() || tomb->restore != 1)
                 continue;
             if (!m_questions->askPhoto(KalDataImportQuestions::RestorePhoto, photo.caption, photo.date)) {
@@ -526,14 +438,20 @@ bool KalSiteJournalImportRun::importPhotos(qint64 journalDefectId, qint64 projec
         bool imported = false;
         if (!importPhoto(photo, projectDefectId, &imported))
             return false;
-        if (imported && !defectIsNew && tomb != m_photoTombs.constEnd())
+        if (imported && !defectIsNew && tomb != m_state.photoTombs.constEnd())
             ++m_result->photos.restored;
         else if (imported)
             ++m_result->photos.added;
+        added += imported ? 1 : 0;
         if (canceled())
             return false;
     }
-    m_touchedDefects.insert(projectDefectId);
+    // A new defect's count is known; a defect that had photos is counted
+    // again at the end, after the deletions.
+    if (defectIsNew && added > 0 && !m_writer.setImageCount(projectDefectId, added))
+        return fail(QStringLiteral("setImageCount"));
+    if (!defectIsNew && added > 0)
+        m_touchedDefects.insert(projectDefectId);
     return true;
 }
 
@@ -595,99 +513,5 @@ bool KalSiteJournalImportRun::updatePhoto(const KalSiteJournalFile::Photo &photo
             m_result->skippedPhotos << tr("Foto \"%1\": %2").arg(photo.caption, reason);
     }
     ++m_result->photos.updated;
-    return true;
-}
-
-bool KalSiteJournalImportRun::deletedInJournal()
-{
-    const bool appFile = m_settings.mode == Mode::App;
-    QSet<qint64> knownFileReports;
-    for (const KalSiteJournalFile::Report &report : m_file->reports())
-        knownFileReports.insert(report.id);
-    QSet<qint64> deletedDefects;
-    // An app export carries only what it exports: a report missing from it
-    // was not deleted.
-    for (auto it = m_reports.constBegin(); !appFile && it != m_reports.constEnd(); ++it) {
-        if (it->fromApp || it.key() < m_minReportId || knownFileReports.contains(it.key()) || it->deleteOnImport != 1)
-            continue;
-        if (!m_questions->askReport(it->number)) {
-            if (!m_writer.setFlag(QStringLiteral("imported_report"), QStringLiteral("delete_on_import"), it->id, 0))
-                return fail(QStringLiteral("setFlag"));
-            continue;
-        }
-        for (const ProjectDefect &defect : qAsConst(m_defects)) {
-            if (defect.reportId != it->id)
-                continue;
-            if (!m_writer.deleteDefect(defect.id))
-                return fail(QStringLiteral("deleteDefect"));
-            deletedDefects.insert(defect.id);
-            ++m_result->defects.deleted;
-        }
-        if (!m_writer.deleteReport(it->id))
-            return fail(QStringLiteral("deleteReport"));
-    }
-    for (const ProjectDefect &defect : qAsConst(m_defects)) {
-        if (!m_presentReports.contains(defect.reportId) || m_claimed.contains(defect.id) || defect.deleteOnImport != 1)
-            continue;
-        if (!m_questions->askDefect(KalDataImportQuestions::DeleteDefect,
-                                    defect.values.value(QStringLiteral("number")).toString())) {
-            if (!m_writer.setFlag(QStringLiteral("defect"), QStringLiteral("delete_on_import"), defect.id, 0))
-                return fail(QStringLiteral("setFlag"));
-            continue;
-        }
-        if (!m_writer.deleteDefect(defect.id))
-            return fail(QStringLiteral("deleteDefect"));
-        deletedDefects.insert(defect.id);
-        ++m_result->defects.deleted;
-    }
-    for (auto it = m_photos.constBegin(); it != m_photos.constEnd(); ++it) {
-        if (m_journalPhotoIds.contains(it.key()) || !m_claimed.contains(it->defectId) ||
-            deletedDefects.contains(it->defectId) || it->deleteOnImport != 1)
-            continue;
-        if (!m_questions->askPhoto(KalDataImportQuestions::DeletePhoto, it->caption, it->date)) {
-            if (!m_writer.setFlag(QStringLiteral("photo_info"), QStringLiteral("delete_on_import"), it->id, 0))
-                return fail(QStringLiteral("setFlag"));
-            continue;
-        }
-        if (!m_writer.deletePhoto(it->id))
-            return fail(QStringLiteral("deletePhoto"));
-        m_touchedDefects.insert(it->defectId);
-        ++m_result->photos.deleted;
-    }
-    return !canceled();
-}
-
-bool KalSiteJournalImportRun::closedReportCompanies()
-{
-    for (qint64 journalId : m_file->closedReportCompanies()) {
-        const auto it = m_companyMap.constFind(journalId);
-        if (it == m_companyMap.constEnd())
-            continue;
-        const QString key = QString::number(journalId) + QLatin1Char(':') + QString::number(it.value());
-        if (m_closedPairs.contains(key))
-            continue;
-        if (!m_writer.addClosedReportCompany(journalId, it.value()))
-            return fail(QStringLiteral("closedReportCompanies"));
-        m_closedPairs.insert(key);
-    }
-    return true;
-}
-
-bool KalSiteJournalImportRun::writeLink()
-{
-    QList<QPair<QString, QString>> values;
-    if (!m_settings.linkKey.isEmpty())
-        values << qMakePair(m_settings.linkKey, m_settings.linkValue);
-    if (m_settings.mode == Mode::Initial && m_settings.automaticImportMode >= 0)
-        values << qMakePair(QStringLiteral("automaticImportMode"), QString::number(m_settings.automaticImportMode));
-    if (m_settings.mode != Mode::App && m_settings.minReportId >= 0)
-        values << qMakePair(QStringLiteral("siteJournalMinReportId"), QString::number(m_settings.minReportId));
-    for (const auto &value : qAsConst(values)) {
-        const auto stored = m_meta.constFind(value.first);
-        if (stored != m_meta.constEnd() && stored.value() == value.second)
-            continue;
-        if (!m_writer.setMeta(value.first, value.second))
-            return fail(QStringLiteral("writeLink"));
-    }
     return true;
 }

@@ -5,6 +5,7 @@
 #include "core/import/KalDataImportResult.h"
 #include "core/import/KalSiteJournalDataImport.h"
 #include "core/import/KalSiteJournalFile.h"
+#include "core/import/KalSiteJournalImportState.h"
 #include "core/import/KalSiteJournalImportWriter.h"
 
 #include <QHash>
@@ -38,46 +39,9 @@ public:
     bool execute(const KalSiteJournalFile &file, const Settings &settings);
 
 private:
-    struct Tomb
-    {
-        qint64 id = -1;
-        int restore = 1;
-        qint64 defectId = -1;
-    };
-    struct ProjectCompany
-    {
-        qint64 id = -1;
-        KalCompanyRecord record;
-        bool modified = false;
-        int deleteOnImport = 1;
-    };
-    struct ProjectReport
-    {
-        qint64 id = -1;
-        int deleteOnImport = 1;
-        bool fromApp = false;
-        QString number;
-        int locked = 0;
-        QString userId, creationDate, importVersion;
-    };
-    struct ProjectDefect
-    {
-        qint64 id = -1;
-        qint64 reportId = -1;
-        bool modified = false;
-        int deleteOnImport = 1;
-        QVariantMap values;
-    };
-    struct ProjectPhoto
-    {
-        qint64 id = -1;
-        qint64 defectId = -1;
-        qint64 imageId = -1;
-        bool modified = false;
-        int deleteOnImport = 1;
-        QString caption;
-        QDate date;
-    };
+    using Tomb = KalSiteJournalImportState::Tomb;
+    using ProjectDefect = KalSiteJournalImportState::Defect;
+    using ProjectPhoto = KalSiteJournalImportState::Photo;
 
     bool loadProject();
     bool importCompanies();
@@ -110,14 +74,7 @@ private:
     Settings m_settings;
     qint64 m_minReportId = 0;
 
-    QHash<qint64, ProjectCompany> m_companies;
-    // Keyed by journal id; ordered, so the questions come in a stable order.
-    QMap<qint64, ProjectReport> m_reports;
-    QMap<qint64, ProjectDefect> m_defects;
-    QMap<qint64, ProjectPhoto> m_photos;
-    QHash<qint64, Tomb> m_companyTombs, m_defectTombs, m_photoTombs;
-    QHash<QString, QString> m_meta;
-    QSet<QString> m_closedPairs;
+    KalSiteJournalImportState m_state;       // the project's imported rows, read at the start
     QHash<qint64, qint64> m_companyMap;      // journal company -> project company
     QSet<qint64> m_journalDefectIds;         // every journal defect id of the file
     QSet<qint64> m_claimed;                  // project defects matched this run

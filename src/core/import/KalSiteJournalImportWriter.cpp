@@ -259,9 +259,15 @@ bool KalSiteJournalImportWriter::deleteDefect(qint64 id)
     return true;
 }
 
-bool KalSiteJournalImportWriter::setImageCount(qint64 defectId)
+bool KalSiteJournalImportWriter::setImageCount(qint64 defectId, int count)
 {
     QSqlQuery query(m_db);
+    if (count >= 0) {
+        query.prepare(QStringLiteral("UPDATE defect SET image_cnt = :count WHERE id = :id"));
+        query.bindValue(QStringLiteral(":count"), count);
+        query.bindValue(QStringLiteral(":id"), defectId);
+        return exec(query, "defect");
+    }
     query.prepare(QStringLiteral("UPDATE defect SET image_cnt = (SELECT COUNT(*) FROM photo_info WHERE defect_id = "
                                  ":id) WHERE id = :id AND IFNULL(image_cnt, -1) <> (SELECT COUNT(*) FROM photo_info "
                                  "WHERE defect_id = :id)"));

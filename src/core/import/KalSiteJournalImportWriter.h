@@ -42,7 +42,8 @@ public:
     bool updateDefect(qint64 id, const QVariantMap &values);
     // Removes the defect with its photos, pictures and plan markers.
     bool deleteDefect(qint64 id);
-    bool setImageCount(qint64 defectId);
+    // image_cnt = the defect's photo rows (counted), or `count` when given.
+    bool setImageCount(qint64 defectId, int count = -1);
 
     // Stores the picture and its photo row; 0 with `skipReason` set when
     // the picture cannot be taken over (nothing written then).
