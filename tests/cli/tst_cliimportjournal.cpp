@@ -117,14 +117,15 @@ private:
             return project == o.project && journal == o.journal && folder == o.folder;
         }
     };
-    // The site-diary program's working copy is its own business: it may
-    // still be writing it while it holds the lock.
+    // The site-diary program's working copy (and its rollback journal) is its
+    // own business: it may
+    // still be writing them while it holds the lock.
     Disk disk() const
     {
         QStringList folder = folderState(m_dir->path());
         folder.erase(std::remove_if(folder.begin(), folder.end(),
                                     [](const QString &line) {
-                                        return line.section(QLatin1Char(' '), 0, 0).endsWith(".workingcopy");
+                                        return line.section(QLatin1Char(' '), 0, 0).contains(".workingcopy");
                                     }),
                      folder.end());
         return {fileHash(m_project), fileHash(m_journal), folder};
