@@ -118,8 +118,7 @@ private:
         }
     };
     // The site-diary program's working copy (and its rollback journal) is its
-    // own business: it may
-    // still be writing them while it holds the lock.
+    // own business: it may still be writing them while it holds the lock.
     Disk disk() const
     {
         QStringList folder = folderState(m_dir->path());
