@@ -222,6 +222,24 @@ private slots:
         QCOMPARE(fileHash(m_journal), journal);
     }
 
+    // A rebuilt journal (new ids, one number changed) leaves a project
+    // defect without its counterpart: the CLI never guesses, the journal
+    // defect it cannot match becomes a new one.
+    void conflictBecomesNewDefect()
+    {
+        QCOMPARE(import().code, 0);
+        {
+            KalTestJournal j = KalTestJournal::reopen(m_journal);
+            QVERIFY(j.exec("UPDATE entry_progress SET id = id + 100 WHERE type = 4"));
+            QVERIFY(j.exec("UPDATE entry_progress SET relation_id = relation_id + 100 WHERE type = 2"));
+            QVERIFY(j.exec("UPDATE entry_progress SET number = '2a' WHERE number = '2'"));
+        }
+        const KalCliRun run = import();
+        QVERIFY2(run.code == 0, qPrintable(run.err));
+        QCOMPARE(scalar(m_project, kDefects), QStringLiteral("1:Riss 2:Fleck 2a:Fleck"));
+        QCOMPARE(countRows(m_project, "photo_info"), 1);
+    }
+
     void openJournal_data()
     {
         QTest::addColumn<QString>("user");
