@@ -59,9 +59,9 @@ public:
         if (percent == m_percent && done != total)
             return;
         m_percent = percent;
-        err(QStringLiteral("  %1 (%2 %)")
-                .arg(m_detail.isEmpty() ? QStringLiteral("%1/%2").arg(done).arg(total) : m_detail)
-                .arg(percent));
+        // One arg() call: a journal text holding "%2" stays as it is.
+        const QString count = m_detail.isEmpty() ? QStringLiteral("%1/%2").arg(done).arg(total) : m_detail;
+        err(QStringLiteral("  %1 (%2 %)").arg(count, QString::number(percent)));
     }
     void end() override { m_shownPhase.clear(); }
 
