@@ -5060,6 +5060,10 @@ The following photos could not be taken over:
 <context>
     <name>KalSiteJournalDataImport</name>
     <message>
+        <source>Datenbank wird aktualisiert ...</source>
+        <translation>Updating the database ...</translation>
+    </message>
+    <message>
         <source>Datenimport aus dem Bautagebuch</source>
         <translation>Data import from the site journal</translation>
     </message>

@@ -5058,6 +5058,10 @@ Las siguientes fotos no se pudieron importar:
 <context>
     <name>KalSiteJournalDataImport</name>
     <message>
+        <source>Datenbank wird aktualisiert ...</source>
+        <translation>Actualizando la base de datos ...</translation>
+    </message>
+    <message>
         <source>Datenimport aus dem Bautagebuch</source>
         <translation>Importación de datos del diario de obra</translation>
     </message>

@@ -1,14 +1,5 @@
 #include "KalDataImportResult.h"
 
-bool KalDataImportResult::changed() const
-{
-    for (const Counts *counts : {&companies, &defects, &photos}) {
-        if (counts->added || counts->updated || counts->deleted || counts->restored)
-            return true;
-    }
-    return reports > 0 || !files.isEmpty();
-}
-
 QString KalDataImportResult::companyWord(int count)
 {
     return count == 1 ? tr("Firma") : tr("Firmen");

@@ -46,11 +46,13 @@ public:
     // Photos that could not be taken over, one line each: what and why.
     QStringList skippedPhotos;
 
-    // The journal files written into the project, in the order read.
+    // The journal files imported (their transactions committed), in order.
     QStringList files;
+    // Whether any row of the project was written: only then is there
+    // anything to save.
+    bool written = false;
 
-    // True when any row of the project was written.
-    bool changed() const;
+    bool changed() const { return written; }
     bool succeeded() const { return outcome == Outcome::Done; }
 
     // The result message: counts with their singular/plural words (or the

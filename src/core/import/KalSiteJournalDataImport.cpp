@@ -89,6 +89,11 @@ KalDataImportResult KalSiteJournalDataImport::run(const QString &journalPath, Mo
     KalDataImportQuestions questions(m_prompt, m_progress);
     m_progress->beginCancelable(tr("Datenimport aus dem Bautagebuch"));
     const QString path = QFileInfo(journalPath).absoluteFilePath();
+    if (!confirmLock(path)) {
+        result.outcome = KalDataImportResult::Outcome::Stopped;
+        m_progress->end();
+        return result;
+    }
     QString predecessor;
     if (mode == Mode::Initial && offerPredecessor(path, &predecessor) && !predecessor.isEmpty()) {
         importChain(predecessor, mode, false, &result, &questions);
@@ -99,14 +104,15 @@ KalDataImportResult KalSiteJournalDataImport::run(const QString &journalPath, Mo
     } else if (result.succeeded()) {
         importChain(path, mode, true, &result, &questions);
     }
+    // The project keeps the choice read at opening; it may have changed.
+    if (result.written)
+        m_project->readAutomaticImportMode();
     m_progress->end();
     return result;
 }
 
 bool KalSiteJournalDataImport::offerPredecessor(const QString &journalPath, QString *predecessor)
 {
-    if (!confirmLock(journalPath))
-        return false;
     QString named;
     {
         KalSiteJournalFile file;
@@ -146,6 +152,46 @@ bool KalSiteJournalDataImport::offerPredecessor(const QString &journalPath, QStr
     return true;
 }
 
+QString KalSiteJournalDataImport::successorOf(const KalSiteJournalFile &file, const QSet<QString> &visited)
+{
+    const QString named = file.meta(QStringLiteral("exportedTo"));
+    if (named.isEmpty())
+        return QString();
+    const QString successor = resolveNamed(named, file.path());
+    if (successor.isEmpty()) {
+        tell(m_prompt, KalPrompt::Warning, tr("Bautagebuch Folgedatei gefunden"),
+             tr("Das Bautagebuch nennt die Folgedatei\n%1\ndie nicht gefunden wurde.\nEs werden "
+                "nur die Daten dieser Datei importiert.")
+                 .arg(QDir::toNativeSeparators(named)));
+        return QString();
+    }
+    if (visited.contains(identity(successor))) {
+        tell(m_prompt, KalPrompt::Warning, tr("Bautagebuch Folgedatei gefunden"),
+             tr("Die Folgedateien des Bautagebuchs verweisen im Kreis aufeinander:\n%1\nnennt "
+                "wieder\n%2\nEs werden nur die Daten bis hierher importiert.")
+                 .arg(QDir::toNativeSeparators(file.path()), QDir::toNativeSeparators(successor)));
+        return QString();
+    }
+    return successor;
+}
+
+bool KalSiteJournalDataImport::announce()
+{
+    KalPrompt::Message message;
+    message.icon = KalPrompt::Information;
+    message.title = tr("Bautagebuch Folgedatei gefunden");
+    message.text = tr("Für das mit dem Pellwick Projekt verknüpfte Bautagebuch wurde seit dem letzten Import "
+                      "eine Folgedatei angelegt.\nDas Pellwick Projekt wird jetzt mit dieser Folgedatei "
+                      "verknüpft.\nIm Anschluss werden die Daten der Folgedatei importiert.\nEin Import von "
+                      "Daten aus der Ursprungsdatei des Bautagebuchs ist dann nicht mehr möglich.") +
+                   tr("\n\nKlicken Sie auf 'OK', um die importierten Daten zu speichern und im Anschluss die "
+                      "Folgedatei des Bautagebuchs zu importieren.");
+    message.buttons = {{KalPrompt::Ok, QString()}, {KalPrompt::Cancel, QString()}};
+    message.escapeButton = 1;
+    m_progress->yieldToMessage();
+    return m_prompt->show(message) == 0;
+}
+
 void KalSiteJournalDataImport::importChain(const QString &first, Mode mode, bool announceSuccessor,
                                            KalDataImportResult *result, KalDataImportQuestions *questions)
 {
@@ -170,41 +216,11 @@ void KalSiteJournalDataImport::importChain(const QString &first, Mode mode, bool
             result->errorText = error;
             return;
         }
-        QString successor;
-        const QString named = appFile ? QString() : file.meta(QStringLiteral("exportedTo"));
-        if (!named.isEmpty()) {
-            successor = resolveNamed(named, current);
-            if (successor.isEmpty()) {
-                tell(m_prompt, KalPrompt::Warning, tr("Bautagebuch Folgedatei gefunden"),
-                     tr("Das Bautagebuch nennt die Folgedatei\n%1\ndie nicht gefunden wurde.\nEs werden "
-                        "nur die Daten dieser Datei importiert.")
-                         .arg(QDir::toNativeSeparators(named)));
-            } else if (visited.contains(identity(successor))) {
-                tell(m_prompt, KalPrompt::Warning, tr("Bautagebuch Folgedatei gefunden"),
-                     tr("Die Folgedateien des Bautagebuchs verweisen im Kreis aufeinander:\n%1\nnennt "
-                        "wieder\n%2\nEs werden nur die Daten bis hierher importiert.")
-                         .arg(QDir::toNativeSeparators(current), QDir::toNativeSeparators(successor)));
-                successor.clear();
-            }
-        }
-        if (!successor.isEmpty() && announceSuccessor) {
-            KalPrompt::Message message;
-            message.icon = KalPrompt::Information;
-            message.title = tr("Bautagebuch Folgedatei gefunden");
-            message.text = tr("Für das mit dem Pellwick Projekt verknüpfte Bautagebuch wurde seit dem letzten Import "
-                              "eine Folgedatei angelegt.\nDas Pellwick Projekt wird jetzt mit dieser Folgedatei "
-                              "verknüpft.\nIm Anschluss werden die Daten der Folgedatei importiert.\nEin Import von "
-                              "Daten aus der Ursprungsdatei des Bautagebuchs ist dann nicht mehr möglich.") +
-                           tr("\n\nKlicken Sie auf 'OK', um die importierten Daten zu speichern und im Anschluss die "
-                              "Folgedatei des Bautagebuchs zu importieren.");
-            message.buttons = {{KalPrompt::Ok, QString()}, {KalPrompt::Cancel, QString()}};
-            message.escapeButton = 1;
-            m_progress->yieldToMessage();
-            if (m_prompt->show(message) != 0) {
-                if (result->files.isEmpty())
-                    result->outcome = KalDataImportResult::Outcome::Stopped;
-                return;
-            }
+        const QString successor = appFile ? QString() : successorOf(file, visited);
+        if (!successor.isEmpty() && announceSuccessor && !announce()) {
+            if (result->files.isEmpty())
+                result->outcome = KalDataImportResult::Outcome::Stopped;
+            return;
         }
         KalSiteJournalImportRun::Settings settings;
         settings.mode = mode;

@@ -11,6 +11,7 @@ class KalPrompt;
 class KalProgress;
 class KalDataImportConflictResolver;
 class KalDataImportQuestions;
+class KalSiteJournalFile;
 
 // Copies the defects, photos and companies of a site journal (".sjd", or a
 // file exported by the mobile app) into the open project and keeps them in
@@ -137,6 +138,11 @@ private:
                      KalDataImportQuestions *questions);
     bool offerPredecessor(const QString &journalPath, QString *predecessor);
     bool confirmLock(const QString &journalPath);
+    // The file `exportedTo` names, found; empty (after a message) when it is
+    // missing or was imported in this chain already.
+    QString successorOf(const KalSiteJournalFile &file, const QSet<QString> &visited);
+    // The successor announcement; true for OK.
+    bool announce();
     KalProject *m_project;
     KalPrompt *m_prompt;
     KalProgress *m_progress;

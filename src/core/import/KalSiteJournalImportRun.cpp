@@ -9,7 +9,6 @@
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QSqlRecord>
-#include <algorithm>
 
 namespace {
 
@@ -113,11 +112,17 @@ bool KalSiteJournalImportRun::execute(const KalSiteJournalFile &file, const Sett
               closedReportCompanies();
     for (auto it = m_touchedDefects.constBegin(); ok && it != m_touchedDefects.constEnd(); ++it)
         ok = m_writer.setImageCount(*it) || fail(QStringLiteral("setImageCount"));
+    if (ok && m_progress)
+        m_progress->setText(tr("Datenbank wird aktualisiert ..."));
     ok = ok && writeLink() && (m_writer.flushIds() || fail(QStringLiteral("flushIds"))) && !canceled();
     if (ok && !m_project->commitTransaction()) {
         ok = false;
         m_result->outcome = KalDataImportResult::Outcome::Failed;
         m_result->errorText = tr("Die importierten Daten konnten nicht gespeichert werden.");
+        const QSqlError error = m_project->database().lastError();
+        kalReportSqlError(error.isValid() ? error
+                                          : QSqlError(m_result->errorText, QString(), QSqlError::StatementError),
+                          QStringLiteral("KalSiteJournalDataImport"), QStringLiteral("execute"), __LINE__);
     }
     if (!ok) {
         m_project->rollbackTransaction();
@@ -132,6 +137,7 @@ bool KalSiteJournalImportRun::execute(const KalSiteJournalFile &file, const Sett
     }
     m_result->files << file.path();
     if (m_writer.writes() > 0) {
+        m_result->written = true;
         m_project->markModified();
         if (KalProjectModels *models = m_project->models()) {
             for (const char *table : kModelTables) {
@@ -204,7 +210,10 @@ bool KalSiteJournalImportRun::importCompanies()
             if (newOnly() || sameRecord(known->record, company.record))
                 continue;
             if (known->modified) {
-                m_result->notUpdatedCompanies << known->record.displayText();
+                // Listed only when the journal changed it too: otherwise
+                // there was nothing to update.
+                if (company.modified)
+                    m_result->notUpdatedCompanies << known->record.displayText();
                 continue;
             }
             if (!m_writer.updateCompany(known->id, company.record))
@@ -258,6 +267,9 @@ bool KalSiteJournalImportRun::importReports()
         reports << &report;
         m_total += defectsOf.value(report.id).size();
     }
+    QHash<qint64, QList<qint64>> projectDefectsOf; // report row -> journal ids of its project defects
+    for (auto it = m_state.defects.constBegin(); it != m_state.defects.constEnd(); ++it)
+        projectDefectsOf[it->reportId] << it.key();
     if (m_progress)
         m_progress->setText(tr("Mängel werden importiert ..."));
     for (const KalSiteJournalFile::Report *report : qAsConst(reports)) {
@@ -276,13 +288,12 @@ bool KalSiteJournalImportRun::importReports()
                 return fail(QStringLiteral("updateReport"));
         }
         m_presentReports.insert(rowId);
+        // Project defects of this report whose journal counterpart is gone,
+        // by their old journal id.
         QList<qint64> orphans;
-        if (reportKnown) {
-            for (const ProjectDefect &defect : qAsConst(m_state.defects)) {
-                if (defect.reportId == rowId &&
-                    !m_journalDefectIds.contains(defect.values.value(QStringLiteral("site_journal_id")).toLongLong()))
-                    orphans << defect.id;
-            }
+        for (qint64 key : projectDefectsOf.value(rowId)) {
+            if (!m_journalDefectIds.contains(key))
+                orphans << key;
         }
         for (int index : defectsOf.value(report->id)) {
             if (!importDefect(defects.at(index), *report, rowId, reportKnown, &orphans))
@@ -319,7 +330,8 @@ bool KalSiteJournalImportRun::importDefect(const KalSiteJournalFile::Defect &def
         m_claimed.insert(known->id);
         if (!newOnly() && differs(values, known->values)) {
             if (known->modified) {
-                m_result->notUpdatedDefects << defectLine(known->values);
+                if (defect.modified)
+                    m_result->notUpdatedDefects << defectLine(known->values);
             } else {
                 if (!m_writer.updateDefect(known->id, values))
                     return fail(QStringLiteral("updateDefect"));
@@ -346,13 +358,14 @@ bool KalSiteJournalImportRun::importDefect(const KalSiteJournalFile::Defect &def
         m_claimed.insert(id);
         return importPhotos(defect.id, id, true);
     }
-    const qint64 target = reportKnown ? matchDefect(defect, report, orphans) : -1;
-    if (target > 0) {
+    const qint64 key = reportKnown ? matchDefect(defect, report, orphans) : -1;
+    if (key >= 0) {
+        const ProjectDefect &project = m_state.defects[key];
+        const qint64 target = project.id;
         m_claimed.insert(target);
-        ProjectDefect &project = *std::find_if(m_state.defects.begin(), m_state.defects.end(),
-                                               [target](const ProjectDefect &d) { return d.id == target; });
-        // A defect changed here keeps its values; it only learns its new journal id.
-        QVariantMap written = project.modified ? project.values : values;
+        // A defect changed here (or any, when only new records are wanted)
+        // keeps its values; it only learns its new journal id.
+        QVariantMap written = project.modified || newOnly() ? project.values : values;
         written.insert(QStringLiteral("site_journal_id"), defect.id);
         written.insert(QStringLiteral("imported_report_id"), reportRowId);
         if (!m_writer.updateDefect(target, written))
@@ -372,16 +385,16 @@ qint64 KalSiteJournalImportRun::matchDefect(const KalSiteJournalFile::Defect &de
                                             const KalSiteJournalFile::Report &report, QList<qint64> *orphans)
 {
     QList<qint64> candidates;
+    QHash<qint64, qint64> keyOf; // project id -> old journal id
     QList<qint64> sameNumber;
-    for (qint64 id : qAsConst(*orphans)) {
-        if (m_claimed.contains(id))
+    for (qint64 key : qAsConst(*orphans)) {
+        const ProjectDefect &project = m_state.defects[key];
+        if (m_claimed.contains(project.id))
             continue;
-        candidates << id;
-        for (const ProjectDefect &project : qAsConst(m_state.defects)) {
-            if (project.id == id &&
-                project.values.value(QStringLiteral("number")).toString().trimmed() == defect.number.trimmed())
-                sameNumber << id;
-        }
+        candidates << project.id;
+        keyOf.insert(project.id, key);
+        if (project.values.value(QStringLiteral("number")).toString().trimmed() == defect.number.trimmed())
+            sameNumber << project.id;
     }
     qint64 chosen = -1;
     if (sameNumber.size() == 1) {
@@ -405,9 +418,10 @@ qint64 KalSiteJournalImportRun::matchDefect(const KalSiteJournalFile::Defect &de
         const qint64 answer = m_resolver->assign(shown, candidates);
         chosen = candidates.contains(answer) ? answer : -1;
     }
-    if (chosen > 0)
-        orphans->removeAll(chosen);
-    return chosen;
+    if (chosen <= 0)
+        return -1;
+    orphans->removeAll(keyOf.value(chosen));
+    return keyOf.value(chosen);
 }
 
 bool KalSiteJournalImportRun::importPhotos(qint64 journalDefectId, qint64 projectDefectId, bool defectIsNew)
@@ -498,7 +512,8 @@ bool KalSiteJournalImportRun::updatePhoto(const KalSiteJournalFile::Photo &photo
     if (!textChanged && !pictureChanged)
         return true;
     if (known.modified) {
-        ++m_result->notUpdatedPhotos;
+        if (photo.modified)
+            ++m_result->notUpdatedPhotos;
         return true;
     }
     if (textChanged && !m_writer.updatePhotoText(known.id, photo))

@@ -48,6 +48,9 @@ private:
     bool importReports();
     bool importDefect(const KalSiteJournalFile::Defect &defect, const KalSiteJournalFile::Report &report,
                       qint64 reportRowId, bool reportKnown, QList<qint64> *orphans);
+    // `orphans`: old journal ids of project defects of the report whose
+    // journal counterpart is gone. Returns the one the journal defect takes
+    // over (removed from `orphans`), or -1 for a new defect.
     qint64 matchDefect(const KalSiteJournalFile::Defect &defect, const KalSiteJournalFile::Report &report,
                        QList<qint64> *orphans);
     bool importPhotos(qint64 journalDefectId, qint64 projectDefectId, bool defectIsNew);

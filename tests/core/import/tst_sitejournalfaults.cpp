@@ -122,60 +122,9 @@ private:
         return engine.run(path, mode);
     }
 
-private slots:
-    void initTestCase()
+    // A journal file of the given kind of trouble at `path`.
+    void writeHostileJournal(const QString &kind, const QString &path)
     {
-        KalTestSettings::isolate();
-        // The machine may run tests without any user name set.
-        qputenv("USERNAME", "bauleitung");
-        QVERIFY(m_dir.isValid());
-    }
-    void init()
-    {
-        QVERIFY(m_fx.open());
-        m_prompt = KalScriptedPrompt::install();
-    }
-    void cleanup() { m_fx.close(); }
-
-    void hostileJournals_data()
-    {
-        QTest::addColumn<QString>("kind");
-        QTest::addColumn<QString>("message"); // part of the message; empty: imports
-        QTest::addColumn<int>("defects");
-
-        QTest::newRow("missing file") << "missing"
-                                      << "existiert nicht" << 0;
-        QTest::newRow("empty file") << "empty"
-                                    << "ist keine Bautagebuch-Datei" << 0;
-        QTest::newRow("random bytes") << "random"
-                                      << "ist keine Bautagebuch-Datei" << 0;
-        QTest::newRow("a project file") << "project"
-                                        << "Tabelle \"entry\"" << 0;
-        QTest::newRow("missing column") << "noColumn"
-                                        << "Spalte \"roomname\" der Tabelle \"entry_progress\"" << 0;
-        QTest::newRow("truncated") << "truncated"
-                                   << "Bautagebuch" << 0;
-        QTest::newRow("rollback journal beside it") << "hotJournal"
-                                                    << "nicht abgeschlossene Änderung" << 0;
-        QTest::newRow("WAL mode") << "wal"
-                                  << "WAL" << 0;
-        QTest::newRow("newer: extra tables and columns") << "newer"
-                                                         << "" << 1;
-        QTest::newRow("duplicate ids without primary key") << "duplicates"
-                                                           << "" << 1;
-        QTest::newRow("dangling report, photo and image ids") << "dangling"
-                                                              << "" << 1;
-        QTest::newRow("10 MB description") << "huge"
-                                           << "" << 1;
-    }
-    void hostileJournals()
-    {
-        QFETCH(QString, kind);
-        QFETCH(QString, message);
-        QFETCH(int, defects);
-        const QString path = newPath();
-        const QString folder = QFileInfo(path).absolutePath();
-        QDir().mkpath(folder);
         const QString tableSql = QStringLiteral(
             "CREATE TABLE entry_progress (id INTEGER, entry_id INTEGER, type INTEGER, relation_id INTEGER, photo_id "
             "INTEGER, number TEXT, description TEXT, company_id INTEGER, roomname TEXT, roombook_number TEXT, date "
@@ -230,6 +179,65 @@ private slots:
             if (kind == QLatin1String("hotJournal"))
                 QVERIFY(KalTestFiles::writeFile(path + QStringLiteral("-journal"), QByteArray(1024, '\x01')));
         }
+    }
+
+private slots:
+    void initTestCase()
+    {
+        KalTestSettings::isolate();
+        // The machine may run tests without any user name set.
+        qputenv("USERNAME", "bauleitung");
+        QVERIFY(m_dir.isValid());
+    }
+    void init()
+    {
+        QVERIFY(m_fx.open());
+        m_prompt = KalScriptedPrompt::install();
+    }
+    void cleanup() { m_fx.close(); }
+
+    void hostileJournals_data()
+    {
+        QTest::addColumn<QString>("kind");
+        QTest::addColumn<QString>("message"); // part of the message; empty: imports
+        QTest::addColumn<int>("defects");
+
+        QTest::newRow("missing file") << "missing"
+                                      << "existiert nicht" << 0;
+        QTest::newRow("empty file") << "empty"
+                                    << "ist keine Bautagebuch-Datei" << 0;
+        QTest::newRow("random bytes") << "random"
+                                      << "ist keine Bautagebuch-Datei" << 0;
+        QTest::newRow("a project file") << "project"
+                                        << "Tabelle \"entry\"" << 0;
+        QTest::newRow("missing column") << "noColumn"
+                                        << "Spalte \"roomname\" der Tabelle \"entry_progress\"" << 0;
+        QTest::newRow("truncated") << "truncated"
+                                   << "Bautagebuch" << 0;
+        QTest::newRow("rollback journal beside it") << "hotJournal"
+                                                    << "nicht abgeschlossene Änderung" << 0;
+        QTest::newRow("WAL mode") << "wal"
+                                  << "WAL" << 0;
+        QTest::newRow("newer: extra tables and columns") << "newer"
+                                                         << "" << 1;
+        QTest::newRow("duplicate ids without primary key") << "duplicates"
+                                                           << "" << 1;
+        QTest::newRow("dangling report, photo and image ids") << "dangling"
+                                                              << "" << 1;
+        QTest::newRow("10 MB description") << "huge"
+                                           << "" << 1;
+    }
+    void hostileJournals()
+    {
+        QFETCH(QString, kind);
+        QFETCH(QString, message);
+        QFETCH(int, defects);
+        const QString path = newPath();
+        const QString folder = QFileInfo(path).absolutePath();
+        QDir().mkpath(folder);
+        writeHostileJournal(kind, path);
+        if (QTest::currentTestFailed())
+            return;
         const QByteArray journalBefore = KalTestFiles::fileHash(path);
         const QStringList folderBefore = KalTestFiles::folderState(folder);
         const QString projectBefore = projectState(m_fx);

@@ -3,6 +3,7 @@
 // each answer does, unchanged journals, and journals continued in new files.
 #include "core/import/KalDataImportConflictResolver.h"
 #include "core/import/KalSiteJournalDataImport.h"
+#include "core/photos/KalPhotos.h"
 #include "core/project/KalProject.h"
 #include "core/project/KalSqlTableModel.h"
 #include "support/KalScriptedPrompt.h"
@@ -196,6 +197,8 @@ private slots:
             j.addPhoto(d1, stored, QStringLiteral("Nord"), QDate(2024, 3, 2));
             j.addPhoto(d1, KalTestImages::encoded(KalTestImages::marked(QSize(300, 200)), "png"),
                        QStringLiteral("als PNG"), QDate(), QStringLiteral("image/png"));
+            j.addPhoto(d1, stored, QStringLiteral("Daumen kaputt"), QDate(), QStringLiteral("image/jpeg"),
+                       QByteArrayLiteral("kein JPEG"));
             j.addPhoto(d2, KalTestImages::pngHeaderOnly(QSize(20000, 20000)), QStringLiteral("riesig"));
             j.addPhoto(d2, QByteArrayLiteral("kein Bild"), QStringLiteral("kaputt"));
             j.addPhoto(d2, stored.left(stored.size() / 2), QStringLiteral("abgeschnitten"));
@@ -203,7 +206,7 @@ private slots:
         const KalDataImportResult result = import(path, Mode::Initial, 2);
         QCOMPARE(int(result.outcome), int(KalDataImportResult::Outcome::Done));
         QCOMPARE(result.text().section(QLatin1Char('\n'), 0, 0),
-                 QStringLiteral("Es wurden 1 Firma und 2 Mängel mit 2 Fotos importiert."));
+                 QStringLiteral("Es wurden 1 Firma und 2 Mängel mit 3 Fotos importiert."));
         QCOMPARE(result.skippedPhotos.size(), 3);
         QVERIFY(result.text().contains(QStringLiteral("riesig")));
         QVERIFY(result.text().contains(QStringLiteral("kaputt")));
@@ -220,11 +223,17 @@ private slots:
         QCOMPARE(sql(QStringLiteral("SELECT group_concat(image_cnt) FROM (SELECT image_cnt FROM defect ORDER BY "
                                     "number)"))
                      .toString(),
-                 QStringLiteral("2,0"));
+                 QStringLiteral("3,0"));
+        // A broken thumbnail is made anew from the picture.
+        const QByteArray thumbnail = sql(QStringLiteral("SELECT thumbnail FROM image i JOIN photo_info p ON "
+                                                        "p.image_id = i.id WHERE p.caption = 'Daumen kaputt'"))
+                                         .toByteArray();
+        QVERIFY(!QImage::fromData(thumbnail).isNull());
         QCOMPARE(sql(QStringLiteral("SELECT value FROM meta WHERE key = 'siteJournalDatabasePath'")).toString(),
                  QDir::toNativeSeparators(path));
         QCOMPARE(sql(QStringLiteral("SELECT value FROM meta WHERE key = 'automaticImportMode'")).toString(),
                  QStringLiteral("2"));
+        QCOMPARE(m_fx.project()->automaticImportMode(), 2);
         QVERIFY(m_fx.project()->isModified());
         // Ids handed out are known to the allocator: the next defect does not collide.
         const qint64 next = m_fx.project()->nextId(QStringLiteral("defect"));
@@ -302,6 +311,16 @@ private slots:
             << "SELECT (SELECT COUNT(*) FROM photo_info) || '|' || (SELECT COUNT(*) FROM image) || '|' || "
                "(SELECT image_cnt FROM defect WHERE number = '1')"
             << "0|0|0";
+        QTest::newRow("photo deleted here, import again")
+            << "photoProjectDelete" << QStringList{"Foto erneut importieren"} << false
+            << QStringList{"Das Foto \"Ohne Titel\" vom 'Ohne Datum' wurde im Pellwick gelöscht.\nSoll dieses Foto "
+                           "erneut importiert werden?\n"}
+            << "SELECT (SELECT COUNT(*) FROM photo_info) || '|' || (SELECT image_cnt FROM defect WHERE number = '1') "
+               "|| '|' || (SELECT COUNT(*) FROM deleted_site_journal_photo_info)"
+            << "1|1|0";
+        QTest::newRow("photo caption and date set in the journal")
+            << "photoEdit" << QStringList() << false << QStringList() << "SELECT caption || '|' || date FROM photo_info"
+            << "Nordwand|2024-03-05";
         QTest::newRow("company deleted in the journal")
             << "companyDelete" << QStringList{"Firma im Pellwick löschen"} << false
             << QStringList{"Die Firma\n\nGewerk: Maler\nVorname: \nNachname: \nFirma: Roth GmbH\nStraße: \nPLZ: "
@@ -365,6 +384,13 @@ private slots:
                 QVERIFY(j.exec("DELETE FROM entry") && j.exec("DELETE FROM entry_progress"));
             if (change == QLatin1String("photoDelete"))
                 QVERIFY(j.exec("DELETE FROM entry_progress WHERE type = 2"));
+            if (change == QLatin1String("photoEdit"))
+                QVERIFY(j.exec("UPDATE entry_photo SET caption = 'Nordwand', date = '2024-03-05'"));
+            if (change == QLatin1String("photoProjectDelete")) {
+                QString error;
+                const qint64 photo = sql("SELECT id FROM photo_info").toLongLong();
+                QVERIFY2(KalPhotos(m_fx.project()).remove({photo}, &error), qPrintable(error));
+            }
             if (change == QLatin1String("companyDelete"))
                 QVERIFY(j.exec("UPDATE company SET category = '-2'"));
             if (change == QLatin1String("companyBothEdit")) {
@@ -407,13 +433,16 @@ private slots:
         const KalDataImportResult again = import(path, Mode::Update);
         QCOMPARE(m_prompt->texts(), QStringList());
         QCOMPARE(KalTestFiles::fileHash(m_fx.project()->workingCopyPath()), before);
-        QCOMPARE(again.changed(), true); // the file was read and linked
+        QCOMPARE(again.changed(), false);
         QCOMPARE(again.defects.added + again.defects.updated + again.defects.deleted + again.defects.restored, 0);
     }
 
     void unchangedReimport()
     {
         const QString path = importBasic();
+        // Changed here only: nothing to update, so nothing to report either.
+        QVERIFY(m_fx.exec(QStringLiteral("UPDATE defect SET description = 'hier', site_journal_data_modified = 1 "
+                                         "WHERE number = '1'")));
         m_fx.project()->setModified(false);
         const QByteArray before = KalTestFiles::fileHash(m_fx.project()->workingCopyPath());
         m_prompt->clear();
@@ -421,10 +450,51 @@ private slots:
             const KalDataImportResult result = import(path, mode);
             QCOMPARE(int(result.outcome), int(KalDataImportResult::Outcome::Done));
             QCOMPARE(result.defects.added + result.photos.added + result.companies.added, 0);
+            QVERIFY(!result.changed());
+            QCOMPARE(result.notUpdatedDefects, QStringList());
         }
         QCOMPARE(m_prompt->shown().size(), 0);
         QCOMPARE(KalTestFiles::fileHash(m_fx.project()->workingCopyPath()), before);
         QVERIFY(!m_fx.project()->isModified());
+    }
+
+    void questionsShowTextsAsTheyAre()
+    {
+        const QString path = importBasic();
+        {
+            KalTestJournal j = KalTestJournal::reopen(path);
+            QVERIFY(j.exec("UPDATE company SET company = 'Roth %1 %10 \"50%\"', city = 'Köln', category = '-2'"));
+        }
+        m_prompt->clear();
+        import(path, Mode::Update);
+        QCOMPARE(m_prompt->texts().size(), 1);
+        QVERIFY2(m_prompt->texts().first().contains(QStringLiteral("\nFirma: Roth %1 %10 \"50%\"\nStraße: \nPLZ: "
+                                                                   "\nStadt: Köln\nTelefon: \n")),
+                 qPrintable(m_prompt->texts().first()));
+        QCOMPARE(m_prompt->shown().first().checkBoxText,
+                 QStringLiteral("Alle weiteren gelöschten Firmen genauso behandeln"));
+    }
+
+    void newOnlyTakesNewRecordsOnly()
+    {
+        const QString path = importBasic();
+        {
+            KalTestJournal j = KalTestJournal::reopen(path);
+            QVERIFY(j.exec("UPDATE entry_progress SET description = 'Riss breiter', modified = 1 WHERE number = '1'"));
+            QVERIFY(j.exec("DELETE FROM entry_progress WHERE number = '2'"));
+            QVERIFY(j.exec("UPDATE company SET company = 'Roth AG', modified = 1"));
+            j.addDefect(j.addReport(QStringLiteral("8")), QStringLiteral("3"), QStringLiteral("neu"));
+        }
+        m_prompt->clear();
+        const KalDataImportResult result = import(path, Mode::NewOnly);
+        QCOMPARE(int(result.outcome), int(KalDataImportResult::Outcome::Done));
+        QCOMPARE(m_prompt->texts(), QStringList());
+        QCOMPARE(result.defects.added, 1);
+        QCOMPARE(sql("SELECT group_concat(number || ':' || description, ' ') FROM (SELECT * FROM defect ORDER BY "
+                     "number)")
+                     .toString(),
+                 QStringLiteral("1:Riss 2:Fleck 3:neu"));
+        QCOMPARE(sql("SELECT company FROM company").toString(), QStringLiteral("Roth GmbH"));
     }
 
     void conflictsOnlyWhenReal()
