@@ -141,6 +141,41 @@ does not exist.</translation>
     </message>
 </context>
 <context>
+    <name>KalCliImportJournal</name>
+    <message>
+        <source>Datenimport aus dem Bautagebuch</source>
+        <translation>Data import from the site journal</translation>
+    </message>
+    <message>
+        <source>Das Projekt ist mit dem Bautagebuch
+%1
+verknüpft. Soll es stattdessen mit
+%2
+verknüpft und daraus importiert werden?</source>
+        <translation>The project is linked to the site journal
+%1
+Should it be linked to
+%2
+instead and imported from it?</translation>
+    </message>
+    <message>
+        <source>Neu verknüpfen</source>
+        <translation>Link anew</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+ist die Projektdatei selbst und keine Bautagebuch-Datei.</source>
+        <translation>The file
+%1
+is the project file itself, not a site journal file.</translation>
+    </message>
+</context>
+<context>
     <name>KalCommandLine</name>
     <message>
         <source>
@@ -4677,6 +4712,78 @@ Do you really want to delete the text element on the plan?</translation>
     <message>
         <source>Möchten Sie die Änderungen tatsächlich verwerfen?</source>
         <translation>Do you really want to discard the changes?</translation>
+    </message>
+</context>
+<context>
+    <name>KalUpdateCheck</name>
+    <message>
+        <source>Die Versionsdatei des Update-Servers ist nicht lesbar.</source>
+        <translation>The update server&apos;s version file cannot be read.</translation>
+    </message>
+    <message>
+        <source>Sie verwenden die aktuelle Version %1.</source>
+        <translation>You are using the current version %1.</translation>
+    </message>
+    <message>
+        <source>Die Version %1 ist verfügbar, aber der Update-Server nennt keine gültige Download-Seite (http oder https).</source>
+        <translation>Version %1 is available, but the update server names no valid download page (http or https).</translation>
+    </message>
+    <message>
+        <source>Die Version %1 ist verfügbar (installiert ist %2).
+Download-Seite: %3</source>
+        <translation>Version %1 is available (%2 is installed).
+Download page: %3</translation>
+    </message>
+    <message>
+        <source>Es ist keine Update-Quelle eingerichtet (Einstellung &quot;%1&quot;).</source>
+        <translation>No update source is configured (setting &quot;%1&quot;).</translation>
+    </message>
+    <message>
+        <source>Die Update-Quelle &quot;%1&quot; ist keine http-, https- oder Datei-Adresse.</source>
+        <translation>The update source &quot;%1&quot; is not an http, https or file address.</translation>
+    </message>
+    <message>
+        <source>Die Antwort von %1 ist größer als %2 KB und wird nicht gelesen.</source>
+        <translation>The answer from %1 is larger than %2 KB and is not read.</translation>
+    </message>
+    <message>
+        <source>%1 hat nicht innerhalb von %2 Sekunden geantwortet.</source>
+        <translation>%1 did not answer within %2 seconds.</translation>
+    </message>
+    <message>
+        <source>Der Update-Server %1 antwortete mit dem Status %2.</source>
+        <translation>The update server %1 answered with status %2.</translation>
+    </message>
+    <message>
+        <source>Der Update-Server %1 hat die Verbindung abgelehnt.</source>
+        <translation>The update server %1 refused the connection.</translation>
+    </message>
+    <message>
+        <source>Der Update-Server %1 wurde nicht gefunden. Besteht eine Internetverbindung?</source>
+        <translation>The update server %1 was not found. Is there an internet connection?</translation>
+    </message>
+    <message>
+        <source>Die Versionsdatei %1 ist nicht vorhanden oder nicht lesbar.</source>
+        <translation>The version file %1 does not exist or cannot be read.</translation>
+    </message>
+    <message>
+        <source>Der Update-Server %1 ist nicht erreichbar.</source>
+        <translation>The update server %1 cannot be reached.</translation>
+    </message>
+</context>
+<context>
+    <name>KalUpdateTestCommand</name>
+    <message>
+        <source>Update Test</source>
+        <translation>Update Test</translation>
+    </message>
+    <message>
+        <source>Möchten Sie die Download-Seite öffnen?</source>
+        <translation>Would you like to open the download page?</translation>
+    </message>
+    <message>
+        <source>Die Download-Seite %1 konnte nicht geöffnet werden.</source>
+        <translation>The download page %1 could not be opened.</translation>
     </message>
 </context>
 <context>

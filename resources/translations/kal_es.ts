@@ -141,6 +141,41 @@ no existe.</translation>
     </message>
 </context>
 <context>
+    <name>KalCliImportJournal</name>
+    <message>
+        <source>Datenimport aus dem Bautagebuch</source>
+        <translation>Importación de datos del diario de obra</translation>
+    </message>
+    <message>
+        <source>Das Projekt ist mit dem Bautagebuch
+%1
+verknüpft. Soll es stattdessen mit
+%2
+verknüpft und daraus importiert werden?</source>
+        <translation>El proyecto está vinculado al diario de obra
+%1
+¿Desea vincularlo en su lugar a
+%2
+e importar desde él?</translation>
+    </message>
+    <message>
+        <source>Neu verknüpfen</source>
+        <translation>Volver a vincular</translation>
+    </message>
+    <message>
+        <source>Abbrechen</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Die Datei
+%1
+ist die Projektdatei selbst und keine Bautagebuch-Datei.</source>
+        <translation>El archivo
+%1
+es el propio archivo del proyecto y no un archivo de diario de obra.</translation>
+    </message>
+</context>
+<context>
     <name>KalCommandLine</name>
     <message>
         <source>
@@ -4675,6 +4710,78 @@ Si sale del editor de planos y lo vuelve a abrir para este defecto, se creará a
     <message>
         <source>Möchten Sie die Änderungen tatsächlich verwerfen?</source>
         <translation>¿Desea realmente descartar los cambios?</translation>
+    </message>
+</context>
+<context>
+    <name>KalUpdateCheck</name>
+    <message>
+        <source>Die Versionsdatei des Update-Servers ist nicht lesbar.</source>
+        <translation>No se puede leer el archivo de versión del servidor de actualizaciones.</translation>
+    </message>
+    <message>
+        <source>Sie verwenden die aktuelle Version %1.</source>
+        <translation>Está utilizando la versión actual %1.</translation>
+    </message>
+    <message>
+        <source>Die Version %1 ist verfügbar, aber der Update-Server nennt keine gültige Download-Seite (http oder https).</source>
+        <translation>La versión %1 está disponible, pero el servidor de actualizaciones no indica ninguna página de descarga válida (http o https).</translation>
+    </message>
+    <message>
+        <source>Die Version %1 ist verfügbar (installiert ist %2).
+Download-Seite: %3</source>
+        <translation>La versión %1 está disponible (instalada: %2).
+Página de descarga: %3</translation>
+    </message>
+    <message>
+        <source>Es ist keine Update-Quelle eingerichtet (Einstellung &quot;%1&quot;).</source>
+        <translation>No hay ninguna fuente de actualizaciones configurada (ajuste &quot;%1&quot;).</translation>
+    </message>
+    <message>
+        <source>Die Update-Quelle &quot;%1&quot; ist keine http-, https- oder Datei-Adresse.</source>
+        <translation>La fuente de actualizaciones &quot;%1&quot; no es una dirección http, https ni de archivo.</translation>
+    </message>
+    <message>
+        <source>Die Antwort von %1 ist größer als %2 KB und wird nicht gelesen.</source>
+        <translation>La respuesta de %1 supera los %2 KB y no se lee.</translation>
+    </message>
+    <message>
+        <source>%1 hat nicht innerhalb von %2 Sekunden geantwortet.</source>
+        <translation>%1 no ha respondido en %2 segundos.</translation>
+    </message>
+    <message>
+        <source>Der Update-Server %1 antwortete mit dem Status %2.</source>
+        <translation>El servidor de actualizaciones %1 respondió con el estado %2.</translation>
+    </message>
+    <message>
+        <source>Der Update-Server %1 hat die Verbindung abgelehnt.</source>
+        <translation>El servidor de actualizaciones %1 ha rechazado la conexión.</translation>
+    </message>
+    <message>
+        <source>Der Update-Server %1 wurde nicht gefunden. Besteht eine Internetverbindung?</source>
+        <translation>No se ha encontrado el servidor de actualizaciones %1. ¿Hay conexión a Internet?</translation>
+    </message>
+    <message>
+        <source>Die Versionsdatei %1 ist nicht vorhanden oder nicht lesbar.</source>
+        <translation>El archivo de versión %1 no existe o no se puede leer.</translation>
+    </message>
+    <message>
+        <source>Der Update-Server %1 ist nicht erreichbar.</source>
+        <translation>No se puede acceder al servidor de actualizaciones %1.</translation>
+    </message>
+</context>
+<context>
+    <name>KalUpdateTestCommand</name>
+    <message>
+        <source>Update Test</source>
+        <translation>Comprobar actualizaciones</translation>
+    </message>
+    <message>
+        <source>Möchten Sie die Download-Seite öffnen?</source>
+        <translation>¿Desea abrir la página de descarga?</translation>
+    </message>
+    <message>
+        <source>Die Download-Seite %1 konnte nicht geöffnet werden.</source>
+        <translation>No se ha podido abrir la página de descarga %1.</translation>
     </message>
 </context>
 <context>

@@ -6,6 +6,7 @@
 #include "cli/KalCliExportPhotos.h"
 #include "cli/KalCliExportPlan.h"
 #include "cli/KalCliImportCompanies.h"
+#include "cli/KalCliImportJournal.h"
 #include "cli/KalCliImportPlan.h"
 #include "cli/KalCliPrint.h"
 #include "cli/KalCliProject.h"
@@ -35,6 +36,10 @@ int main(int argc, char **argv)
          "import-companies FILE.pwp ADDRESSES.csv [--dry-run] [--separator C]\n"
          "             [--encoding utf-8|windows-1252|utf-16]",
          "add the companies of an address file the project lacks; --dry-run only shows them", kalCliImportCompanies},
+        {"import-journal", "import-journal FILE.pwp JOURNAL.sjd [--new-only]",
+         "import defects, photos and companies from a site journal (linked on first use) or update them, "
+         "save when anything changed; without --yes nothing is deleted or restored",
+         kalCliImportJournal},
         {"import-plan", "import-plan FILE.pwp PLAN.(pdf|jpg|png) [--name TEXT]",
          "import a plan (a PDF's first page), save with backups, print its id", kalCliImportPlan},
         {"export-plan", "export-plan FILE.pwp --plan ID --output OUT.png",

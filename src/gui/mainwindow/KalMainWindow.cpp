@@ -6,6 +6,7 @@
 #include "core/project/KalSqlTableModel.h"
 #include "gui/import/KalSiteJournalImportCommands.h"
 #include "gui/mainwindow/KalDefectTableLayout.h"
+#include "gui/mainwindow/KalUpdateTestCommand.h"
 #include "gui/plans/KalPlanPanel.h"
 #include "gui/widgets/KalItemDelegate.h"
 #include "gui/widgets/KalTableView.h"
@@ -147,7 +148,7 @@ const QVector<KalMainWindow::ActionSpec> &KalMainWindow::actionTable()
          QT_TR_NOOP("Wie übernehme ich Mängel und Firmen\nvon einem Mobilgerät?"), nullptr},
         {"actionProgramInfoDialog", "icon-info.ico", {}, &M::slotProgramInfoDialog, A::Always,
          QT_TR_NOOP("Info über Pellwick"), nullptr},
-        {"actionUpdateTest", "icon-update.ico", {}, nullptr, A::NotBuilt,
+        {"actionUpdateTest", "icon-update.ico", {}, nullptr, A::Always,
          QT_TR_NOOP("Auf Updates prüfen"), nullptr},
     };
     // clang-format on
@@ -222,6 +223,7 @@ KalMainWindow::KalMainWindow(QWidget *parent)
     connect(m_recentFiles, &KalRecentFiles::changed, this, &KalMainWindow::rebuildRecentMenu);
 
     createActions();
+    new KalUpdateTestCommand(action("actionUpdateTest"), this);
     createMenus();
     createCentralWidget();
 
