@@ -318,17 +318,24 @@ qint64 KalSiteJournalImportWriter::insertPhoto(qint64 defectId, const KalSiteJou
     const qint64 id = nextId(QStringLiteral("photo_info"));
     if (id < 0)
         return -1;
-    auto pos = m_nextPos.find(defectId);
-    if (pos == m_nextPos.end()) {
+    if (!m_nextPosLoaded) {
+        // photo_info has no index on defect_id: asking per defect would scan
+        // the table once for every imported defect. One pass reads them all;
+        // the map then follows every photo this writer adds.
         QSqlQuery query(m_db);
-        query.prepare(QStringLiteral("SELECT IFNULL(MAX(pos), 0) + 1 FROM photo_info WHERE defect_id = :id"));
-        query.bindValue(QStringLiteral(":id"), defectId);
-        if (!query.exec() || !query.next()) {
+        query.setForwardOnly(true);
+        if (!query.exec(
+                QStringLiteral("SELECT defect_id, IFNULL(MAX(pos), 0) + 1 FROM photo_info GROUP BY defect_id"))) {
             m_error = query.lastError().text();
             return -1;
         }
-        pos = m_nextPos.insert(defectId, query.value(0).toInt());
+        while (query.next())
+            m_nextPos.insert(query.value(0).toLongLong(), query.value(1).toInt());
+        m_nextPosLoaded = true;
     }
+    auto pos = m_nextPos.find(defectId);
+    if (pos == m_nextPos.end())
+        pos = m_nextPos.insert(defectId, 1);
     QSqlQuery query(m_db);
     query.prepare(QStringLiteral("INSERT INTO photo_info (id, caption, comment, date, defect_id, image_id, pos, "
                                  "site_journal_data_modified, site_journal_id, delete_on_import) VALUES (:id, "

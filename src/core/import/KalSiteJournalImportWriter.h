@@ -79,6 +79,7 @@ private:
     QSqlDatabase m_db;
     QHash<QString, qint64> m_lastIds;
     QHash<qint64, int> m_nextPos; // defect -> next photo pos
+    bool m_nextPosLoaded = false;
     QString m_error;
     int m_writes = 0;
 };
