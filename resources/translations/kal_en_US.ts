@@ -143,6 +143,10 @@ does not exist.</translation>
 <context>
     <name>KalCliImportJournal</name>
     <message>
+        <source>Ohne --yes bleiben Datensätze, die auf einer Seite gelöscht wurden, unverändert; das Programm fragt beim nächsten Import danach.</source>
+        <translation>Without --yes, records deleted on one side stay as they are; the program asks about them at the next import.</translation>
+    </message>
+    <message>
         <source>Datenimport aus dem Bautagebuch</source>
         <translation>Data import from the site journal</translation>
     </message>

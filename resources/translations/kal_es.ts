@@ -143,6 +143,10 @@ no existe.</translation>
 <context>
     <name>KalCliImportJournal</name>
     <message>
+        <source>Ohne --yes bleiben Datensätze, die auf einer Seite gelöscht wurden, unverändert; das Programm fragt beim nächsten Import danach.</source>
+        <translation>Sin --yes, los registros borrados en uno de los lados quedan como están; el programa preguntará por ellos en la próxima importación.</translation>
+    </message>
+    <message>
         <source>Datenimport aus dem Bautagebuch</source>
         <translation>Importación de datos del diario de obra</translation>
     </message>

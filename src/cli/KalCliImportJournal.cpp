@@ -172,5 +172,13 @@ int kalCliImportJournal(const QString &file, const QStringList &options)
     ImportProgress progress;
     KalDataImportNewDefectResolver resolver;
     KalSiteJournalDataImport import(&project, KalPrompt::instance(), &progress, &resolver);
+    // Nobody answers here without --yes: records deleted on one side stay as
+    // they are and no "Nein" is stored for them, so the program still asks.
+    const auto *prompt = dynamic_cast<KalStderrPrompt *>(KalPrompt::instance());
+    const bool weigh = prompt && prompt->assumesYes();
+    import.setWeighDeletions(weigh);
+    if (!weigh && mode != KalSiteJournalDataImport::Mode::Initial)
+        err(tr("Ohne --yes bleiben Datensätze, die auf einer Seite gelöscht wurden, unverändert; das "
+               "Programm fragt beim nächsten Import danach."));
     return finish(project, import.run(journal, mode));
 }

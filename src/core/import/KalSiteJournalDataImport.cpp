@@ -229,6 +229,7 @@ void KalSiteJournalDataImport::importChain(const QString &first, Mode mode, bool
         settings.linkValue = QDir::toNativeSeparators(current);
         settings.automaticImportMode = m_automaticImportMode;
         settings.minReportId = minReportId;
+        settings.weighDeletions = m_weighDeletions;
         KalSiteJournalImportRun run(m_project, m_progress, m_resolver, questions, result);
         if (!run.execute(file, settings))
             return;

@@ -118,6 +118,12 @@ public:
     // KalSiteJournalLockMarker::confirm). On by default.
     void setCheckLockMarker(bool check) { m_checkLockMarker = check; }
 
+    // Whether Update and App runs look at records deleted on one side (ask,
+    // delete or restore, and keep the answer). Off, such records are left
+    // as they are and nothing is remembered for them, so a later run still
+    // asks: for callers that cannot ask anyone. On by default.
+    void setWeighDeletions(bool weigh) { m_weighDeletions = weigh; }
+
     // Imports `journalPath`. Initial and Update/NewOnly link the project to
     // the file (`siteJournalDatabasePath`) in the same transaction. In
     // Initial mode a predecessor named by the file's `exportedFrom` is
@@ -148,6 +154,7 @@ private:
     KalProgress *m_progress;
     KalDataImportConflictResolver *m_resolver;
     int m_automaticImportMode = -1;
+    bool m_weighDeletions = true;
     bool m_checkLockMarker = true;
     QSet<QString> m_confirmed;
 };

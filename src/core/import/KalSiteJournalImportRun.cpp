@@ -69,7 +69,7 @@ KalSiteJournalImportRun::KalSiteJournalImportRun(KalProject *project, KalProgres
 
 bool KalSiteJournalImportRun::updates() const
 {
-    return m_settings.mode == Mode::Update || m_settings.mode == Mode::App;
+    return (m_settings.mode == Mode::Update || m_settings.mode == Mode::App) && m_settings.weighDeletions;
 }
 
 bool KalSiteJournalImportRun::newOnly() const

@@ -30,6 +30,7 @@ public:
         int automaticImportMode = -1;
         // Reports below this id belong to a predecessor file; -1 leaves the stored value.
         qint64 minReportId = -1;
+        bool weighDeletions = true;
     };
 
     KalSiteJournalImportRun(KalProject *project, KalProgress *progress, KalDataImportConflictResolver *resolver,
@@ -63,6 +64,7 @@ private:
     bool fail(const QString &what);
     QVariant projectCompanyFor(qint64 journalCompanyId) const;
     QString defectLine(const QVariantMap &values) const;
+    // Whether records deleted on one side are weighed (asked about, deleted or restored).
     bool updates() const;
     bool newOnly() const;
     bool inScope(const KalSiteJournalFile::Report &report) const;

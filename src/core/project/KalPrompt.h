@@ -73,6 +73,7 @@ public:
     explicit KalStderrPrompt(bool assumeYes = false);
     int show(const Message &message) override;
     void notice(const QString &title, const QString &text, int milliseconds) override;
+    bool assumesYes() const { return m_assumeYes; }
 
 private:
     bool m_assumeYes;
