@@ -144,8 +144,13 @@ bool KalSiteJournalFile::open(const QString &path, QString *error)
             // Only a read takes the lock; in exclusive mode it is kept until the
             // connection closes, so nobody writes the file while we read it.
             if (!pragma.exec(QStringLiteral("PRAGMA locking_mode = EXCLUSIVE")) ||
-                !pragma.exec(QStringLiteral("SELECT COUNT(*) FROM sqlite_master")) || !pragma.next())
-                failure = failedRead(tr("Sperre"), pragma.lastError().text());
+                !pragma.exec(QStringLiteral("SELECT COUNT(*) FROM sqlite_master")) || !pragma.next()) {
+                // Busy or locked means someone holds the file; anything else
+                // (not a database, damaged) is about its content.
+                const QString code = pragma.lastError().nativeErrorCode();
+                const bool locked = code == QLatin1String("5") || code == QLatin1String("6");
+                failure = failedRead(locked ? tr("Sperre") : tr("Aufbau"), pragma.lastError().text());
+            }
         }
     }
     if (!failure.isEmpty()) {

@@ -213,7 +213,7 @@ private slots:
         QTest::newRow("missing column") << "noColumn"
                                         << "Spalte \"roomname\" der Tabelle \"entry_progress\"" << 0;
         QTest::newRow("truncated") << "truncated"
-                                   << "Bautagebuch" << 0;
+                                   << "(Aufbau)" << 0;
         QTest::newRow("rollback journal beside it") << "hotJournal"
                                                     << "nicht abgeschlossene Änderung" << 0;
         QTest::newRow("WAL mode") << "wal"
