@@ -11,6 +11,8 @@
 #include <QPainter>
 #include <QSqlQuery>
 #include <QTextLayout>
+#include <QThread>
+#include <QThreadPool>
 #include <QVariant>
 #include <cmath>
 #include <limits>
@@ -62,6 +64,58 @@ KalPrintDocument::KalPrintDocument(QSqlDatabase db, const QVector<QFont> &fonts,
     , m_fonts(fonts)
     , m_listed(listed)
 {
+    // The painting thread encodes each picture again for the PDF; with two
+    // or more cores the decoders keep ahead of it.
+    if (QThread::idealThreadCount() > 1) {
+        m_pool = std::make_unique<QThreadPool>();
+        m_pool->setMaxThreadCount(QThread::idealThreadCount());
+    }
+}
+
+KalPrintDocument::~KalPrintDocument()
+{
+    // Decodes not started are dropped; running ones finish before the pool goes.
+    if (m_pool)
+        m_pool->clear();
+}
+
+bool KalPrintDocument::decodesAhead(const KalPrintItem &item)
+{
+    // Logos are decoded once for the run, excerpts are cut from a shared sheet.
+    return item.kind == KalPrintItem::Picture && item.source != KalPrintItem::Logo &&
+           !(item.source == KalPrintItem::PlanPicture && !item.clip.isNull());
+}
+
+// Starts decoding the pictures after the last one started, from `page` on,
+// until a few per core are under way or ready. The bytes are read here: the
+// database connection belongs to this thread.
+void KalPrintDocument::decodeAhead(int page, int dpi)
+{
+    if (!m_pool)
+        return;
+    if (m_aheadPage < page) {
+        m_aheadPage = page;
+        m_aheadItem = 0;
+    }
+    const int limit = 4 * m_pool->maxThreadCount();
+    while (m_ahead.size() < limit && m_aheadPage < pages.size()) {
+        const QVector<KalPrintItem> &items = pages.at(m_aheadPage).items;
+        if (m_aheadItem >= items.size()) {
+            ++m_aheadPage;
+            m_aheadItem = 0;
+            continue;
+        }
+        const int index = m_aheadItem++;
+        const KalPrintItem &item = items.at(index);
+        if (!decodesAhead(item))
+            continue;
+        auto task = std::make_shared<std::packaged_task<QImage()>>(
+            [data = storedBytes(item), target = printSize(item.rect.size(), dpi), clip = item.clip] {
+                return decode(data, target, clip);
+            });
+        m_ahead.insert(qMakePair(m_aheadPage, index), task->get_future().share());
+        m_pool->start(QRunnable::create([task] { (*task)(); }));
+    }
 }
 
 QSize KalPrintDocument::printSize(const QSizeF &rect, int dpi)
@@ -204,9 +258,8 @@ void KalPrintDocument::paintPlaceholder(QPainter &painter, const QRectF &rect)
     painter.restore();
 }
 
-void KalPrintDocument::paintPicture(QPainter &painter, const KalPrintItem &item)
+void KalPrintDocument::paintPicture(QPainter &painter, const KalPrintItem &item, const QImage &image)
 {
-    const QImage image = picture(item, printSize(item.rect.size(), painter.device()->logicalDpiX()));
     if (image.isNull()) {
         paintPlaceholder(painter, item.rect);
         return;
@@ -314,7 +367,13 @@ void KalPrintDocument::paintWrapped(QPainter &painter, const KalPrintItem &item,
 void KalPrintDocument::paintPage(QPainter &painter, int index)
 {
     const int count = pages.size();
-    for (const KalPrintItem &item : pages.at(index).items) {
+    const int dpi = painter.device()->logicalDpiX();
+    for (auto it = m_ahead.begin(); it != m_ahead.end();)
+        it = it.key().first < index ? m_ahead.erase(it) : std::next(it);
+    decodeAhead(index, dpi);
+    const QVector<KalPrintItem> &items = pages.at(index).items;
+    for (int i = 0; i < items.size(); ++i) {
+        const KalPrintItem &item = items.at(i);
         switch (item.kind) {
         case KalPrintItem::Text: {
             painter.setFont(m_fonts.value(item.font));
@@ -333,9 +392,18 @@ void KalPrintDocument::paintPage(QPainter &painter, int index)
             painter.setPen(QPen(item.color.isValid() ? item.color : QColor(Qt::black), 0));
             painter.drawLine(item.rect.topLeft(), item.rect.bottomRight());
             break;
-        case KalPrintItem::Picture:
-            paintPicture(painter, item);
+        case KalPrintItem::Picture: {
+            const auto ahead = m_ahead.find(qMakePair(index, i));
+            if (ahead == m_ahead.end()) {
+                paintPicture(painter, item, picture(item, printSize(item.rect.size(), dpi)));
+                break;
+            }
+            const QImage image = ahead->get();
+            m_ahead.erase(ahead);
+            decodeAhead(index, dpi);
+            paintPicture(painter, item, image);
             break;
+        }
         }
     }
 }

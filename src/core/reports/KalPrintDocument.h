@@ -11,8 +11,11 @@
 #include <QSqlDatabase>
 #include <QString>
 #include <QVector>
+#include <future>
+#include <memory>
 
 class QPainter;
+class QThreadPool;
 
 // One thing drawn on a page, placed in device pixels of the page's paint area.
 struct KalPrintItem
@@ -57,13 +60,15 @@ struct KalPrintPage
 // PDF holds each of them once. Plan excerpts are cut from one decoded copy
 // of their sheet kept for the run: the list visits the sheets in the order
 // of its defects, so a sheet decoded per excerpt would be decoded again and
-// again.
+// again. While a page is painted, the photos of the next pages are decoded
+// on the other cores: decoding is most of a long list's time.
 class KalPrintDocument
 {
     Q_DECLARE_TR_FUNCTIONS(KalPrintDocument)
 
 public:
     KalPrintDocument(QSqlDatabase db, const QVector<QFont> &fonts, const QSet<qint64> &listed);
+    ~KalPrintDocument();
 
     QVector<KalPrintPage> pages;
 
@@ -84,9 +89,11 @@ private:
     QImage picture(const KalPrintItem &item, const QSize &target);
     QImage excerpt(const KalPrintItem &item, const QSize &target);
     QByteArray storedBytes(const KalPrintItem &item);
-    void paintPicture(QPainter &painter, const KalPrintItem &item);
+    void paintPicture(QPainter &painter, const KalPrintItem &item, const QImage &image);
     void paintPlanItems(QPainter &painter, const KalPrintItem &item);
     void paintPlaceholder(QPainter &painter, const QRectF &rect);
+    void decodeAhead(int page, int dpi);
+    static bool decodesAhead(const KalPrintItem &item);
     void paintWrapped(QPainter &painter, const KalPrintItem &item, const QString &text);
 
     QSqlDatabase m_db;
@@ -104,4 +111,9 @@ private:
     QVector<Sheet> m_sheets;
     int m_placeholders = 0;
     int m_sheetDecodes = 0;
+    // Decodes started ahead, by page and item index; the next item to start.
+    std::unique_ptr<QThreadPool> m_pool;
+    QHash<QPair<int, int>, std::shared_future<QImage>> m_ahead;
+    int m_aheadPage = 0;
+    int m_aheadItem = 0;
 };
