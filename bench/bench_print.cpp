@@ -253,7 +253,9 @@ int main(int argc, char **argv)
     std::printf("print detailed with photos and annexes: %.0f ms wall, %.0f ms cpu\n", printMs, printCpu);
     std::printf("img2pdf over the same photos: %.0f ms wall, %.0f ms cpu\n", peerMs, peerCpu);
     std::printf("print / img2pdf (wall): %.2f (goal: <= 3)\n", printMs / qMax(1.0, peerMs));
-    std::printf("print / img2pdf (cpu): %.2f (goal: <= 3)\n", printCpu / qMax(1.0, peerCpu));
+    std::printf(
+        "print / img2pdf (cpu, all cores): %.2f (the goal is on wall time; this shows the work the decoders share)\n",
+        printCpu / qMax(1.0, peerCpu));
     std::printf("pdf size: %.1f MB, stored JPEG bytes: %.1f MB\n", pdfBytes / 1e6, storedBytes / 1e6);
     std::printf("pdf size / stored JPEG bytes: %.2f (goal: <= 1.2)\n", pdfBytes / qMax<qint64>(1, storedBytes));
     std::printf("peak RSS of printing: %.0f MB (goal: < 400 MB for 1,000+ pages)\n",
