@@ -256,10 +256,16 @@ struct ChildRun
     int exitCode = -1;
     double seconds = 0;
     long maxRssKb = 0;
+    // When the CLI's progress reached the import (after opening the project)
+    // and its last step (the records are written; commit and saving follow),
+    // in seconds from the start; negative when not seen.
+    double importStarted = -1;
+    double recordsWritten = -1;
 };
 
 // Runs the CLI as a child of its own and reads its peak memory from the
-// kernel's accounting of exactly that child.
+// kernel's accounting of exactly that child. Its progress on stderr is read
+// through a pipe, copied to the log and timed.
 ChildRun runCli(const QString &cli, const QStringList &args, const QString &log)
 {
     QList<QByteArray> storage{QFile::encodeName(cli)};
@@ -269,20 +275,42 @@ ChildRun runCli(const QString &cli, const QStringList &args, const QString &log)
     for (QByteArray &arg : storage)
         argv << arg.data();
     argv << nullptr;
+    ChildRun run;
+    int pipeFds[2];
+    if (::pipe(pipeFds) != 0)
+        return run;
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);
     const QByteArray logName = QFile::encodeName(log);
     posix_spawn_file_actions_addopen(&actions, 1, logName.constData(), O_WRONLY | O_CREAT | O_APPEND, 0644);
-    posix_spawn_file_actions_addopen(&actions, 2, logName.constData(), O_WRONLY | O_CREAT | O_APPEND, 0644);
-    ChildRun run;
+    posix_spawn_file_actions_adddup2(&actions, pipeFds[1], 2);
+    posix_spawn_file_actions_addclose(&actions, pipeFds[0]);
     QElapsedTimer t;
     t.start();
     pid_t pid = 0;
-    if (posix_spawn(&pid, argv.first(), &actions, nullptr, argv.data(), environ) != 0) {
-        posix_spawn_file_actions_destroy(&actions);
+    const int spawned = posix_spawn(&pid, argv.first(), &actions, nullptr, argv.data(), environ);
+    posix_spawn_file_actions_destroy(&actions);
+    ::close(pipeFds[1]);
+    if (spawned != 0) {
+        ::close(pipeFds[0]);
         return run;
     }
-    posix_spawn_file_actions_destroy(&actions);
+    QFile logFile(log);
+    logFile.open(QIODevice::WriteOnly | QIODevice::Append);
+    QByteArray pending;
+    char buffer[4096];
+    for (ssize_t n; (n = ::read(pipeFds[0], buffer, sizeof buffer)) > 0;) {
+        pending.append(buffer, int(n));
+        logFile.write(buffer, n);
+        for (int end; (end = pending.indexOf('\n')) >= 0; pending.remove(0, end + 1)) {
+            const QByteArray line = pending.left(end);
+            if (run.importStarted < 0 && line.contains("Datenimport aus dem Bautagebuch"))
+                run.importStarted = seconds(t);
+            if (run.recordsWritten < 0 && line.contains("Datenbank wird aktualisiert"))
+                run.recordsWritten = seconds(t);
+        }
+    }
+    ::close(pipeFds[0]);
     int status = 0;
     rusage usage{};
     if (wait4(pid, &status, 0, &usage) == pid) {
@@ -291,6 +319,17 @@ ChildRun runCli(const QString &cli, const QStringList &args, const QString &log)
         run.maxRssKb = usage.ru_maxrss;
     }
     return run;
+}
+
+// Where the CLI's time went, from its progress lines (German texts).
+void printPhases(const char *name, const ChildRun &run)
+{
+    if (run.importStarted < 0 || run.recordsWritten < run.importStarted) {
+        std::printf("%s_phases: not recognised in the progress output\n", name);
+        return;
+    }
+    std::printf("%s_phases: open %.2f s, import %.2f s, commit and save %.2f s\n", name, run.importStarted,
+                run.recordsWritten - run.importStarted, run.seconds - run.recordsWritten);
 }
 
 // The floor: what copying the journal's records into the project costs
@@ -482,6 +521,7 @@ int main(int argc, char **argv)
     std::printf("import_seconds: %.2f (pellwick-cli import-journal, start to exit, saved)\n", full.seconds);
     std::printf("import_ratio: %.2f (goal: <= 2)\n", full.seconds / floor);
     std::printf("import_peak_memory_mb: %.1f (goal: < 300)\n", full.maxRssKb / 1024.0);
+    printPhases("import", full);
 
     if (!changeOnePercent(journal, size, pictures))
         return 1;
@@ -494,5 +534,12 @@ int main(int argc, char **argv)
     std::printf("update_seconds: %.2f (1 %% of the defects changed, 1 %% more photos)\n", update.seconds);
     std::printf("update_ratio: %.2f (goal: <= 0.2)\n", update.seconds / full.seconds);
     std::printf("update_peak_memory_mb: %.1f\n", update.maxRssKb / 1024.0);
+    printPhases("update", update);
+    // Opening copies the project to its working copy and saving writes the
+    // whole file anew, however little changed; the import itself is what
+    // the user waits for in the progress window.
+    if (update.recordsWritten > 0 && full.recordsWritten > 0)
+        std::printf("update_import_step_ratio: %.3f (import step of the update / import step of the full import)\n",
+                    (update.recordsWritten - update.importStarted) / (full.recordsWritten - full.importStarted));
     return 0;
 }

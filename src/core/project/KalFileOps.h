@@ -17,6 +17,21 @@ bool linkOrCopy(const QString &from, const QString &to);
 // Copies and syncs; removes a partial target on failure. With `maxBytes`
 // set, only the first `maxBytes` bytes are copied.
 bool copyFile(const QString &from, const QString &to, qint64 maxBytes = -1);
+enum class DirectCopy { Done, NotAvailable, Failed };
+// Copies the first `size` bytes of the open descriptor `in` (read with
+// pread, so its offset and any lock on it stay as they are) into a new file
+// `to`, written past the page cache: a file that is synced right after
+// reaches the disk in one pass instead of filling the cache first.
+// NotAvailable where the file system or device takes no such writes (then
+// nothing is left at `to`; copy another way); Failed with `errno` in
+// `error`, `to` removed. Not synced.
+DirectCopy copyDirect(int in, const QString &to, qint64 size, int *error,
+                      const std::function<void(qint64 done, qint64 total)> &progress = {});
+// Reads the whole file once, front to back, so that it is in the system's
+// cache before a check reads it page by page in the order of its tree.
+// Call only while this process holds no lock on the file: closing the
+// descriptor used here drops such locks on POSIX systems.
+void readAhead(const QString &path);
 // Removes a file and, for SQLite files, its rollback journal.
 bool removeDatabaseFile(const QString &path);
 bool processAlive(qint64 pid);

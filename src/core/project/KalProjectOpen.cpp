@@ -180,6 +180,10 @@ bool probeProjectFile(KalOpenPlan &plan, QString *integrity)
     const QString name = QStringLiteral("VERSIONTEST");
     QString failure;
     QString failureTitle;
+    // The integrity check reads every page; a large file not in the cache
+    // would be read from the disk one page at a time.
+    if (KalFileOps::isRegularFile(plan.file))
+        KalFileOps::readAhead(plan.file);
     {
         QSqlDatabase probe = KalProjectLock::addProbeConnection(name, plan.file, false);
         if (!probe.open()) {
