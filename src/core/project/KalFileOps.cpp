@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <future>
 #include <memory>
 
 #ifdef Q_OS_UNIX
@@ -107,21 +108,36 @@ DirectCopy copyDirect(int in, const QString &to, qint64 size, int *error,
         *error = code;
         return result;
     };
+    // Two buffers: the next chunk is read while this one is written, so a
+    // source that is not in the cache costs no more than the writing.
     void *memory = nullptr;
-    if (posix_memalign(&memory, block, chunk) != 0)
+    if (posix_memalign(&memory, block, 2 * chunk) != 0)
         return end(ENOMEM, DirectCopy::NotAvailable);
     const std::unique_ptr<void, void (*)(void *)> buffer(memory, &free);
-    char *data = static_cast<char *>(memory);
-    for (qint64 done = 0; done < size;) {
-        const qint64 want = qMin(chunk, size - done);
+    char *const buffers[2] = {static_cast<char *>(memory), static_cast<char *>(memory) + chunk};
+    auto readChunk = [in, size, chunk](char *data, qint64 offset) {
+        const qint64 want = qMin(chunk, size - offset);
         for (qint64 got = 0; got < want;) {
-            const ssize_t n = ::pread(in, data + got, size_t(want - got), done + got);
+            const ssize_t n = ::pread(in, data + got, size_t(want - got), offset + got);
             if (n < 0 && errno == EINTR)
                 continue;
             if (n <= 0)
-                return end(n < 0 ? errno : EIO, DirectCopy::Failed);
+                return n < 0 ? errno : EIO;
             got += n;
         }
+        return 0;
+    };
+    // Declared after the buffers: leaving early waits for the read under way
+    // before the buffers are freed.
+    std::future<int> reading = std::async(std::launch::async, readChunk, buffers[0], qint64(0));
+    for (qint64 done = 0, turn = 0; done < size; turn ^= 1) {
+        const int readError = reading.get();
+        if (readError != 0)
+            return end(readError, DirectCopy::Failed);
+        const qint64 want = qMin(chunk, size - done);
+        if (done + want < size)
+            reading = std::async(std::launch::async, readChunk, buffers[turn ^ 1], done + want);
+        char *data = buffers[turn];
         // The last block is written whole and the file cut back afterwards.
         const qint64 padded = (want + block - 1) / block * block;
         memset(data + want, 0, size_t(padded - want));
