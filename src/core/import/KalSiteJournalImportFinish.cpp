@@ -47,8 +47,8 @@ bool KalSiteJournalImportRun::deletedInJournal()
         ++m_result->defects.deleted;
     }
     for (auto it = m_state.photos.constBegin(); it != m_state.photos.constEnd(); ++it) {
-        if (m_journalPhotoIds.contains(it.key()) || !m_claimed.contains(it->defectId) ||
-            deletedDefects.contains(it->defectId) || it->deleteOnImport != 1)
+        if (m_journalPhotoIds.contains(it.key()) || m_relinkedPhotos.contains(it.key()) ||
+            !m_claimed.contains(it->defectId) || deletedDefects.contains(it->defectId) || it->deleteOnImport != 1)
             continue;
         if (!m_questions->askPhoto(KalDataImportQuestions::DeletePhoto, it->caption, it->date)) {
             if (!m_writer.setFlag(QStringLiteral("photo_info"), QStringLiteral("delete_on_import"), it->id, 0))

@@ -176,6 +176,10 @@ bool KalSiteJournalImportRun::loadProject()
         m_photosOf[photos.at(i).relationId] << i;
         m_journalPhotoIds.insert(photos.at(i).id);
     }
+    for (auto it = m_state.photos.constBegin(); it != m_state.photos.constEnd(); ++it) {
+        if (!m_journalPhotoIds.contains(it.key()))
+            m_vanishedPhotos[it->defectId] << it.key();
+    }
     return true;
 }
 
@@ -454,6 +458,12 @@ bool KalSiteJournalImportRun::importPhotos(qint64 journalDefectId, qint64 projec
             }
             if (!m_writer.deleteRow(QStringLiteral("deleted_site_journal_photo_info"), tomb->id))
                 return fail(QStringLiteral("deleteRow"));
+        } else if (!defectIsNew) {
+            bool relinked = false;
+            if (!relinkPhoto(photo, projectDefectId, &relinked))
+                return false;
+            if (relinked)
+                continue;
         }
         bool imported = false;
         if (!importPhoto(photo, projectDefectId, &imported))
@@ -500,21 +510,53 @@ bool KalSiteJournalImportRun::importPhoto(const KalSiteJournalFile::Photo &photo
     return true;
 }
 
+// A journal rebuilt by its program gives its photos new ids. A photo of the
+// same defect whose old record is gone from the file, with the same picture
+// (told by its size and thumbnail, never by decoding), is that photo: it
+// takes the new id instead of coming in twice and being asked about as
+// deleted in the journal.
+bool KalSiteJournalImportRun::relinkPhoto(const KalSiteJournalFile::Photo &photo, qint64 projectDefectId,
+                                          bool *relinked)
+{
+    *relinked = false;
+    for (qint64 key : m_vanishedPhotos.value(projectDefectId)) {
+        if (m_relinkedPhotos.contains(key))
+            continue;
+        const ProjectPhoto &old = m_state.photos[key];
+        bool same = false;
+        if (!comparePictures(old.imageId, photo.imageId, &same) || !same)
+            continue;
+        if (!m_writer.setFlag(QStringLiteral("photo_info"), QStringLiteral("site_journal_id"), old.id, photo.id))
+            return fail(QStringLiteral("setFlag"));
+        m_relinkedPhotos.insert(key);
+        *relinked = true;
+        return newOnly() || updatePhoto(photo, old);
+    }
+    return true;
+}
+
+bool KalSiteJournalImportRun::comparePictures(qint64 projectImageId, qint64 journalImageId, bool *same)
+{
+    qint64 journalBytes = -1;
+    QByteArray journalThumbnail;
+    if (journalImageId < 0 || !m_file->readPictureKey(journalImageId, &journalBytes, &journalThumbnail))
+        return false;
+    QSqlQuery query(m_project->database());
+    query.prepare(QStringLiteral("SELECT length(image), thumbnail FROM image WHERE id = :id"));
+    query.bindValue(QStringLiteral(":id"), projectImageId);
+    if (!query.exec() || !query.next())
+        return false;
+    *same = query.value(0).toLongLong() == journalBytes && query.value(1).toByteArray() == journalThumbnail;
+    return true;
+}
+
 bool KalSiteJournalImportRun::updatePhoto(const KalSiteJournalFile::Photo &photo, const ProjectPhoto &known)
 {
     const bool textChanged = photo.caption != known.caption || photo.date != known.date;
     bool pictureChanged = false;
-    if (photo.modified) {
-        // Told from the byte count and thumbnail, never by decoding.
-        qint64 journalBytes = -1;
-        QByteArray journalThumbnail;
-        QSqlQuery query(m_project->database());
-        query.prepare(QStringLiteral("SELECT length(image), thumbnail FROM image WHERE id = :id"));
-        query.bindValue(QStringLiteral(":id"), known.imageId);
-        if (m_file->readPictureKey(photo.imageId, &journalBytes, &journalThumbnail) && query.exec() && query.next())
-            pictureChanged =
-                query.value(0).toLongLong() != journalBytes || query.value(1).toByteArray() != journalThumbnail;
-    }
+    bool same = true;
+    if (photo.modified && comparePictures(known.imageId, photo.imageId, &same))
+        pictureChanged = !same;
     if (!textChanged && !pictureChanged)
         return true;
     if (known.modified) {

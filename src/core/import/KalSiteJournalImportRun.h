@@ -57,6 +57,10 @@ private:
     bool importPhotos(qint64 journalDefectId, qint64 projectDefectId, bool defectIsNew);
     bool importPhoto(const KalSiteJournalFile::Photo &photo, qint64 projectDefectId, bool *imported);
     bool updatePhoto(const KalSiteJournalFile::Photo &photo, const ProjectPhoto &known);
+    bool relinkPhoto(const KalSiteJournalFile::Photo &photo, qint64 projectDefectId, bool *relinked);
+    // Whether both pictures could be looked at; `same` then tells whether
+    // they are the same bytes (size and thumbnail, without decoding).
+    bool comparePictures(qint64 projectImageId, qint64 journalImageId, bool *same);
     bool deletedInJournal();
     bool closedReportCompanies();
     bool writeLink();
@@ -86,7 +90,9 @@ private:
     QHash<qint64, QList<qint64>> m_photosOf; // journal defect -> its photos (indexes)
     QSet<qint64> m_touchedDefects;           // project defects whose photos changed
     QSet<qint64> m_journalPhotoIds;
-    QSet<qint64> m_presentReports; // project report rows the file still has
+    QHash<qint64, QList<qint64>> m_vanishedPhotos; // project defect -> old journal ids no longer in the file
+    QSet<qint64> m_relinkedPhotos;                 // of those, the ones a new journal record took over
+    QSet<qint64> m_presentReports;                 // project report rows the file still has
     bool m_canceled = false;
     int m_done = 0;
     int m_total = 0;

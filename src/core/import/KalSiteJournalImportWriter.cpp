@@ -385,7 +385,7 @@ bool KalSiteJournalImportWriter::deletePhoto(qint64 id)
     return true;
 }
 
-bool KalSiteJournalImportWriter::setFlag(const QString &table, const QString &column, qint64 id, int value)
+bool KalSiteJournalImportWriter::setFlag(const QString &table, const QString &column, qint64 id, qint64 value)
 {
     QSqlQuery query(m_db);
     // Table and column names come from the import's own code.

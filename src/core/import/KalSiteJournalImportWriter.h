@@ -56,7 +56,7 @@ public:
     bool deletePhoto(qint64 id);
 
     // Marks a record's "delete" / "restore" answer, or drops a tombstone.
-    bool setFlag(const QString &table, const QString &column, qint64 id, int value);
+    bool setFlag(const QString &table, const QString &column, qint64 id, qint64 value);
     bool deleteRow(const QString &table, qint64 id);
 
     bool addClosedReportCompany(qint64 siteJournalId, qint64 companyId);

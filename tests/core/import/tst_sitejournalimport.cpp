@@ -501,9 +501,10 @@ private slots:
     {
         const QString path = importBasic();
         {
-            // The journal was rebuilt: its defects got new ids; one also a new number.
+            // The journal was rebuilt: its defects and photos got new ids; one
+            // defect also a new number.
             KalTestJournal j = KalTestJournal::reopen(path);
-            QVERIFY(j.exec("UPDATE entry_progress SET id = id + 100 WHERE type = 4"));
+            QVERIFY(j.exec("UPDATE entry_progress SET id = id + 100"));
             QVERIFY(j.exec("UPDATE entry_progress SET relation_id = relation_id + 100 WHERE type = 2"));
             QVERIFY(j.exec("UPDATE entry_progress SET number = '2a' WHERE number = '2'"));
             const qint64 report = j.addReport(QStringLiteral("8"));
@@ -515,6 +516,10 @@ private slots:
         QCOMPARE(m_resolver.asked, QStringList{QStringLiteral("2a")});
         QCOMPARE(m_fx.count(QStringLiteral("defect")), 3);
         QCOMPARE(m_fx.count(QStringLiteral("defect"), QStringLiteral("site_journal_id > 100")), 3);
+        // The photo of the matched defect is the same picture: relinked, not
+        // imported again, and nobody is asked about its vanished old record.
+        QCOMPARE(m_fx.count(QStringLiteral("photo_info"), QStringLiteral("site_journal_id > 100")), 1);
+        QCOMPARE(m_fx.count(QStringLiteral("photo_info")), 1);
         QCOMPARE(m_prompt->texts(), QStringList());
     }
 
