@@ -27,11 +27,6 @@ void isolate()
     QSettings().clear();
 }
 
-QString scratchFolder()
-{
-    return scratch().path();
-}
-
 QString binDir()
 {
     const QString env = qEnvironmentVariable("PELLWICK_BIN_DIR");
